@@ -1,0 +1,54 @@
+# ExifTool and Leaflet come from the npm registry at the versions pinned in package-lock.json.
+# They are installed into the build tree, never into the sources, and only when the lock file
+# changes. ExifTool then sits at <directory of an executable>/Contents/Resources/exiftool,
+# the path the application looks in first.
+find_program(NPM_EXECUTABLE npm REQUIRED)
+find_program(PERL_EXECUTABLE perl REQUIRED)
+
+set(TAGSMITH_NPM_DIR ${CMAKE_BINARY_DIR}/npm)
+set(TAGSMITH_NPM_STAMP ${TAGSMITH_NPM_DIR}/node_modules/.package-lock.json)
+set(TAGSMITH_EXIFTOOL_DIR ${TAGSMITH_NPM_DIR}/node_modules/exiftool-vendored.pl/bin)
+set(TAGSMITH_LEAFLET_DIR ${TAGSMITH_NPM_DIR}/node_modules/leaflet/dist)
+
+add_custom_command(
+    OUTPUT ${TAGSMITH_NPM_STAMP}
+    COMMAND ${CMAKE_COMMAND} -E make_directory ${TAGSMITH_NPM_DIR}
+    COMMAND ${CMAKE_COMMAND} -E copy_if_different
+            ${PROJECT_SOURCE_DIR}/package.json ${PROJECT_SOURCE_DIR}/package-lock.json
+            ${TAGSMITH_NPM_DIR}
+    COMMAND ${NPM_EXECUTABLE} ci --no-audit --no-fund --loglevel=error
+    COMMAND ${CMAKE_COMMAND} -E touch ${TAGSMITH_NPM_STAMP}
+    WORKING_DIRECTORY ${CMAKE_BINARY_DIR}
+    DEPENDS ${PROJECT_SOURCE_DIR}/package.json ${PROJECT_SOURCE_DIR}/package-lock.json
+    COMMENT "Installing the pinned npm packages (ExifTool, Leaflet)"
+    VERBATIM)
+
+# Links <dir>/Contents/Resources/exiftool to the bundled ExifTool's bin folder, so the script
+# finds its lib folder beside it.
+function(tagsmith_link_exiftool dir)
+    set(link ${dir}/Contents/Resources/exiftool)
+    string(MAKE_C_IDENTIFIER "${link}" stamp_name)
+    set(stamp ${CMAKE_BINARY_DIR}/CMakeFiles/${stamp_name}.stamp)
+    add_custom_command(
+        OUTPUT ${stamp}
+        COMMAND ${CMAKE_COMMAND} -E make_directory ${dir}/Contents/Resources
+        COMMAND ${CMAKE_COMMAND} -E rm -rf ${link}
+        COMMAND ${CMAKE_COMMAND} -E create_symlink ${TAGSMITH_EXIFTOOL_DIR} ${link}
+        COMMAND ${CMAKE_COMMAND} -E touch ${stamp}
+        DEPENDS ${TAGSMITH_NPM_STAMP}
+        VERBATIM)
+    set_property(GLOBAL APPEND PROPERTY TAGSMITH_EXIFTOOL_LINKS ${stamp})
+endfunction()
+
+tagsmith_link_exiftool(${CMAKE_BINARY_DIR})
+tagsmith_link_exiftool(${CMAKE_BINARY_DIR}/tests)
+tagsmith_link_exiftool(${CMAKE_BINARY_DIR}/bench)
+get_property(exiftool_links GLOBAL PROPERTY TAGSMITH_EXIFTOOL_LINKS)
+add_custom_target(bundled_packages ALL DEPENDS ${TAGSMITH_NPM_STAMP} ${exiftool_links})
+
+# The bundled ExifTool, as tests and benchmarks call it directly.
+set(TAGSMITH_BUNDLED_EXIFTOOL ${CMAKE_BINARY_DIR}/Contents/Resources/exiftool/exiftool)
+
+install(DIRECTORY ${TAGSMITH_EXIFTOOL_DIR}/
+    DESTINATION ${CMAKE_INSTALL_BINDIR}/Contents/Resources/exiftool
+    USE_SOURCE_PERMISSIONS)

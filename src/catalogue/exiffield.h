@@ -1,0 +1,93 @@
+#pragma once
+
+#include "catalogue/fieldtypes.h"
+
+#include <QHash>
+#include <QString>
+
+#include <memory>
+#include <optional>
+
+class NumberFormatter;
+
+// One catalogue field: a tag key (Group:TagName) with its type, representation and, for
+// enumerations, the raw values with their display texts. Immutable once the catalogue is loaded.
+// A null QString means "absent".
+class ExifField
+{
+public:
+    const QString &groupName() const { return m_groupName; }
+    void setGroupName(const QString &name) { m_groupName = name; }
+    const QString &sectionName() const { return m_sectionName; }
+    void setSectionName(const QString &name) { m_sectionName = name; }
+    const QString &xmlName() const { return m_xmlName; }
+    void setXmlName(const QString &name) { m_xmlName = name; }
+    const QString &title() const { return m_title; }
+    void setTitle(const QString &title) { m_title = title; }
+    FieldDataType dataType() const { return m_dataType; }
+    void setDataType(FieldDataType type) { m_dataType = type; }
+    FieldDataRepresentation dataRepresentation() const { return m_dataRepresentation; }
+    void setDataRepresentation(FieldDataRepresentation r) { m_dataRepresentation = r; }
+    // Raw value as ExifTool writes it -> display text; nullopt for a field without values.
+    const std::optional<QHash<QString, QString>> &values() const { return m_values; }
+    void setValues(std::optional<QHash<QString, QString>> values) { m_values = std::move(values); }
+    bool enabled() const { return m_enabled; }
+    void setEnabled(bool enabled) { m_enabled = enabled; }
+    bool writable() const { return m_writable; }
+    void setWritable(bool writable) { m_writable = writable; }
+    qint64 decimals() const { return m_decimals; }
+    void setDecimals(qint64 decimals) { m_decimals = decimals; }
+    const QString &maker() const { return m_maker; }
+    void setMaker(const QString &maker) { m_maker = maker; }
+
+    // A new formatter for this field's numbers, in the user's locale.
+    std::unique_ptr<NumberFormatter> createFormatter() const;
+
+private:
+    QString m_groupName;
+    QString m_sectionName;
+    QString m_xmlName;
+    QString m_title;
+    FieldDataType m_dataType = FieldDataType::Unknown;
+    FieldDataRepresentation m_dataRepresentation = FieldDataRepresentation::None;
+    std::optional<QHash<QString, QString>> m_values;
+    bool m_enabled = false;
+    bool m_writable = true;
+    qint64 m_decimals = -1;
+    QString m_maker;
+};
+
+using ExifFieldPtr = std::shared_ptr<ExifField>;
+
+class Section
+{
+public:
+    explicit Section(QString name = QString()) : m_name(std::move(name)) {}
+    const QString &name() const { return m_name; }
+    const QList<ExifFieldPtr> &fields() const { return m_fields; }
+    void appendField(ExifFieldPtr field) { m_fields.append(std::move(field)); }
+
+private:
+    QString m_name;
+    QList<ExifFieldPtr> m_fields;
+};
+
+using SectionPtr = std::shared_ptr<Section>;
+
+class Group
+{
+public:
+    explicit Group(QString name = QString()) : m_name(std::move(name)) {}
+    const QString &name() const { return m_name; }
+    const QList<SectionPtr> &sections() const { return m_sections; }
+    void appendSection(SectionPtr section) { m_sections.append(std::move(section)); }
+    // Never filled by the loader and read by nobody; kept as an empty member.
+    const QHash<QString, SectionPtr> &sectionsMap() const { return m_sectionsMap; }
+
+private:
+    QString m_name;
+    QList<SectionPtr> m_sections;
+    QHash<QString, SectionPtr> m_sectionsMap;
+};
+
+using GroupPtr = std::shared_ptr<Group>;

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "catalogue/exiffield.h"
+
+#include <QHash>
+#include <QList>
+
+// The process-wide catalogue. Loaded once on the main thread at start-up and read-only after,
+// which is what makes reading it from background operations safe.
+class ExifFieldsController
+{
+public:
+    static ExifFieldsController *defaultInstance();
+
+    // Loads ":/Fields.xml" and localises it through the "CustomFields" and "Fields" tables.
+    void initializeConfigurations();
+
+    const QList<GroupPtr> &groups() const { return m_groups; }
+    // Deliberately called "configurations" although it holds fields: every field in file order.
+    const QList<ExifFieldPtr> &configurations() const { return m_configurations; }
+    // Tag key -> field; the later of two fields with the same key wins.
+    const QHash<QString, ExifFieldPtr> &configurationsMap() const { return m_configurationsMap; }
+    // The field of a tag key, or null.
+    ExifFieldPtr field(const QString &xmlName) const { return m_configurationsMap.value(xmlName); }
+
+private:
+    QList<GroupPtr> m_groups;
+    QList<ExifFieldPtr> m_configurations;
+    QHash<QString, ExifFieldPtr> m_configurationsMap;
+};

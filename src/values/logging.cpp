@@ -1,0 +1,3 @@
+#include "values/logging.h"
+
+Q_LOGGING_CATEGORY(lcTagsmith, "tagsmith")
