@@ -16,7 +16,8 @@ add_custom_command(
     COMMAND ${CMAKE_COMMAND} -E copy_if_different
             ${PROJECT_SOURCE_DIR}/package.json ${PROJECT_SOURCE_DIR}/package-lock.json
             ${TAGSMITH_NPM_DIR}
-    COMMAND ${NPM_EXECUTABLE} ci --no-audit --no-fund --loglevel=error
+    COMMAND ${CMAKE_COMMAND} -E chdir ${TAGSMITH_NPM_DIR}
+            ${NPM_EXECUTABLE} ci --no-audit --no-fund --loglevel=error
     COMMAND ${CMAKE_COMMAND} -E touch ${TAGSMITH_NPM_STAMP}
     WORKING_DIRECTORY ${CMAKE_BINARY_DIR}
     DEPENDS ${PROJECT_SOURCE_DIR}/package.json ${PROJECT_SOURCE_DIR}/package-lock.json
