@@ -4,6 +4,8 @@
 #include <QDeadlineTimer>
 #include <QProcess>
 
+#include <algorithm>
+
 ExifToolCommand::ExifToolCommand(QString program)
     : m_program(std::move(program))
 {
@@ -48,11 +50,11 @@ ExifToolResult ExifToolCommand::run(const QStringList &arguments, const OutputHa
             result.standardError = process.readAllStandardError();
             return result;
         }
-        const int slice = deadline.isForever() ? 1000
-                                               : int(qBound<qint64>(0, deadline.remainingTime(),
-                                                                    1000));
+        const int slice = deadline.isForever()
+                              ? 1000
+                              : int(std::clamp<qint64>(deadline.remainingTime(), 0, 1000));
         if (!process.waitForReadyRead(slice))
-            process.waitForFinished(0);
+            process.waitForFinished(slice);
         drain();
     }
     drain();
