@@ -1,0 +1,192 @@
+#include "catalogue/exifsettings.h"
+
+#include "catalogue/xmlwriter.h"
+#include "values/logging.h"
+#include "values/tagsmithexception.h"
+#include "values/usersettings.h"
+
+#include <QSettings>
+#include <QXmlStreamReader>
+
+#include <algorithm>
+
+namespace {
+
+const QString configurationElement = QStringLiteral("configuration");
+const QString modificationElement = QStringLiteral("field-modification");
+const QString removeElement = QStringLiteral("field-remove");
+const QString nameAttribute = QStringLiteral("name");
+const QString identifierAttribute = QStringLiteral("identifier");
+
+// QSettings reads an unquoted INI value holding commas back as a list.
+QString storedText(const QVariant &value)
+{
+    if (value.typeId() == QMetaType::QStringList)
+        return value.toStringList().join(u',');
+    return value.toString();
+}
+
+} // namespace
+
+ExifSettings &ExifSettings::instance()
+{
+    static ExifSettings settings;
+    return settings;
+}
+
+void ExifSettings::initializeSettings()
+{
+    const auto store = UserSettings::openStore();
+    const QString names = storedText(store->value(SettingsNamesKey));
+    if (names.isEmpty())
+        return;
+    for (const QString &identifier : names.split(u',')) {
+        const QString document = storedText(store->value(identifier));
+        if (document.isEmpty())
+            continue;
+        if (ExifConfigurationPtr configuration = loadConfigurationFromXml(document))
+            m_configurations.insert(identifier, configuration);
+        else
+            qCWarning(lcTagsmith) << "Skipping the unreadable preset" << identifier;
+    }
+}
+
+ExifConfigurationPtr ExifSettings::loadConfiguration(const QString &identifier) const
+{
+    return m_configurations.value(identifier);
+}
+
+void ExifSettings::saveConfiguration(const ExifConfigurationPtr &configuration)
+{
+    if (!m_configurations.contains(configuration->identifier())) {
+        m_configurations.insert(configuration->identifier(), configuration);
+        writeConfigurationNames();
+    }
+    UserSettings::setValue(configuration->identifier(), configurationToXml(*configuration));
+    fireConfigurationChangeEvent();
+}
+
+void ExifSettings::removeConfigurationIdentifier(const QString &identifier)
+{
+    m_configurations.remove(identifier);
+    writeConfigurationNames();
+    UserSettings::remove(identifier);
+    fireConfigurationChangeEvent();
+}
+
+QString ExifSettings::findUnusedNewIdentifier() const
+{
+    for (qint64 n = 0;; ++n) {
+        const QString identifier = QStringLiteral("configuration-%1").arg(n);
+        if (!m_configurations.contains(identifier))
+            return identifier;
+    }
+}
+
+void ExifSettings::addListener(ExifSettingsListener *listener)
+{
+    if (!m_listeners.contains(listener))
+        m_listeners.append(listener);
+}
+
+void ExifSettings::removeListener(ExifSettingsListener *listener)
+{
+    m_listeners.removeAll(listener);
+}
+
+QString ExifSettings::configurationToXml(const ExifConfiguration &configuration)
+{
+    XMLWriter writer;
+    writer.startElement(configurationElement);
+    writer.writeAttribute(nameAttribute, configuration.name());
+    writer.writeAttribute(identifierAttribute, configuration.identifier());
+    for (auto it = configuration.changedValues().cbegin();
+         it != configuration.changedValues().cend(); ++it) {
+        writer.startElement(modificationElement);
+        writer.writeAttribute(nameAttribute, it.key());
+        writer.writeContent(it.value());
+        writer.endElementNamed(modificationElement);
+    }
+    QStringList removed(configuration.removedValues().cbegin(),
+                        configuration.removedValues().cend());
+    std::sort(removed.begin(), removed.end());
+    for (const QString &key : std::as_const(removed)) {
+        writer.startElement(removeElement);
+        writer.writeAttribute(nameAttribute, key);
+        writer.endElementNamed(removeElement);
+    }
+    writer.endElementNamed(configurationElement);
+    return writer.output();
+}
+
+ExifConfigurationPtr ExifSettings::loadConfigurationFromXml(const QString &text)
+{
+    QXmlStreamReader reader(text);
+    ExifConfigurationPtr configuration;
+    QString fieldName;
+    QString textBuffer;
+    while (!reader.atEnd()) {
+        switch (reader.readNext()) {
+        case QXmlStreamReader::StartElement: {
+            textBuffer.clear();
+            const auto attributes = reader.attributes();
+            const auto name = reader.name();
+            if (name == configurationElement) {
+                configuration = std::make_shared<ExifConfiguration>(
+                    attributes.value(identifierAttribute).toString(),
+                    attributes.value(nameAttribute).toString());
+            } else if (!configuration) {
+                // Fields outside a preset have nowhere to go.
+            } else if (name == modificationElement) {
+                fieldName = attributes.value(nameAttribute).toString();
+            } else if (name == removeElement) {
+                configuration->removedValues().insert(attributes.value(nameAttribute).toString());
+            }
+            break;
+        }
+        case QXmlStreamReader::Characters:
+            textBuffer += reader.text();
+            break;
+        case QXmlStreamReader::EndElement:
+            if (configuration && reader.name() == modificationElement)
+                configuration->changedValues().insert(fieldName, textBuffer);
+            textBuffer.clear();
+            break;
+        default:
+            break;
+        }
+    }
+    if (reader.hasError()) {
+        qCWarning(lcTagsmith).noquote()
+            << QStringLiteral("Preset document unreadable at line %1, column %2: %3")
+                   .arg(reader.lineNumber())
+                   .arg(reader.columnNumber())
+                   .arg(reader.errorString());
+        return {};
+    }
+    return configuration;
+}
+
+void ExifSettings::writeConfigurationNames()
+{
+    UserSettings::setValue(SettingsNamesKey, m_configurations.keys().join(u','));
+}
+
+void ExifSettings::fireConfigurationChangeEvent()
+{
+    // A copy: a listener may add or remove listeners while being told.
+    const QList<ExifSettingsListener *> listeners = m_listeners;
+    for (ExifSettingsListener *listener : listeners) {
+        try {
+            listener->updateConfigurations();
+        } catch (const TagsmithException &e) {
+            qCWarning(lcTagsmith).noquote()
+                << QStringLiteral("Caught exception of name: %1 reason: %2")
+                       .arg(e.name(), e.reason());
+        } catch (const std::exception &e) {
+            qCWarning(lcTagsmith).noquote()
+                << QStringLiteral("Caught exception of name: %1 reason: %2")
+                       .arg(QStringLiteral("std::exception"), QString::fromUtf8(e.what()));
+        }
+    }
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QString>
+#include <QVariant>
+
+#include <memory>
+
+class QSettings;
+
+// The per-user settings store (organisation and application "Tagsmith") with the program's
+// registered defaults. Every call opens its own QSettings, so the engine may read the save
+// options from its background thread while the preferences window writes them.
+class UserSettings
+{
+public:
+    static inline const QString GpsFormat = QStringLiteral("GPS_FORMAT");
+    static inline const QString ForceFixBase = QStringLiteral("EXIFTOOL_OPTIONS_FORCE-F");
+    static inline const QString IgnoreMinorErrors = QStringLiteral("EXIFTOOL_OPTIONS_FORCE-m");
+    static inline const QString FileModifyDate = QStringLiteral("FILE_MODIFY_DATE");
+    static inline const QString FileCreateDate = QStringLiteral("FILE_CREATE_DATE");
+
+    enum class GpsDisplay {
+        DegreesMinutesSeconds = 0,
+        DegreesDecimalMinutes = 1,
+        DecimalDegrees = 2
+    };
+    enum class FileDate { FromMetadata = 0, KeepPrevious = 1, LeaveAsWritten = 2 };
+
+    // Sends every later store to this INI file instead of the user's (tests); empty restores
+    // the user's store.
+    static void setStoreFile(const QString &path);
+    static QString storeFile();
+    static std::unique_ptr<QSettings> openStore();
+
+    static QVariant defaultValue(const QString &key);
+    // The stored value, or the registered default when the user never set one.
+    static QVariant value(const QString &key);
+    static void setValue(const QString &key, const QVariant &value);
+    static void remove(const QString &key);
+
+    static int gpsFormat();
+    // Any stored number other than 1 and 2 shows degrees, minutes and seconds.
+    static GpsDisplay gpsDisplay();
+    static bool forceFixBase();
+    static bool ignoreMinorErrors();
+    static int fileModifyDate();
+    static int fileCreateDate();
+    // Numbers other than 0 and 1 leave the date the write produced.
+    static FileDate fileModifyDateMode();
+    static FileDate fileCreateDateMode();
+
+private:
+    static int intValue(const QString &key);
+};
