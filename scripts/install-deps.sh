@@ -3,7 +3,7 @@
 # already there. Runs apt-get directly as root, through sudo otherwise.
 set -eu
 
-packages="g++ make cmake ninja-build perl pkg-config
+packages="g++ make cmake ninja-build perl python3 pkg-config
 qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
 qt6-webengine-dev qt6-webchannel-dev qt6-image-formats-plugins libgl-dev
 xvfb xauth"
