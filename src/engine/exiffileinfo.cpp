@@ -1,0 +1,103 @@
+#include "engine/exiffileinfo.h"
+
+#include <QFileInfo>
+#include <QMutexLocker>
+
+ExifFileInfo::ExifFileInfo(QString fileName)
+    : m_fileName(std::move(fileName))
+{
+}
+
+TagDictionary ExifFileInfo::exifData() const
+{
+    QMutexLocker locker(&m_mutex);
+    return m_exifData;
+}
+
+void ExifFileInfo::setExifData(TagDictionary data)
+{
+    QMutexLocker locker(&m_mutex);
+    m_exifData = std::move(data);
+}
+
+QString ExifFileInfo::exifValue(const QString &key) const
+{
+    QMutexLocker locker(&m_mutex);
+    return m_exifData.value(key);
+}
+
+bool ExifFileInfo::hasExifValue(const QString &key) const
+{
+    QMutexLocker locker(&m_mutex);
+    return m_exifData.contains(key);
+}
+
+void ExifFileInfo::setExifValue(const QString &key, const QString &value)
+{
+    QMutexLocker locker(&m_mutex);
+    m_exifData.insert(key, value);
+}
+
+void ExifFileInfo::removeExifValue(const QString &key)
+{
+    QMutexLocker locker(&m_mutex);
+    m_exifData.remove(key);
+}
+
+TagDictionary ExifFileInfo::originalExifData() const
+{
+    QMutexLocker locker(&m_mutex);
+    return m_originalExifData;
+}
+
+void ExifFileInfo::setOriginalExifData(TagDictionary data)
+{
+    QMutexLocker locker(&m_mutex);
+    m_originalExifData = std::move(data);
+}
+
+void ExifFileInfo::setReadData(const TagDictionary &data)
+{
+    QMutexLocker locker(&m_mutex);
+    m_exifData = data;
+    m_originalExifData = data;
+    m_valid = true;
+}
+
+bool ExifFileInfo::isValid() const
+{
+    QMutexLocker locker(&m_mutex);
+    return m_valid;
+}
+
+void ExifFileInfo::setValid(bool valid)
+{
+    QMutexLocker locker(&m_mutex);
+    m_valid = valid;
+}
+
+bool ExifFileInfo::hasError() const
+{
+    QMutexLocker locker(&m_mutex);
+    // The second key has no group although reads always give grouped keys; it is kept as it
+    // always was looked up.
+    return m_exifData.contains(QStringLiteral("ExifIFD:MakerNoteUnknownBinary")) ||
+           m_exifData.contains(QStringLiteral("MakerNoteUnknownText"));
+}
+
+QString ExifFileInfo::backupFileName() const
+{
+    const QFileInfo info(m_fileName);
+    const QString name = info.fileName();
+    // Only the last extension counts, and a leading dot does not start one.
+    const qsizetype dot = name.lastIndexOf(QLatin1Char('.'));
+    const QString stem = dot > 0 ? name.left(dot) : name;
+    const QString extension = dot > 0 ? name.mid(dot + 1) : QString();
+    const QString directory = info.path() + QLatin1Char('/');
+    // Without an extension the name still ends in ".bak." with its trailing dot, on purpose.
+    QString candidate = directory + stem + QStringLiteral(".bak.") + extension;
+    for (qint64 n = 1; QFileInfo::exists(candidate) || QFileInfo(candidate).isSymLink(); ++n)
+        candidate = directory + stem + QStringLiteral(".bak") + QString::number(n) +
+                    QLatin1Char('.') + extension;
+    return candidate;
+}

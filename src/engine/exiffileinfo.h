@@ -1,0 +1,53 @@
+#pragma once
+
+#include "engine/tagdictionary.h"
+
+#include <QMutex>
+#include <QString>
+
+#include <memory>
+
+// One image file, shared between the main thread and a background operation: every accessor
+// takes the record's lock and hands out copies, so neither side sees a half-replaced dictionary.
+class ExifFileInfo
+{
+public:
+    explicit ExifFileInfo(QString fileName);
+
+    // Absolute path; also the file's identity, so it never changes.
+    const QString &fileName() const { return m_fileName; }
+
+    // Current, editable values; empty until the file is read.
+    TagDictionary exifData() const;
+    void setExifData(TagDictionary data);
+    QString exifValue(const QString &key) const;
+    bool hasExifValue(const QString &key) const;
+    void setExifValue(const QString &key, const QString &value);
+    void removeExifValue(const QString &key);
+
+    // What the file held when last read; only ever replaced as a whole.
+    TagDictionary originalExifData() const;
+    void setOriginalExifData(TagDictionary data);
+
+    // Sets both dictionaries and the valid flag in one step, as a read does.
+    void setReadData(const TagDictionary &data);
+
+    bool isValid() const;
+    void setValid(bool valid);
+
+    // True when ExifTool could not decode the maker notes.
+    bool hasError() const;
+
+    // First free name for a backup copy next to the file: IMG_1.bak.jpg, then IMG_1.bak1.jpg,
+    // IMG_1.bak2.jpg and so on.
+    QString backupFileName() const;
+
+private:
+    const QString m_fileName;
+    mutable QMutex m_mutex;
+    TagDictionary m_exifData;
+    TagDictionary m_originalExifData;
+    bool m_valid = false;
+};
+
+using ExifFileInfoPtr = std::shared_ptr<ExifFileInfo>;

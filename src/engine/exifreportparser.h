@@ -1,0 +1,47 @@
+#pragma once
+
+#include "engine/tagdictionary.h"
+
+#include <QByteArray>
+#include <QHash>
+#include <QString>
+#include <QStringView>
+#include <QXmlStreamReader>
+
+// Turns ExifTool's RDF/XML report ("-g1 -X") into one tag dictionary per file, keyed by
+// "<System:Directory>/<System:FileName>" as ExifTool printed them. Fed in chunks as the output
+// arrives, so a large batch is parsed while ExifTool is still reading files.
+class ExifReportParser
+{
+public:
+    ExifReportParser();
+
+    void addData(const QByteArray &chunk);
+    // The records completed so far; a malformed report keeps those before the fault.
+    // Resets the parser for the next report.
+    QHash<QString, TagDictionary> finish();
+
+    // True once the report turned out malformed; later data is ignored.
+    bool hasFailed() const { return m_failed; }
+
+    static QHash<QString, TagDictionary> parse(const QByteArray &report);
+
+private:
+    void readAvailable();
+    void handleStart(QStringView name);
+    void handleEnd(QStringView name);
+
+    QXmlStreamReader m_reader;
+    bool m_failed = false;
+    QHash<QString, TagDictionary> m_filesDictionary;
+    TagDictionary m_currentParserDictionary;
+    QString m_currentElementName;
+    QString m_currentDirName;
+    QString m_currentFileName;
+    QString m_textBuffer;
+    // Characters are kept only between an element's start and the next end; a null buffer
+    // drops them.
+    bool m_hasTextBuffer = false;
+    // 0 outside a record, 1 inside a record between tags, 2 inside a tag element.
+    qint32 m_parsePosition = 0;
+};

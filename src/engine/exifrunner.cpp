@@ -1,0 +1,213 @@
+#include "engine/exifrunner.h"
+
+#include "engine/errormessages.h"
+#include "engine/exifreportparser.h"
+#include "catalogue/exiffield.h"
+#include "catalogue/exiffieldscontroller.h"
+#include "values/logging.h"
+#include "values/numberformatter.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+
+namespace {
+
+bool existsOnDisk(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.exists() || info.isSymLink();
+}
+
+} // namespace
+
+ExifRunner::ExifRunner(QString exifToolProgram)
+    : m_command(std::move(exifToolProgram))
+{
+}
+
+ExifRunner::~ExifRunner() = default;
+
+QStringList ExifRunner::readCommandArguments(const QStringList &paths)
+{
+    QStringList arguments{QStringLiteral("-g1"), QStringLiteral("-X"), QStringLiteral("-n"),
+                          QStringLiteral("-charset"), QStringLiteral("UTF-8")};
+    arguments += paths;
+    return arguments;
+}
+
+ExifToolResult ExifRunner::executeRawCommand_FileInfo(const QStringList &paths) const
+{
+    return m_command.run(readCommandArguments(paths));
+}
+
+ExifRunner::Report ExifRunner::readReport(const QStringList &paths)
+{
+    Report report;
+    ExifReportParser parser;
+    const ExifToolResult run =
+        m_command.run(readCommandArguments(paths),
+                      [&parser](QByteArrayView chunk) { parser.addData(chunk.toByteArray()); });
+    report.records = parser.finish();
+    report.ran = run.hasStarted();
+    if (!run.hasStarted()) {
+        qCWarning(lcTagsmith).noquote() << run.errorMessage;
+        report.result.errorMessage = run.errorMessage;
+    } else if (run.outcome != ExifToolResult::Outcome::Finished) {
+        // What arrived before the crash is still the files' true content.
+        qCWarning(lcTagsmith).noquote() << run.errorMessage;
+        report.result.errorMessage = run.errorMessage;
+    }
+    return report;
+}
+
+ExifReadResult ExifRunner::loadExifInformations(const QList<ExifFileInfoPtr> &files)
+{
+    QList<ExifFileInfoPtr> kept;
+    QStringList paths;
+    for (const ExifFileInfoPtr &file : files) {
+        if (!existsOnDisk(file->fileName())) {
+            file->setValid(false);
+            continue;
+        }
+        kept.append(file);
+        paths.append(file->fileName());
+    }
+    if (kept.isEmpty())
+        return {};
+
+    const Report report = readReport(paths);
+    if (!report.ran)
+        return report.result;
+    m_cachesFormatters = true;
+    for (const ExifFileInfoPtr &file : std::as_const(kept))
+        file->setReadData(preformatValues(report.records.value(file->fileName())));
+    m_cachesFormatters = false;
+    m_formatters.clear();
+    return report.result;
+}
+
+ExifReadResult ExifRunner::loadExifInformation(const ExifFileInfoPtr &file)
+{
+    return loadExifInformations({file});
+}
+
+ExifReadResult ExifRunner::updateOriginalExifInformation(const ExifFileInfoPtr &file)
+{
+    if (!existsOnDisk(file->fileName()))
+        return {};
+    const Report report = readReport({file->fileName()});
+    if (!report.ran)
+        return report.result;
+    file->setOriginalExifData(preformatValues(report.records.value(file->fileName())));
+    return report.result;
+}
+
+TagDictionary ExifRunner::preformatValues(const TagDictionary &values)
+{
+    const ExifFieldsController *catalogue = ExifFieldsController::defaultInstance();
+    TagDictionary formatted;
+    formatted.reserve(values.size());
+    for (auto it = values.cbegin(); it != values.cend(); ++it) {
+        const ExifFieldPtr field = catalogue->field(it.key());
+        formatted.insert(it.key(), field ? formatValue(it.value(), *field) : it.value());
+    }
+    filterLeicaLensData(formatted);
+    return formatted;
+}
+
+QString ExifRunner::formatValue(const QString &value, const ExifField &field)
+{
+    if (field.dataRepresentation() == FieldDataRepresentation::Number)
+        return formatNumberFromExifTool(value, field);
+    return value;
+}
+
+QString ExifRunner::formatNumberFromExifTool(const QString &value, const ExifField &field)
+{
+    if (value.isEmpty())
+        return QString(QLatin1String(""));
+    if (!m_cachesFormatters)
+        return field.createFormatter()->stringFromNumber(leadingNumber(value));
+    std::unique_ptr<NumberFormatter> &formatter = m_formatters[&field];
+    if (!formatter)
+        formatter = field.createFormatter();
+    return formatter->stringFromNumber(leadingNumber(value));
+}
+
+double ExifRunner::leadingNumber(const QString &value)
+{
+    // Hand-scanned rather than strtod: the C locale of a Qt program follows the user's, and a
+    // German one would stop at the full stop.
+    const qsizetype size = value.size();
+    qsizetype i = 0;
+    while (i < size && value.at(i).isSpace())
+        ++i;
+    const qsizetype start = i;
+    if (i < size && (value.at(i) == QLatin1Char('+') || value.at(i) == QLatin1Char('-')))
+        ++i;
+    const auto isDigit = [&](qsizetype at) {
+        return at < size && value.at(at) >= QLatin1Char('0') && value.at(at) <= QLatin1Char('9');
+    };
+    bool hasDigits = false;
+    while (isDigit(i)) {
+        ++i;
+        hasDigits = true;
+    }
+    if (i < size && value.at(i) == QLatin1Char('.')) {
+        ++i;
+        while (isDigit(i)) {
+            ++i;
+            hasDigits = true;
+        }
+    }
+    if (!hasDigits)
+        return 0;
+    qsizetype end = i;
+    if (i < size && (value.at(i) == QLatin1Char('e') || value.at(i) == QLatin1Char('E'))) {
+        qsizetype j = i + 1;
+        if (j < size && (value.at(j) == QLatin1Char('+') || value.at(j) == QLatin1Char('-')))
+            ++j;
+        if (isDigit(j)) {
+            while (isDigit(j))
+                ++j;
+            end = j;
+        }
+    }
+    bool ok = false;
+    const double number = value.mid(start, end - start).toLatin1().toDouble(&ok);
+    return ok ? number : 0;
+}
+
+void ExifRunner::filterLeicaLensData(TagDictionary &values)
+{
+    static const QString lensTypeKey = QStringLiteral("Leica:LensType");
+    auto lensType = values.find(lensTypeKey);
+    if (lensType == values.end())
+        return;
+    const ExifFieldPtr field = ExifFieldsController::defaultInstance()->field(lensTypeKey);
+    if (field && field->values() && field->values()->contains(*lensType))
+        return;
+    // ExifTool appends the focal length to lens codes the catalogue lists on their own.
+    *lensType = lensType->section(QLatin1Char(' '), 0, 0);
+}
+
+bool ExifRunner::backupExifFile(const ExifFileInfo &file, ErrorMessages &errors)
+{
+    const QString backupPath = file.backupFileName();
+    QFile source(file.fileName());
+    if (source.copy(backupPath))
+        return true;
+    if (!source.errorString().isEmpty()) {
+        errors.addErrorMessage(
+            ErrorMessage(file.fileName(), source.errorString(), ErrorMessage::Error));
+        return false;
+    }
+    // A failure that names no cause has always counted as done; only the message tells.
+    errors.addErrorMessage(ErrorMessage(
+        file.fileName(),
+        QCoreApplication::translate("Localizable", "Cannot make backup of file %1 to %2")
+            .arg(file.fileName(), backupPath),
+        ErrorMessage::Error));
+    return true;
+}

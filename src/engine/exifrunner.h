@@ -1,0 +1,79 @@
+#pragma once
+
+#include "engine/exiffileinfo.h"
+#include "engine/exiftoolcommand.h"
+#include "engine/tagdictionary.h"
+
+#include <QHash>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+#include <unordered_map>
+
+class ErrorMessages;
+class ExifField;
+class NumberFormatter;
+
+// How a read went. The records are filled whenever ExifTool ran; when it could not be started
+// they are left as they were and the message says which program was tried.
+struct ExifReadResult
+{
+    QString errorMessage; // user-presentable; empty when ExifTool ran
+
+    bool ok() const { return errorMessage.isEmpty(); }
+};
+
+// Reads files' metadata with one ExifTool run per call. Not reentrant: one instance per thread.
+class ExifRunner
+{
+public:
+    explicit ExifRunner(QString exifToolProgram = exifToolPath());
+    ~ExifRunner();
+    ExifRunner(const ExifRunner &) = delete;
+    ExifRunner &operator=(const ExifRunner &) = delete;
+
+    bool backupFiles() const { return m_backupFiles; }
+    void setBackupFiles(bool backup) { m_backupFiles = backup; }
+
+    // Missing files become not valid and stay out of the run; every other file is valid
+    // afterwards, with empty dictionaries when ExifTool reported nothing for it.
+    ExifReadResult loadExifInformations(const QList<ExifFileInfoPtr> &files);
+    // The same for one file; a missing file only becomes not valid.
+    ExifReadResult loadExifInformation(const ExifFileInfoPtr &file);
+    // Replaces only the as-read snapshot; a missing file changes nothing.
+    ExifReadResult updateOriginalExifInformation(const ExifFileInfoPtr &file);
+
+    // The bare read command over the given paths; the report is in standardOutput.
+    ExifToolResult executeRawCommand_FileInfo(const QStringList &paths) const;
+    static QStringList readCommandArguments(const QStringList &paths);
+
+    TagDictionary preformatValues(const TagDictionary &values);
+    QString formatValue(const QString &value, const ExifField &field);
+    QString formatNumberFromExifTool(const QString &value, const ExifField &field);
+    static void filterLeicaLensData(TagDictionary &values);
+
+    // Copies the file to its first free backup name. Failures go to errors.
+    static bool backupExifFile(const ExifFileInfo &file, ErrorMessages &errors);
+
+    // The leading decimal number of an ExifTool value, read with a full stop whatever the
+    // locale; trailing text is ignored and no number gives 0.
+    static double leadingNumber(const QString &value);
+
+private:
+    struct Report
+    {
+        QHash<QString, TagDictionary> records;
+        ExifReadResult result;
+        bool ran = false;
+    };
+    Report readReport(const QStringList &paths);
+
+    ExifToolCommand m_command;
+    bool m_backupFiles = false;
+    // A formatter per field for the length of one batch; making one per value would dominate a
+    // large read. Only within a batch, as the catalogue is the only owner of the fields.
+    bool m_cachesFormatters = false;
+    std::unordered_map<const ExifField *, std::unique_ptr<NumberFormatter>> m_formatters;
+};
