@@ -1,0 +1,259 @@
+#include "values/dateoffset.h"
+
+#include "values/datevalue.h"
+
+#include <limits>
+
+namespace {
+
+bool isOffsetSpace(QChar c)
+{
+    return c == u' ' || c == u'\t' || c == u'\n' || c == u'\v' || c == u'\f' || c == u'\r';
+}
+
+class OffsetScanner
+{
+public:
+    explicit OffsetScanner(const QString &text)
+        : m_text(text)
+    {
+    }
+
+    bool atEnd() const { return m_pos >= m_text.size(); }
+    QChar peek() const { return atEnd() ? QChar() : m_text.at(m_pos); }
+    void advance() { ++m_pos; }
+    void skipSpace()
+    {
+        while (!atEnd() && isOffsetSpace(peek()))
+            ++m_pos;
+    }
+
+    std::optional<qint64> number()
+    {
+        qsizetype pos = m_pos;
+        const bool negative = pos < m_text.size() && m_text.at(pos) == u'-';
+        if (negative)
+            ++pos;
+        const qsizetype digitsStart = pos;
+        qint64 value = 0;
+        for (; pos < m_text.size() && m_text.at(pos).isDigit() && m_text.at(pos).unicode() < 128;
+             ++pos) {
+            const int digit = m_text.at(pos).unicode() - u'0';
+            if (value <= (std::numeric_limits<qint64>::max() - digit) / 10)
+                value = value * 10 + digit;
+        }
+        if (pos == digitsStart)
+            return std::nullopt;
+        m_pos = pos;
+        return negative ? -value : value;
+    }
+
+    QStringView word()
+    {
+        const qsizetype start = m_pos;
+        while (!atEnd() && peek().isLetter())
+            ++m_pos;
+        return QStringView(m_text).mid(start, m_pos - start);
+    }
+
+private:
+    const QString &m_text;
+    qsizetype m_pos = 0;
+};
+
+QString formatUnits(const DateComponents &offset, bool plus, bool spaced)
+{
+    QString text = plus ? QStringLiteral("+") : QStringLiteral("-");
+    const struct
+    {
+        qint64 value;
+        char letter;
+    } units[] = {{offset.year, 'y'}, {offset.month, 'M'},  {offset.day, 'd'},
+                 {offset.hour, 'h'}, {offset.minute, 'm'}, {offset.second, 's'}};
+    for (const auto &unit : units) {
+        if (unit.value == 0)
+            continue;
+        text += QString::number(qAbs(unit.value)) + QLatin1Char(unit.letter);
+        if (spaced && unit.letter != 's')
+            text += u' ';
+    }
+    return text;
+}
+
+DateComponents magnitudes(const DateComponents &offset, bool negate)
+{
+    const qint64 sign = negate ? -1 : 1;
+    DateComponents units;
+    units.year = sign * qAbs(offset.year);
+    units.month = sign * qAbs(offset.month);
+    units.day = sign * qAbs(offset.day);
+    units.hour = sign * qAbs(offset.hour);
+    units.minute = sign * qAbs(offset.minute);
+    units.second = sign * qAbs(offset.second);
+    return units;
+}
+
+// How many whole units lie between start and target, largest first, the way a Gregorian calendar
+// computes a difference: start moves to start + result so the next, smaller unit continues there.
+qint64 unitDifference(QDateTime &start, const QDateTime &target, qint64 DateComponents::*unit)
+{
+    const qint64 goal = target.toMSecsSinceEpoch();
+    auto reach = [&start](qint64 n, qint64 DateComponents::*field) {
+        DateComponents step;
+        step.*field = n;
+        return addDateComponents(start, step);
+    };
+    const qint64 direction = goal >= start.toMSecsSinceEpoch() ? 1 : -1;
+    auto beyond = [&](qint64 n) {
+        const QDateTime moved = reach(n * direction, unit);
+        return !moved.isValid() || (moved.toMSecsSinceEpoch() - goal) * direction > 0;
+    };
+    qint64 low = 0;
+    qint64 high = 1;
+    while (!beyond(high)) {
+        low = high;
+        if (high > std::numeric_limits<qint64>::max() / 4)
+            break;
+        high *= 2;
+    }
+    while (high - low > 1) {
+        const qint64 middle = low + (high - low) / 2;
+        if (beyond(middle))
+            high = middle;
+        else
+            low = middle;
+    }
+    start = reach(low * direction, unit);
+    return low * direction;
+}
+
+DateComponents calendarDifference(const QDateTime &from, const QDateTime &to)
+{
+    DateComponents difference;
+    QDateTime cursor = from;
+    for (auto unit : {&DateComponents::year, &DateComponents::month, &DateComponents::day,
+                      &DateComponents::hour, &DateComponents::minute, &DateComponents::second})
+        difference.*unit = unitDifference(cursor, to, unit);
+    return difference;
+}
+
+} // namespace
+
+bool isDateOffsetText(const QString &text)
+{
+    return text.contains(u'+') || text.contains(u'-');
+}
+
+DateComponents parseDateOffset(const QString &text)
+{
+    DateComponents offset;
+    OffsetScanner scanner(text);
+    scanner.skipSpace();
+    if (scanner.atEnd())
+        return offset;
+    offset.era = 1;
+    if (scanner.peek() == u'+' || scanner.peek() == u'-') {
+        offset.era = scanner.peek() == u'+' ? 1 : 0;
+        scanner.advance();
+    }
+    for (;;) {
+        scanner.skipSpace();
+        if (scanner.atEnd())
+            break;
+        const std::optional<qint64> number = scanner.number();
+        if (!number)
+            break;
+        scanner.skipSpace();
+        const QStringView word = scanner.word();
+        // A number with no unit after it ("+1") is dropped.
+        if (word.isEmpty())
+            break;
+        switch (word.front().unicode()) {
+        case u'y':
+            offset.year = *number;
+            break;
+        case u'M':
+            offset.month = *number;
+            break;
+        case u'd':
+            offset.day = *number;
+            break;
+        case u'h':
+            offset.hour = *number;
+            break;
+        case u'm':
+            offset.minute = *number;
+            break;
+        case u's':
+            offset.second = *number;
+            break;
+        default:
+            break;
+        }
+    }
+    return offset;
+}
+
+DateComponents parseDateOffsetDateOnly(const QString &text)
+{
+    DateComponents offset = parseDateOffset(text);
+    offset.hour = 0;
+    offset.minute = 0;
+    offset.second = 0;
+    return offset;
+}
+
+QString formatDateOffsetCompact(const DateComponents &offset, bool plus)
+{
+    return formatUnits(offset, plus, false);
+}
+
+QString formatDateOffsetDisplay(const DateComponents &offset, bool plus)
+{
+    return formatUnits(offset, plus, true).trimmed();
+}
+
+QString formatDateOffsetForWriting(const QString &offsetText, DateEditorType type)
+{
+    const char sign = offsetText.contains(u'+') ? '+' : '-';
+    if (type == DateEditorTypeDate) {
+        const DateComponents o = parseDateOffsetDateOnly(offsetText);
+        return QString::asprintf("%c%lld:%lld:%lld", sign, o.year, o.month, o.day);
+    }
+    const DateComponents o = parseDateOffset(offsetText);
+    return QString::asprintf("%c%lld:%lld:%lld %02lld:%02lld:%02lld", sign, o.year, o.month, o.day,
+                             o.hour, o.minute, o.second);
+}
+
+DateComponents offsetBetweenDates(const QDateTime &current, const QDateTime &original)
+{
+    DateComponents offset = calendarDifference(current, original);
+    if (current > original)
+        offset.era = -1;
+    else if (current < original)
+        offset.era = 1;
+    return offset;
+}
+
+QString describeOffsetBetweenDates(const QDateTime &from, const QDateTime &to)
+{
+    const DateComponents difference = calendarDifference(from, to);
+    if (from == to)
+        return formatUnits(difference, true, true).mid(1);
+    return formatUnits(difference, from < to, true);
+}
+
+QDateTime applyDateOffset(const QString &offsetText, const QString &originalText)
+{
+    if (!isDateOffsetText(offsetText)) {
+        const auto value = parseDateTimeValue(offsetText);
+        return value ? dateFromComponents(*value) : QDateTime();
+    }
+    const auto original = parseDateTimeValue(originalText);
+    if (!original)
+        return {};
+    // A text holding both signs counts as plus.
+    const bool negate = !offsetText.contains(u'+');
+    return addDateComponents(dateFromComponents(*original),
+                             magnitudes(parseDateOffset(offsetText), negate));
+}

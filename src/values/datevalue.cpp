@@ -1,0 +1,220 @@
+#include "values/datevalue.h"
+
+#include "values/dateoffset.h"
+
+#include <QStringList>
+#include <QTimeZone>
+
+#include <limits>
+
+namespace {
+
+constexpr qint64 msecsPerDay = 86400000;
+
+// Reads the leading integer like C's atol: blanks, an optional sign, digits up to the first
+// non-digit, 0 when there are none; saturates instead of overflowing.
+qint64 leadingInteger(QStringView text)
+{
+    qsizetype i = 0;
+    while (i < text.size() && text.at(i).isSpace())
+        ++i;
+    bool negative = false;
+    if (i < text.size() && (text.at(i) == u'+' || text.at(i) == u'-')) {
+        negative = text.at(i) == u'-';
+        ++i;
+    }
+    qint64 value = 0;
+    for (; i < text.size() && text.at(i) >= u'0' && text.at(i) <= u'9'; ++i) {
+        const int digit = text.at(i).unicode() - u'0';
+        if (value > (std::numeric_limits<qint64>::max() - digit) / 10)
+            return negative ? std::numeric_limits<qint64>::min()
+                            : std::numeric_limits<qint64>::max();
+        value = value * 10 + digit;
+    }
+    return negative ? -value : value;
+}
+
+QList<QStringView> dateValuePieces(const QString &text)
+{
+    QList<QStringView> pieces;
+    qsizetype start = 0;
+    auto isSeparator = [](QChar c) {
+        return c == u' ' || c == u'\t' || c == u'\n' || c == u'\r' || c == u':';
+    };
+    for (qsizetype i = 0; i <= text.size(); ++i) {
+        if (i == text.size() || isSeparator(text.at(i))) {
+            if (i > start)
+                pieces.append(QStringView(text).mid(start, i - start));
+            start = i + 1;
+        }
+    }
+    return pieces;
+}
+
+qint64 floorDiv(qint64 a, qint64 b)
+{
+    return a / b - ((a % b != 0) && ((a < 0) != (b < 0)) ? 1 : 0);
+}
+
+// QDate has no year 0; we count years astronomically so that 0000 survives a round trip.
+QDate makeDate(qint64 year, int month, int day)
+{
+    if (year < std::numeric_limits<int>::min() + 1 || year > std::numeric_limits<int>::max())
+        return {};
+    const int qtYear = year <= 0 ? int(year - 1) : int(year);
+    return QDate(qtYear, month, day);
+}
+
+qint64 astronomicalYear(const QDate &date)
+{
+    return date.year() < 0 ? date.year() + 1 : date.year();
+}
+
+QDate addMonthsClamped(const QDate &date, qint64 months)
+{
+    const qint64 total = astronomicalYear(date) * 12 + (date.month() - 1) + months;
+    const qint64 year = floorDiv(total, 12);
+    const int month = int(total - year * 12) + 1;
+    const QDate first = makeDate(year, month, 1);
+    if (!first.isValid())
+        return {};
+    return first.addDays(qMin(date.day(), first.daysInMonth()) - 1);
+}
+
+// Local time of a wall-clock reading, resolving readings that a daylight-saving change skips.
+QDateTime localDateTime(const QDate &date, qint64 msecsOfDay)
+{
+    const QDate day = date.addDays(floorDiv(msecsOfDay, msecsPerDay));
+    const qint64 rest = msecsOfDay - floorDiv(msecsOfDay, msecsPerDay) * msecsPerDay;
+    if (!day.isValid())
+        return {};
+    const QTime time = QTime::fromMSecsSinceStartOfDay(int(rest));
+    QDateTime result(day, time, Qt::LocalTime);
+    if (result.isValid())
+        return result;
+    // In the gap: read the wall time with the offset in force before the change.
+    const qint64 wall = QDateTime(day, time, Qt::UTC).toMSecsSinceEpoch();
+    const int before =
+        QDateTime::fromMSecsSinceEpoch(wall - msecsPerDay, Qt::LocalTime).offsetFromUtc();
+    return QDateTime::fromMSecsSinceEpoch(wall - qint64(before) * 1000, Qt::LocalTime);
+}
+
+} // namespace
+
+std::optional<DateComponents> parseDateTimeValue(const QString &text)
+{
+    const QList<QStringView> pieces = dateValuePieces(text);
+    if (pieces.size() != 6)
+        return std::nullopt;
+    DateComponents c;
+    c.year = leadingInteger(pieces.at(0));
+    c.month = leadingInteger(pieces.at(1));
+    c.day = leadingInteger(pieces.at(2));
+    c.hour = leadingInteger(pieces.at(3));
+    c.minute = leadingInteger(pieces.at(4));
+    c.second = leadingInteger(pieces.at(5));
+    return c;
+}
+
+std::optional<DateComponents> parseDateValue(const QString &text)
+{
+    const QList<QStringView> pieces = dateValuePieces(text);
+    if (pieces.size() != 3)
+        return std::nullopt;
+    DateComponents c;
+    c.year = leadingInteger(pieces.at(0));
+    c.month = leadingInteger(pieces.at(1));
+    c.day = leadingInteger(pieces.at(2));
+    return c;
+}
+
+std::optional<DateComponents> parseDateValueOfType(const QString &text, DateEditorType type)
+{
+    return type == DateEditorTypeDate ? parseDateValue(text) : parseDateTimeValue(text);
+}
+
+QString formatDateValue(const QDateTime &date)
+{
+    const DateComponents c = componentsFromDate(date);
+    return QString::asprintf("%04lld:%02lld:%02lld", c.year, c.month, c.day);
+}
+
+QString formatDateTimeValue(const QDateTime &date)
+{
+    return formatDateTimeComponents(componentsFromDate(date));
+}
+
+QString formatDateTimeComponents(const DateComponents &c)
+{
+    return QString::asprintf("%04lld:%02lld:%02lld %02lld:%02lld:%02lld", c.year, c.month, c.day,
+                             c.hour, c.minute, c.second);
+}
+
+QDateTime dateFromComponents(const DateComponents &c)
+{
+    const QDate january = makeDate(c.year, 1, 1);
+    if (!january.isValid())
+        return {};
+    const QDate date = addMonthsClamped(january, c.month - 1).addDays(c.day - 1);
+    if (!date.isValid())
+        return {};
+    const qint64 msecs = ((c.hour * 60 + c.minute) * 60 + c.second) * 1000;
+    return localDateTime(date, msecs);
+}
+
+DateComponents componentsFromDate(const QDateTime &date)
+{
+    const QDateTime local = date.toLocalTime();
+    DateComponents c;
+    c.year = astronomicalYear(local.date());
+    c.month = local.date().month();
+    c.day = local.date().day();
+    c.hour = local.time().hour();
+    c.minute = local.time().minute();
+    c.second = local.time().second();
+    return c;
+}
+
+QDateTime addDateComponents(const QDateTime &date, const DateComponents &units)
+{
+    if (!date.isValid())
+        return {};
+    const QDateTime local = date.toLocalTime();
+    const QDate day = addMonthsClamped(local.date(), units.year * 12 + units.month);
+    if (!day.isValid())
+        return {};
+    const QDateTime moved =
+        localDateTime(day.addDays(units.day), local.time().msecsSinceStartOfDay());
+    if (!moved.isValid())
+        return {};
+    const qint64 seconds = (units.hour * 60 + units.minute) * 60 + units.second;
+    return QDateTime::fromMSecsSinceEpoch(moved.toMSecsSinceEpoch() + seconds * 1000,
+                                          Qt::LocalTime);
+}
+
+QString normalizeDateForWriting(const QString &text)
+{
+    const QStringList pieces = text.section(u' ', 0, 0).split(u':');
+    auto piece = [&pieces](int i) {
+        return i < pieces.size() ? int(leadingInteger(pieces.at(i))) : 0;
+    };
+    return QString::asprintf("%04d:%02d:%02d", piece(0), piece(1), piece(2));
+}
+
+bool dateValuesEqual(const QString &newValue, const QString &oldValue, DateEditorType type)
+{
+    const auto newDate = newValue.isNull() ? std::nullopt : parseDateValueOfType(newValue, type);
+    const auto oldDate = oldValue.isNull() ? std::nullopt : parseDateValueOfType(oldValue, type);
+    if (newDate && oldDate)
+        return newDate->hasSameUnits(*oldDate);
+    if (newDate || oldDate)
+        return false;
+    // Only an absent value fails the offset parser. The sign is not compared, only the units.
+    if (newValue.isNull() || oldValue.isNull())
+        return newValue.isNull() && oldValue.isNull();
+    const DateComponents newOffset =
+        type == DateEditorTypeDate ? parseDateOffsetDateOnly(newValue) : parseDateOffset(newValue);
+    const DateComponents oldOffset =
+        type == DateEditorTypeDate ? parseDateOffsetDateOnly(oldValue) : parseDateOffset(oldValue);
+    return newOffset.hasSameUnits(oldOffset);
+}
