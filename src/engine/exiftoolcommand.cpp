@@ -1,6 +1,7 @@
 #include "engine/exiftoolcommand.h"
 
-#include <QCoreApplication>
+#include "engine/exiftoolchild.h"
+
 #include <QDeadlineTimer>
 #include <QProcess>
 
@@ -18,18 +19,16 @@ ExifToolResult ExifToolCommand::run(const QStringList &arguments, const OutputHa
     QProcess process;
     process.setProgram(m_program);
     process.setArguments(arguments);
+    ExifToolChild::prepare(process);
     process.start(QIODevice::ReadOnly);
     if (!process.waitForStarted(-1)) {
         result.outcome = ExifToolResult::Outcome::FailedToStart;
-        result.errorMessage = QCoreApplication::translate("Localizable",
-                                                          "ExifTool could not be started from "
-                                                          "\"%1\": %2")
-                                  .arg(m_program, process.errorString());
+        result.errorMessage = ExifToolChild::startFailedMessage(m_program, process.errorString());
         return result;
     }
 
-    const QDeadlineTimer deadline = timeoutMs < 0 ? QDeadlineTimer(QDeadlineTimer::Forever)
-                                                  : QDeadlineTimer(timeoutMs);
+    const QDeadlineTimer deadline =
+        timeoutMs < 0 ? QDeadlineTimer(QDeadlineTimer::Forever) : QDeadlineTimer(timeoutMs);
     auto drain = [&] {
         const QByteArray chunk = process.readAllStandardOutput();
         if (chunk.isEmpty())
@@ -44,9 +43,7 @@ ExifToolResult ExifToolCommand::run(const QStringList &arguments, const OutputHa
             process.kill();
             process.waitForFinished(-1);
             result.outcome = ExifToolResult::Outcome::TimedOut;
-            result.errorMessage = QCoreApplication::translate(
-                                      "Localizable", "ExifTool (\"%1\") did not answer in time.")
-                                      .arg(m_program);
+            result.errorMessage = ExifToolChild::timedOutMessage(m_program);
             result.standardError = process.readAllStandardError();
             return result;
         }
@@ -61,9 +58,7 @@ ExifToolResult ExifToolCommand::run(const QStringList &arguments, const OutputHa
     result.standardError = process.readAllStandardError();
     if (process.exitStatus() == QProcess::CrashExit) {
         result.outcome = ExifToolResult::Outcome::Crashed;
-        result.errorMessage = QCoreApplication::translate("Localizable",
-                                                          "ExifTool (\"%1\") stopped unexpectedly.")
-                                  .arg(m_program);
+        result.errorMessage = ExifToolChild::crashedMessage(m_program);
         return result;
     }
     result.outcome = ExifToolResult::Outcome::Finished;
