@@ -147,6 +147,10 @@ ExifConfigurationPtr ExifSettings::loadConfigurationFromXml(const QString &text)
         case QXmlStreamReader::Characters:
             textBuffer += reader.text();
             break;
+        case QXmlStreamReader::ProcessingInstruction:
+            if (reader.processingInstructionTarget() == XMLWriter::CharacterInstruction)
+                textBuffer += QChar(reader.processingInstructionData().toUShort());
+            break;
         case QXmlStreamReader::EndElement:
             if (configuration && reader.name() == modificationElement)
                 configuration->changedValues().insert(fieldName, textBuffer);

@@ -11,6 +11,13 @@ bool isAttributeNameChar(QChar c)
            u == u'-' || u == u'_';
 }
 
+// XML 1.0 cannot carry these even as character references.
+bool isOutsideXmlCharacters(QChar c)
+{
+    const char16_t u = c.unicode();
+    return (u < 0x20 && u != u'\t' && u != u'\n' && u != u'\r') || u == 0xFFFE || u == 0xFFFF;
+}
+
 QString encode(const QString &text, bool inAttribute)
 {
     QString out;
@@ -41,7 +48,12 @@ QString encode(const QString &text, bool inAttribute)
             out += inAttribute ? QStringLiteral("&#9;") : QStringLiteral("\t");
             break;
         default:
-            out += c;
+            if (!inAttribute && isOutsideXmlCharacters(c))
+                out += QStringLiteral("<?%1 %2?>")
+                           .arg(XMLWriter::CharacterInstruction)
+                           .arg(c.unicode());
+            else
+                out += c;
         }
     }
     return out;

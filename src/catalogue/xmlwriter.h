@@ -31,6 +31,10 @@ public:
     bool xmlTagEnabled() const { return m_xmlTagEnabled; }
     const QString &output() const { return m_output; }
 
+    // Characters that XML 1.0 cannot hold are written in content as the processing instruction
+    // <?tagsmith-char N?> with their code, so a value with a stray control character survives.
+    static inline const QString CharacterInstruction = QStringLiteral("tagsmith-char");
+
     static QString encodeString(const QString &text);
     static QString encodeAttribute(const QString &text);
 
