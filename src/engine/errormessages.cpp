@@ -1,10 +1,10 @@
 #include "engine/errormessages.h"
 
+#include "catalogue/readlines.h"
 #include "values/logging.h"
 #include "values/tagsmithexception.h"
 
 #include <QCoreApplication>
-#include <QRegularExpression>
 
 ErrorMessages::ErrorMessages(QString fileName)
     : m_fileName(std::move(fileName))
@@ -55,8 +55,7 @@ void ErrorMessages::addExifToolOutput(QByteArrayView output)
 {
     static const QString errorMarker = QStringLiteral("Error: ");
     static const QString warningMarker = QStringLiteral("Warning: ");
-    static const QRegularExpression lineBreak(QStringLiteral("\\r\\n|[\\n\\r\\x{2028}\\x{2029}]"));
-    const QStringList lines = QString::fromUtf8(output).split(lineBreak, Qt::SkipEmptyParts);
+    const QStringList lines = readLines(output.toByteArray());
     for (const QString &line : lines) {
         // The marker's length is cut from the start of the line, wherever the marker stood:
         // ExifTool puts it first, and the results have always been shown this way.
