@@ -51,7 +51,7 @@ bool isReal(FieldDataType type)
 
 std::unique_ptr<NumberFormatter> ExifField::createFormatter() const
 {
-    auto formatter = std::make_unique<NumberFormatter>(QLocale::system());
+    auto formatter = std::make_unique<NumberFormatter>(QLocale());
     formatter->setLenient(true);
     if (!isReal(m_dataType)) {
         formatter->setMinimumFractionDigits(0);

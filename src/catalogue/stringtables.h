@@ -1,13 +1,10 @@
 #pragma once
 
-#include <QList>
+#include <QHash>
 #include <QLocale>
 #include <QString>
 
-#include <memory>
 #include <optional>
-
-class QTranslator;
 
 // The localisation string tables: a table is a .ts context, a key its source text. Files are
 // compiled into the resources as :/i18n/<name>_<language>.qm.
@@ -16,11 +13,8 @@ class StringTables
 public:
     static StringTables &instance();
 
-    // Looked up in list order: the first translator that knows the key wins.
-    explicit StringTables(QList<std::shared_ptr<QTranslator>> translators);
     // The .qm files of a directory for a locale, each falling back to its _en file.
     StringTables(const QString &directory, const QLocale &locale);
-    ~StringTables();
 
     // (Re)loads the resource tables of the locale, falling back to the _en ones.
     void load(const QLocale &locale);
@@ -35,6 +29,9 @@ public:
 private:
     StringTables();
     void loadDirectory(const QString &directory, const QLocale &locale);
+    // Adds the entries of a .qm file that are not there yet.
+    bool addFile(const QString &path);
 
-    QList<std::shared_ptr<QTranslator>> m_translators;
+    // table -> key -> text
+    QHash<QString, QHash<QString, QString>> m_tables;
 };

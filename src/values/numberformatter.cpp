@@ -10,8 +10,9 @@ NumberFormatter::NumberFormatter(QLocale locale)
 
 std::optional<double> NumberFormatter::numberFromString(const QString &text) const
 {
-    QString input = m_lenient ? text.trimmed() : text;
-    if (input.isEmpty())
+    QString input = text.trimmed();
+    // QLocale itself skips blanks around a number; a strict formatter must not.
+    if (input.isEmpty() || (!m_lenient && input.size() != text.size()))
         return std::nullopt;
 
     QLocale locale = m_localizesFormat ? m_locale : QLocale::c();
