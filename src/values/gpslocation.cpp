@@ -65,6 +65,17 @@ double leadingDouble(const QString &text)
     return any ? text.left(end).toDouble() : 0;
 }
 
+// The unescaped "." would let a blank stand for the point (12° 30'); typed coordinates never hold
+// inner blanks, so such a text is refused before any pattern sees it.
+QRegularExpressionMatch matchWhole(const QRegularExpression &pattern, const QString &prepared)
+{
+    for (QChar c : prepared) {
+        if (c.isSpace())
+            return {};
+    }
+    return pattern.match(prepared);
+}
+
 qint64 leadingInteger(const QString &text)
 {
     qsizetype end = 0;
@@ -130,7 +141,7 @@ bool GPSLocation::parseGPS(const QString &text, int longLat)
 
 bool GPSLocation::parseDegMinSecGPSString(const QString &prepared)
 {
-    const auto match = patterns().degMinSec[m_type == Latitude].match(prepared);
+    const auto match = matchWhole(patterns().degMinSec[m_type == Latitude], prepared);
     if (!match.hasMatch())
         return false;
     m_position =
@@ -142,7 +153,7 @@ bool GPSLocation::parseDegMinSecGPSString(const QString &prepared)
 
 bool GPSLocation::parseDegMinGPSString(const QString &prepared)
 {
-    const auto match = patterns().degMin[m_type == Latitude].match(prepared);
+    const auto match = matchWhole(patterns().degMin[m_type == Latitude], prepared);
     if (!match.hasMatch())
         return false;
     m_position = createGpsFloatNum1(double(leadingInteger(match.captured(2))),
@@ -153,7 +164,7 @@ bool GPSLocation::parseDegMinGPSString(const QString &prepared)
 
 bool GPSLocation::parseNumericGPSString(const QString &prepared)
 {
-    const auto match = patterns().numeric[m_type == Latitude].match(prepared);
+    const auto match = matchWhole(patterns().numeric[m_type == Latitude], prepared);
     if (!match.hasMatch())
         return false;
     m_position = leadingDouble(match.captured(2));
