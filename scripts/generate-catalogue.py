@@ -62,9 +62,10 @@ def _tag_record(tag, table_group):
     if len(blocks) == 1 and blocks[0].get("index") is None:
         keys = blocks[0].findall("key")
         if keys and not any(re.fullmatch(r"Bit\d+", k.get("id", "")) for k in keys):
-            # Escaped binary codes never arrive as such in the numeric read.
+            # Escaped binary codes never arrive as such in the numeric read, and an empty
+            # value is no value at all to the reader.
             values = [(k.get("id"), k.findtext("val") or k.get("id")) for k in keys
-                      if "\\x" not in k.get("id")] or None
+                      if k.get("id") and "\\x" not in k.get("id")] or None
     flags = set(filter(None, (tag.get("flags") or "").split(",")))
     return {
         "group": tag.get("g1") or table_group,

@@ -1552,10 +1552,6 @@
         <translation>Object Reference</translation>
     </message>
     <message>
-        <source>IPTC:ActionAdvised:</source>
-        <translation></translation>
-    </message>
-    <message>
         <source>IPTC:FixtureIdentifier</source>
         <translation>Fixture Identifier</translation>
     </message>
