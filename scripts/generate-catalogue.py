@@ -157,7 +157,9 @@ def describe_field(record, key, options, maker):
     if kind == "boolean":
         values = [("True", "True"), ("False", "False")]
     if values and "noenum" not in options:
-        if datatype.startswith(("int", "uint")):
+        if any(" " in raw for raw, _ in values):
+            datatype = "string"  # codes of several numbers, as the numeric read joins them
+        elif datatype.startswith(("int", "uint")):
             values = _integer_values(values)
         representation, decimals = "enum", None
     else:
