@@ -35,8 +35,12 @@ std::optional<double> NumberFormatter::numberFromString(const QString &text) con
     const double number = locale.toDouble(input, &ok);
     if (!ok || !std::isfinite(number))
         return std::nullopt;
-    if (!m_allowsFloats && number != std::trunc(number))
+    // Whole numbers only means no decimal mark and no exponent at all, "12.0" included.
+    if (!m_allowsFloats && (input.contains(locale.decimalPoint()) ||
+                            input.contains(locale.exponential(), Qt::CaseInsensitive) ||
+                            number != std::trunc(number))) {
         return std::nullopt;
+    }
     if (m_minimum && number < *m_minimum)
         return std::nullopt;
     if (m_maximum && number > *m_maximum)
@@ -66,6 +70,8 @@ QString NumberFormatter::stringFromNumber(double number) const
             result.truncate(end);
         }
     }
+    if (m_alwaysShowsDecimalSeparator && !result.contains(locale.decimalPoint()))
+        result += locale.decimalPoint();
     // Rounding a small negative number to zero digits must not print "-0".
     if (locale.toDouble(result) == 0.0 && result.startsWith(locale.negativeSign()))
         result.remove(0, locale.negativeSign().size());

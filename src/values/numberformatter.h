@@ -27,6 +27,9 @@ public:
     void setAllowsFloats(bool on) { m_allowsFloats = on; }
     bool localizesFormat() const { return m_localizesFormat; }
     void setLocalizesFormat(bool on) { m_localizesFormat = on; }
+    // Prints the decimal mark even when no fraction digit follows it ("3." in en_US).
+    bool alwaysShowsDecimalSeparator() const { return m_alwaysShowsDecimalSeparator; }
+    void setAlwaysShowsDecimalSeparator(bool on) { m_alwaysShowsDecimalSeparator = on; }
     const std::optional<double> &minimum() const { return m_minimum; }
     void setMinimum(std::optional<double> minimum) { m_minimum = minimum; }
     const std::optional<double> &maximum() const { return m_maximum; }
@@ -45,6 +48,7 @@ private:
     bool m_generatesDecimalNumbers = false;
     bool m_allowsFloats = true;
     bool m_localizesFormat = true;
+    bool m_alwaysShowsDecimalSeparator = false;
     std::optional<double> m_minimum;
     std::optional<double> m_maximum;
 };

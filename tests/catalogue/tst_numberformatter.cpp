@@ -47,7 +47,8 @@ private Q_SLOTS:
         row("uint8 above max", enUS, T::UInt8, u"256", false);
         row("uint8 negative", enUS, T::UInt8, u"-1", false);
         row("uint8 fraction", enUS, T::UInt8, u"12.5", false);
-        row("uint8 whole fraction", enUS, T::UInt8, u"12.0", true, 12);
+        row("uint8 whole fraction", enUS, T::UInt8, u"12.0", false);
+        row("uint16 exponent", enUS, T::UInt16, u"1e3", false);
         row("int8 min", deDE, T::Int8, u"-128", true, -128);
         row("int8 below min", deDE, T::Int8, u"-129", false);
         row("int16 bounds", enUS, T::Int16, u"-32,768", true, -32768);
@@ -164,7 +165,7 @@ private Q_SLOTS:
         }
     }
 
-    void strictParsingRefusesGrouping()
+    void plainFormatterOptions()
     {
         NumberFormatter formatter(enUS);
         QCOMPARE(formatter.numberFromString(QStringLiteral("1234.5")), 1234.5);
@@ -172,6 +173,11 @@ private Q_SLOTS:
         QVERIFY(!formatter.numberFromString(QStringLiteral(" 1")));
         formatter.setLenient(true);
         QCOMPARE(formatter.numberFromString(QStringLiteral("1,234.5")), 1234.5);
+        formatter.setAlwaysShowsDecimalSeparator(true);
+        QCOMPARE(formatter.stringFromNumber(3), QStringLiteral("3."));
+        formatter.setLocale(deDE);
+        QCOMPARE(formatter.stringFromNumber(3.25), QStringLiteral("3,25"));
+        QCOMPARE(formatter.stringFromNumber(3), QStringLiteral("3,"));
     }
 };
 
