@@ -1,5 +1,6 @@
+#include "app/tagsmithappdelegate.h"
+
 #include <QApplication>
-#include <QMainWindow>
 
 int main(int argc, char *argv[])
 {
@@ -7,9 +8,7 @@ int main(int argc, char *argv[])
     QApplication::setOrganizationName(QStringLiteral("Tagsmith"));
     QApplication::setApplicationName(QStringLiteral("Tagsmith"));
 
-    QMainWindow window;
-    window.setWindowTitle(QStringLiteral("Tagsmith"));
-    window.resize(1000, 700);
-    window.show();
+    TagsmithAppDelegate delegate;
+    delegate.applicationWillFinishLaunching();
     return QApplication::exec();
 }

@@ -1,0 +1,159 @@
+#include "app/preferenceswindowcontroller.h"
+
+#include "catalogue/stringtables.h"
+#include "values/usersettings.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+#include <QtConcurrent/QtConcurrentRun>
+
+namespace {
+
+QString localized(const QString &key)
+{
+    return StringTables::instance().localizedString(key);
+}
+
+} // namespace
+
+PreferencesWindowController::PreferencesWindowController(const QString &exifToolProgram,
+                                                         QWidget *parent)
+    : QWidget(parent, Qt::Window)
+{
+    setWindowTitle(localized(QStringLiteral("Preferences")));
+    setObjectName(QStringLiteral("PreferencesWindow"));
+    // Never the window that keeps the program running: closing the main window quits.
+    setAttribute(Qt::WA_QuitOnClose, false);
+
+    auto *layout = new QVBoxLayout(this);
+
+    auto *display = new QGroupBox(localized(QStringLiteral("Display")), this);
+    auto *displayForm = new QFormLayout(display);
+    displayForm->addRow(localized(QStringLiteral("GPS coordinates:")),
+                        addChoice(UserSettings::GpsFormat,
+                                  {{0, localized(QStringLiteral("Degrees, minutes and seconds"))},
+                                   {1, localized(QStringLiteral("Degrees and decimal minutes"))},
+                                   {2, localized(QStringLiteral("Decimal degrees"))}}));
+    layout->addWidget(display);
+
+    auto *saving = new QGroupBox(localized(QStringLiteral("Saving")), this);
+    auto *savingForm = new QFormLayout(saving);
+    savingForm->addRow(addFlag(
+        UserSettings::ForceFixBase,
+        localized(QStringLiteral("Fix the maker notes offsets while writing (ExifTool -F)"))));
+    savingForm->addRow(
+        addFlag(UserSettings::IgnoreMinorErrors,
+                localized(QStringLiteral("Ignore minor errors and warnings (ExifTool -m)"))));
+    savingForm->addRow(localized(QStringLiteral("File modification date:")),
+                       addChoice(UserSettings::FileModifyDate,
+                                 {{0, localized(QStringLiteral("Set to the image's modify date"))},
+                                  {1, localized(QStringLiteral("Keep the date the file had"))},
+                                  {2, localized(QStringLiteral("Leave the date of the write"))}}));
+    savingForm->addRow(localized(QStringLiteral("File creation date:")),
+                       addChoice(UserSettings::FileCreateDate,
+                                 {{0, localized(QStringLiteral("Set to the image's create date"))},
+                                  {1, localized(QStringLiteral("Keep the date the file had"))},
+                                  {2, localized(QStringLiteral("Leave the date of the write"))}}));
+    auto *creationNote = new QLabel(
+        localized(QStringLiteral("Linux file systems do not let programs set a file's creation "
+                                 "date; this setting applies only where the system allows it.")),
+        saving);
+    creationNote->setWordWrap(true);
+    savingForm->addRow(creationNote);
+    layout->addWidget(saving);
+
+    auto *tool = new QGroupBox(localized(QStringLiteral("ExifTool")), this);
+    auto *toolLayout = new QVBoxLayout(tool);
+    m_exifToolVersion =
+        new QLabel(localized(QStringLiteral("Checking the ExifTool version…")), tool);
+    m_exifToolVersion->setObjectName(QStringLiteral("exifToolVersion"));
+    m_exifToolVersion->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_exifToolVersion->setWordWrap(true);
+    m_exifToolWarning = new QLabel(tool);
+    m_exifToolWarning->setObjectName(QStringLiteral("warning"));
+    m_exifToolWarning->setWordWrap(true);
+    m_exifToolWarning->hide();
+    toolLayout->addWidget(m_exifToolVersion);
+    toolLayout->addWidget(m_exifToolWarning);
+    layout->addWidget(tool);
+    layout->addStretch();
+
+    reloadSettings();
+
+    // Asking ExifTool takes a Perl start-up; the window does not wait for it.
+    connect(&m_versionWatcher, &QFutureWatcher<ExifToolVersion>::finished, this,
+            &PreferencesWindowController::handleExifToolVersion);
+    m_versionWatcher.setFuture(
+        QtConcurrent::run([exifToolProgram] { return exifToolVersion(exifToolProgram); }));
+}
+
+PreferencesWindowController::~PreferencesWindowController()
+{
+    m_versionWatcher.waitForFinished();
+}
+
+void PreferencesWindowController::showWindow()
+{
+    reloadSettings();
+    show();
+    raise();
+    activateWindow();
+}
+
+void PreferencesWindowController::reloadSettings()
+{
+    for (QComboBox *box : std::as_const(m_choices)) {
+        const QSignalBlocker blocker(box);
+        int index = box->findData(UserSettings::value(box->objectName()).toInt());
+        // Unknown numbers mean what the program does with them: degrees, minutes and seconds
+        // for coordinates, the date of the write for file dates. Shown so, not stored so.
+        if (index < 0)
+            index = box->objectName() == UserSettings::GpsFormat ? 0 : box->count() - 1;
+        box->setCurrentIndex(index);
+    }
+    for (QCheckBox *flag : std::as_const(m_flags)) {
+        const QSignalBlocker blocker(flag);
+        flag->setChecked(UserSettings::value(flag->objectName()).toBool());
+    }
+}
+
+QComboBox *PreferencesWindowController::addChoice(const QString &key,
+                                                  const QList<std::pair<int, QString>> &choices)
+{
+    auto *box = new QComboBox(this);
+    box->setObjectName(key);
+    for (const auto &[value, text] : choices)
+        box->addItem(text, value);
+    connect(box, &QComboBox::activated, this,
+            [box, key](int index) { UserSettings::setValue(key, box->itemData(index).toInt()); });
+    m_choices.append(box);
+    return box;
+}
+
+QCheckBox *PreferencesWindowController::addFlag(const QString &key, const QString &text)
+{
+    auto *flag = new QCheckBox(text, this);
+    flag->setObjectName(key);
+    connect(flag, &QCheckBox::toggled, this,
+            [key](bool checked) { UserSettings::setValue(key, checked); });
+    m_flags.append(flag);
+    return flag;
+}
+
+void PreferencesWindowController::handleExifToolVersion()
+{
+    const ExifToolVersion version = m_versionWatcher.result();
+    if (version.isKnown())
+        m_exifToolVersion->setText(
+            localized(QStringLiteral("ExifTool %1 at %2")).arg(version.version, version.program));
+    else
+        m_exifToolVersion->setText(version.errorMessage);
+    const QString warning = version.warning();
+    m_exifToolWarning->setText(warning);
+    m_exifToolWarning->setVisible(!warning.isEmpty());
+}

@@ -1,0 +1,198 @@
+#include "app/tagsmithappdelegate.h"
+
+#include "app/preferenceswindowcontroller.h"
+#include "catalogue/exifsettings.h"
+#include "catalogue/exiffieldscontroller.h"
+#include "catalogue/stringtables.h"
+#include "controls/aperturetheme.h"
+#include "engine/exiftoolversion.h"
+#include "values/logging.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDesktopServices>
+#include <QKeySequence>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QUrl>
+
+namespace {
+
+TagsmithAppDelegate *currentDelegate = nullptr;
+
+QString localized(const QString &key)
+{
+    return StringTables::instance().localizedString(key);
+}
+
+// Stands in for the main window controller until that exists: an empty window with the
+// application's commands.
+class PlaceholderMainWindow : public AppMainWindow
+{
+public:
+    explicit PlaceholderMainWindow(TagsmithAppDelegate &delegate)
+    {
+        m_window.setWindowTitle(QStringLiteral("Tagsmith"));
+        m_window.resize(1000, 700);
+
+        QMenu *fileMenu = m_window.menuBar()->addMenu(localized(QStringLiteral("File")));
+        QAction *preferences = fileMenu->addAction(localized(QStringLiteral("Preferences…")));
+        preferences->setShortcut(QKeySequence::Preferences);
+        preferences->setMenuRole(QAction::PreferencesRole);
+        QObject::connect(preferences, &QAction::triggered, &delegate,
+                         &TagsmithAppDelegate::showPreferences);
+        QAction *quit = fileMenu->addAction(localized(QStringLiteral("Quit Tagsmith")));
+        quit->setShortcut(QKeySequence::Quit);
+        quit->setMenuRole(QAction::QuitRole);
+        QObject::connect(quit, &QAction::triggered, &delegate, &TagsmithAppDelegate::requestQuit);
+
+        QMenu *helpMenu = m_window.menuBar()->addMenu(localized(QStringLiteral("Help")));
+        QObject::connect(helpMenu->addAction(localized(QStringLiteral("Tagsmith Help"))),
+                         &QAction::triggered, &delegate, &TagsmithAppDelegate::showHelp);
+        QObject::connect(helpMenu->addAction(localized(QStringLiteral("Tagsmith Support"))),
+                         &QAction::triggered, &delegate, &TagsmithAppDelegate::openSupportPage);
+        QObject::connect(helpMenu->addAction(localized(QStringLiteral("Tagsmith Web Site"))),
+                         &QAction::triggered, &delegate, &TagsmithAppDelegate::openWebSite);
+    }
+
+    QWidget *window() override { return &m_window; }
+    bool hasDiretyFiles() const override { return false; }
+    void setSaveStatus(int) override {}
+    bool openFile(const QString &) override { return false; }
+
+private:
+    QMainWindow m_window;
+};
+
+} // namespace
+
+TagsmithAppDelegate::TagsmithAppDelegate(QObject *parent)
+    : QObject(parent)
+    , m_themeKey(ApertureTheme::Key)
+{
+    // The five user settings need no registration step: UserSettings answers with their
+    // defaults until the user changes them.
+    currentDelegate = this;
+}
+
+TagsmithAppDelegate::~TagsmithAppDelegate()
+{
+    if (currentDelegate == this)
+        currentDelegate = nullptr;
+}
+
+TagsmithAppDelegate *TagsmithAppDelegate::instance()
+{
+    return currentDelegate;
+}
+
+QStringList TagsmithAppDelegate::currentArguments()
+{
+    return QCoreApplication::arguments();
+}
+
+bool TagsmithAppDelegate::hasArgument(const QString &argument, const QStringList &arguments)
+{
+    return arguments.contains(argument, Qt::CaseSensitive);
+}
+
+void TagsmithAppDelegate::applicationWillFinishLaunching(const QStringList &arguments)
+{
+    m_debug = hasArgument(QStringLiteral("-debug"), arguments);
+    if (m_debug) {
+        const ExifToolVersion tool = exifToolVersion();
+        qCInfo(lcTagsmith).noquote()
+            << QStringLiteral("ExifTool: %1, version %2")
+                   .arg(tool.program, tool.isKnown() ? tool.version : tool.errorMessage);
+    }
+
+    if (auto *application = qobject_cast<QApplication *>(QCoreApplication::instance()))
+        ApertureTheme::apply(*application);
+    m_themeKey = ApertureTheme::Key;
+
+    m_labelFont = QApplication::font();
+    m_labelFont.setPointSize(11);
+    m_labelBoldFont = m_labelFont;
+    m_labelBoldFont.setBold(true);
+
+    ExifFieldsController::defaultInstance()->initializeConfigurations();
+    ExifSettings::instance().initializeSettings();
+
+    // Closing the main window ends the program even while the preferences window is open,
+    // which is kept out of the count of windows that hold the program open.
+    QGuiApplication::setQuitOnLastWindowClosed(applicationShouldTerminateAfterLastWindowClosed());
+    m_mainWindowController =
+        m_mainWindowFactory ? m_mainWindowFactory(*this) : createPlaceholderMainWindow();
+    m_mainWindowController->window()->show();
+
+    // The desktop hands over files to open as arguments (the .desktop file's %F).
+    for (qsizetype i = 1; i < arguments.size(); ++i) {
+        if (!arguments.at(i).startsWith(u'-'))
+            openFile(arguments.at(i));
+    }
+}
+
+std::unique_ptr<AppMainWindow> TagsmithAppDelegate::createPlaceholderMainWindow()
+{
+    return std::make_unique<PlaceholderMainWindow>(*this);
+}
+
+bool TagsmithAppDelegate::openFile(const QString &path)
+{
+    return m_mainWindowController && m_mainWindowController->openFile(path);
+}
+
+TagsmithAppDelegate::TerminateReply TagsmithAppDelegate::applicationShouldTerminate()
+{
+    if (m_mainWindowController && m_mainWindowController->hasDiretyFiles()) {
+        m_mainWindowController->setSaveStatus(1);
+        m_mainWindowController->window()->close();
+        return TerminateReply::TerminateLater;
+    }
+    return TerminateReply::TerminateNow;
+}
+
+void TagsmithAppDelegate::requestQuit()
+{
+    if (applicationShouldTerminate() == TerminateReply::TerminateNow)
+        QCoreApplication::quit();
+}
+
+void TagsmithAppDelegate::replyToApplicationShouldTerminate(bool shouldTerminate)
+{
+    if (shouldTerminate)
+        QCoreApplication::quit();
+}
+
+PreferencesWindowController *TagsmithAppDelegate::preferencesWindowController() const
+{
+    return m_preferencesWindowController.get();
+}
+
+void TagsmithAppDelegate::showPreferences()
+{
+    if (!m_preferencesWindowController)
+        m_preferencesWindowController = std::make_unique<PreferencesWindowController>();
+    m_preferencesWindowController->showWindow();
+}
+
+void TagsmithAppDelegate::openUrl(const QString &address)
+{
+    if (!QDesktopServices::openUrl(QUrl(address)))
+        qCWarning(lcTagsmith).noquote() << QStringLiteral("Could not open %1").arg(address);
+}
+
+void TagsmithAppDelegate::showHelp()
+{
+    openUrl(HelpUrl);
+}
+
+void TagsmithAppDelegate::openSupportPage()
+{
+    openUrl(SupportUrl);
+}
+
+void TagsmithAppDelegate::openWebSite()
+{
+    openUrl(WebSiteUrl);
+}

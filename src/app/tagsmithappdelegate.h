@@ -1,0 +1,93 @@
+#pragma once
+
+#include <QFont>
+#include <QObject>
+#include <QPointer>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <memory>
+
+class PreferencesWindowController;
+class QWidget;
+
+// What the application shell needs from the main window. The main window controller
+// implements it; until it exists a plain placeholder window does.
+class AppMainWindow
+{
+public:
+    virtual ~AppMainWindow() = default;
+    virtual QWidget *window() = 0;
+    // Spelt so to match the main window controller's own name for it.
+    virtual bool hasDiretyFiles() const = 0;
+    // 1 tells the main window that a quit waits for its close question.
+    virtual void setSaveStatus(int status) = 0;
+    virtual bool openFile(const QString &path) = 0;
+};
+
+// The application's shell: settings, start-up, the one main window, quitting, preferences and
+// the product's web pages. One per process, on the main thread.
+class TagsmithAppDelegate : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum class TerminateReply { TerminateNow, TerminateLater };
+    using MainWindowFactory = std::function<std::unique_ptr<AppMainWindow>(TagsmithAppDelegate &)>;
+
+    static inline const QString HelpUrl = QStringLiteral("https://tagsmith.org/help");
+    static inline const QString SupportUrl = QStringLiteral("https://tagsmith.org/support");
+    static inline const QString WebSiteUrl = QStringLiteral("https://tagsmith.org");
+
+    explicit TagsmithAppDelegate(QObject *parent = nullptr);
+    ~TagsmithAppDelegate() override;
+
+    // The delegate of the running application, if one was created.
+    static TagsmithAppDelegate *instance();
+    // True when one argument is exactly `argument` (the program path counts as one).
+    static bool hasArgument(const QString &argument,
+                            const QStringList &arguments = currentArguments());
+
+    // Replaces the window shown at start-up (the real main window, or a test's stand-in).
+    void setMainWindowFactory(MainWindowFactory factory)
+    {
+        m_mainWindowFactory = std::move(factory);
+    }
+
+    void applicationWillFinishLaunching(const QStringList &arguments = currentArguments());
+    bool openFile(const QString &path);
+    // Closing the main window ends the program.
+    bool applicationShouldTerminateAfterLastWindowClosed() const { return true; }
+    TerminateReply applicationShouldTerminate();
+
+    bool debug() const { return m_debug; }
+    const QFont &labelFont() const { return m_labelFont; }
+    const QFont &labelBoldFont() const { return m_labelBoldFont; }
+    const QString &themeKey() const { return m_themeKey; }
+    AppMainWindow *mainWindowController() const { return m_mainWindowController.get(); }
+    PreferencesWindowController *preferencesWindowController() const;
+
+public Q_SLOTS:
+    // The Quit command: quits now, or leaves it to the main window's save question.
+    void requestQuit();
+    // The main window's answer to a quit it held: true ends the program.
+    void replyToApplicationShouldTerminate(bool shouldTerminate);
+    void showPreferences();
+    void openUrl(const QString &address);
+    void showHelp();
+    void openSupportPage();
+    void openWebSite();
+
+private:
+    static QStringList currentArguments();
+    std::unique_ptr<AppMainWindow> createPlaceholderMainWindow();
+
+    std::unique_ptr<PreferencesWindowController> m_preferencesWindowController;
+    std::unique_ptr<AppMainWindow> m_mainWindowController;
+    MainWindowFactory m_mainWindowFactory;
+    QFont m_labelFont;
+    QFont m_labelBoldFont;
+    QString m_themeKey;
+    bool m_debug = false;
+};
