@@ -19,6 +19,9 @@ ExifToolResult ExifToolCommand::run(const QStringList &arguments, const OutputHa
     QProcess process;
     process.setProgram(m_program);
     process.setArguments(arguments);
+    // Nothing is ever typed into a one-shot run; an argument that makes ExifTool read its input
+    // must meet an end of file rather than wait for good.
+    process.setStandardInputFile(QProcess::nullDevice());
     ExifToolChild::prepare(process);
     process.start(QIODevice::ReadOnly);
     if (!process.waitForStarted(-1)) {

@@ -53,6 +53,7 @@ private Q_SLOTS:
     void fileNamesAfterEndOfOptionsArriveIntact();
     void failingCommandBetweenGoodOnesAgainstExifTool();
     void persistentAndOneShotReadAlike();
+    void oneShotRunReadsAnEmptyInput();
     void childDiesWithItsParent_data();
     void childDiesWithItsParent();
 
@@ -269,6 +270,14 @@ void TestExifToolProcess::persistentAndOneShotReadAlike()
             persistent.standardOutput.contains("Ann\nLee"));
     QCOMPARE(persistent.standardOutput, oneShot.standardOutput);
     QCOMPARE(persistent.standardError, oneShot.standardError);
+}
+
+void TestExifToolProcess::oneShotRunReadsAnEmptyInput()
+{
+    const ExifToolResult result =
+        ExifToolCommand(Fixtures::exifTool()).run({u"-ver"_qs, u"-@"_qs, u"-"_qs}, {}, 30000);
+    QCOMPARE(result.outcome, ExifToolResult::Outcome::Finished);
+    QCOMPARE(result.standardOutput, QByteArray("13.59\n"));
 }
 
 void TestExifToolProcess::childDiesWithItsParent_data()
