@@ -180,7 +180,9 @@ QDateTime addDateComponents(const QDateTime &date, const DateComponents &units)
     if (!date.isValid())
         return {};
     const QDateTime local = date.toLocalTime();
-    const QDate day = addMonthsClamped(local.date(), units.year * 12 + units.month);
+    // Years first, then months, each clamped: 2012:02:29 +1y1M is 2013:03:28, not 03:29.
+    const QDate day =
+        addMonthsClamped(addMonthsClamped(local.date(), units.year * 12), units.month);
     if (!day.isValid())
         return {};
     const QDateTime moved =
