@@ -152,16 +152,18 @@ TagsmithAppDelegate::TerminateReply TagsmithAppDelegate::applicationShouldTermin
     return TerminateReply::TerminateNow;
 }
 
+// exit() rather than quit(): quit() would send every window a close request again, and the
+// main window would put its save question a second time.
 void TagsmithAppDelegate::requestQuit()
 {
     if (applicationShouldTerminate() == TerminateReply::TerminateNow)
-        QCoreApplication::quit();
+        QCoreApplication::exit(0);
 }
 
 void TagsmithAppDelegate::replyToApplicationShouldTerminate(bool shouldTerminate)
 {
     if (shouldTerminate)
-        QCoreApplication::quit();
+        QCoreApplication::exit(0);
 }
 
 PreferencesWindowController *TagsmithAppDelegate::preferencesWindowController() const
