@@ -12,6 +12,18 @@ void ExifFieldsController::initializeConfigurations()
 {
     ExifFieldsConfigurationParser parser;
     parser.parseConfiguration();
+    take(parser);
+}
+
+void ExifFieldsController::initializeConfigurations(const QString &path, bool localizeData)
+{
+    ExifFieldsConfigurationParser parser;
+    parser.parseFile(path, localizeData);
+    take(parser);
+}
+
+void ExifFieldsController::take(const ExifFieldsConfigurationParser &parser)
+{
     m_groups = parser.groups();
     m_configurations = parser.fields();
     QHash<QString, ExifFieldPtr> map;

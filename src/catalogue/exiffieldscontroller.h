@@ -5,6 +5,8 @@
 #include <QHash>
 #include <QList>
 
+class ExifFieldsConfigurationParser;
+
 // The process-wide catalogue. Loaded once on the main thread at start-up and read-only after,
 // which is what makes reading it from background operations safe.
 class ExifFieldsController
@@ -14,6 +16,8 @@ public:
 
     // Loads ":/Fields.xml" and localises it through the "CustomFields" and "Fields" tables.
     void initializeConfigurations();
+    // Loads another catalogue file in place of the current one (tests use their own catalogues).
+    void initializeConfigurations(const QString &path, bool localizeData);
 
     const QList<GroupPtr> &groups() const { return m_groups; }
     // Deliberately called "configurations" although it holds fields: every field in file order.
@@ -24,6 +28,8 @@ public:
     ExifFieldPtr field(const QString &xmlName) const { return m_configurationsMap.value(xmlName); }
 
 private:
+    void take(const ExifFieldsConfigurationParser &parser);
+
     QList<GroupPtr> m_groups;
     QList<ExifFieldPtr> m_configurations;
     QHash<QString, ExifFieldPtr> m_configurationsMap;
