@@ -77,36 +77,41 @@ ExifToolResult ExifToolProcess::execute(const QStringList &arguments, int timeou
 
     const QDeadlineTimer deadline =
         timeoutMs < 0 ? QDeadlineTimer(QDeadlineTimer::Forever) : QDeadlineTimer(timeoutMs);
-    QProcess &process = *m_process;
-    process.write(*command);
+    m_process->write(*command);
+    return awaitReply(number, deadline);
+}
 
+ExifToolResult ExifToolProcess::awaitReply(int number, const QDeadlineTimer &deadline)
+{
+    QProcess &process = *m_process;
+    ExifToolResult result;
     QByteArray out;
     QByteArray err;
     std::optional<QByteArray> output;
     std::optional<ExifToolProtocol::StatusLine> status;
     // Both streams are read to their own end marker; whatever arrived in pieces stays in the
     // buffers until the marker completes it.
-    while (!output || !status) {
+    for (;;) {
+        out += process.readAllStandardOutput();
+        err += process.readAllStandardError();
+        // ExifTool flushes its errors before it prints the ready marker, so once both markers are
+        // in, the command is over and nothing more of it can come.
+        if (!status)
+            status = ExifToolProtocol::splitStatus(err, number);
+        if (status && !output)
+            output = ExifToolProtocol::outputBeforeReady(out, number);
+        if (status && output)
+            break;
         if (process.state() != QProcess::Running) {
-            out += process.readAllStandardOutput();
-            err += process.readAllStandardError();
             result.outcome = ExifToolResult::Outcome::Crashed;
             result.errorMessage = ExifToolChild::crashedMessage(m_program);
-            result.standardOutput = out;
-            result.standardError = err;
             qCWarning(lcTagsmith) << "ExifTool stopped during a command:" << err;
-            discardProcess();
-            return result;
+            break;
         }
         if (deadline.hasExpired()) {
             result.outcome = ExifToolResult::Outcome::TimedOut;
             result.errorMessage = ExifToolChild::timedOutMessage(m_program);
-            result.standardOutput = out + process.readAllStandardOutput();
-            result.standardError = err + process.readAllStandardError();
-            process.kill();
-            process.waitForFinished(-1);
-            discardProcess();
-            return result;
+            break;
         }
         if (process.bytesToWrite() > 0) {
             process.waitForBytesWritten(sliceOf(deadline));
@@ -116,19 +121,19 @@ ExifToolResult ExifToolProcess::execute(const QStringList &arguments, int timeou
                                                     : QProcess::StandardOutput);
             process.waitForReadyRead(sliceOf(deadline));
         }
-        out += process.readAllStandardOutput();
-        err += process.readAllStandardError();
-        // ExifTool flushes its errors before it prints the ready marker, so once both markers are
-        // in, the command is over and nothing more of it can come.
-        if (!status)
-            status = ExifToolProtocol::splitStatus(err, number);
-        if (status && !output)
-            output = ExifToolProtocol::outputBeforeReady(out, number);
     }
-    result.outcome = ExifToolResult::Outcome::Finished;
-    result.exitCode = status->status;
-    result.standardOutput = *output;
-    result.standardError = status->errors;
+    if (status && output) {
+        result.outcome = ExifToolResult::Outcome::Finished;
+        result.exitCode = status->status;
+        result.standardOutput = *output;
+        result.standardError = status->errors;
+    } else {
+        result.standardOutput = out;
+        result.standardError = err;
+    }
+    // A process that died or hung is not reused; the next command starts a fresh one.
+    if (result.outcome != ExifToolResult::Outcome::Finished || !isRunning())
+        discardProcess();
     return result;
 }
 

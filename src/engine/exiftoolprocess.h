@@ -7,13 +7,15 @@
 
 #include <memory>
 
+class QDeadlineTimer;
 class QProcess;
 
 // One long-lived "exiftool -stay_open True -@ -" process that runs commands one after another,
 // so that Perl starts once rather than once per file. Started on the first command and again
 // after it died or hung. Blocks the calling thread and needs no event loop; it must be used
-// only from the thread that ran its first command. Relative paths resolve against the working
-// directory the process was started in, so callers pass absolute ones.
+// only from the thread that ran its first command, which must outlive it (the child is told
+// to die with that thread). Relative paths resolve against the working directory the process
+// was started in, so callers pass absolute ones.
 class ExifToolProcess
 {
 public:
@@ -39,6 +41,7 @@ public:
 
 private:
     bool ensureStarted(ExifToolResult &result);
+    ExifToolResult awaitReply(int number, const QDeadlineTimer &deadline);
     void discardProcess();
 
     QString m_program;

@@ -59,6 +59,7 @@ private Q_SLOTS:
 
 private:
     QTemporaryDir m_dir;
+    ExifToolProcess m_exifTool{Fixtures::exifTool()}; // shared, so it also serves many commands
 };
 
 void TestExifToolProcess::bundledExifToolIsThePinnedRelease()
@@ -203,12 +204,12 @@ void TestExifToolProcess::valuesArriveIntact()
 {
     QFETCH(QString, value);
     const QString path = m_dir.filePath(QString::fromLatin1(QTest::currentDataTag()) + u".xmp");
-    ExifToolProcess process(Fixtures::exifTool());
 
     const ExifToolResult written =
-        process.execute({u"-o"_qs, path, u"-XMP-dc:Description="_qs + value}, 60000);
+        m_exifTool.execute({u"-o"_qs, path, u"-XMP-dc:Description="_qs + value}, 60000);
     QVERIFY2(written.hasSucceeded(), written.standardError.constData());
-    const ExifToolResult read = process.execute({u"-b"_qs, u"-XMP-dc:Description"_qs, path}, 60000);
+    const ExifToolResult read =
+        m_exifTool.execute({u"-b"_qs, u"-XMP-dc:Description"_qs, path}, 60000);
     QVERIFY(read.hasSucceeded());
     QCOMPARE(QString::fromUtf8(read.standardOutput), value);
 }
