@@ -54,6 +54,8 @@ private Q_SLOTS:
     void failingCommandBetweenGoodOnesAgainstExifTool();
     void persistentAndOneShotReadAlike();
     void oneShotRunReadsAnEmptyInput();
+    void oneShotOutcomes_data();
+    void oneShotOutcomes();
     void childDiesWithItsParent_data();
     void childDiesWithItsParent();
 
@@ -197,6 +199,8 @@ void TestExifToolProcess::valuesArriveIntact_data()
     QTest::newRow("unicode") << u"Zoë, 東京, Ελλάδα"_qs;
     QTest::newRow("dollar and at") << u"$5 for me@example.org, ${status}"_qs;
     QTest::newRow("dollar with blank edge") << u" $5\nand @ "_qs;
+    // Larger than a pipe's buffer both ways.
+    QTest::newRow("long") << QString(u"0123456789abcdef\n"_qs).repeated(10000);
     QTest::newRow("quotes and hash") << u"#\"quoted\" 'single'"_qs;
 }
 
@@ -279,6 +283,42 @@ void TestExifToolProcess::oneShotRunReadsAnEmptyInput()
         ExifToolCommand(Fixtures::exifTool()).run({u"-ver"_qs, u"-@"_qs, u"-"_qs}, {}, 30000);
     QCOMPARE(result.outcome, ExifToolResult::Outcome::Finished);
     QCOMPARE(result.standardOutput, QByteArray("13.59\n"));
+}
+
+void TestExifToolProcess::oneShotOutcomes_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<ExifToolResult::Outcome>("outcome");
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QByteArray>("standardOutput");
+    QTest::addColumn<QByteArray>("standardError");
+
+    QTest::newRow("failed") << QStringList{u"out=o"_qs, u"err=Error: e"_qs, u"exit=1"_qs}
+                            << ExifToolResult::Outcome::Finished << 1 << QByteArray("o\n")
+                            << QByteArray("Error: e\n");
+    QTest::newRow("hung") << QStringList{u"out=o"_qs, u"hang"_qs}
+                          << ExifToolResult::Outcome::TimedOut << -1 << QByteArray("o\n")
+                          << QByteArray();
+    QTest::newRow("crashed") << QStringList{u"err=e"_qs, u"crash"_qs}
+                             << ExifToolResult::Outcome::Crashed << -1 << QByteArray()
+                             << QByteArray("e\n");
+}
+
+void TestExifToolProcess::oneShotOutcomes()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(ExifToolResult::Outcome, outcome);
+    QFETCH(int, exitCode);
+    QFETCH(QByteArray, standardOutput);
+    QFETCH(QByteArray, standardError);
+
+    const ExifToolResult result = ExifToolCommand(fakeExifTool()).run(arguments, {}, 1000);
+    QCOMPARE(result.outcome, outcome);
+    QCOMPARE(result.exitCode, exitCode);
+    QCOMPARE(result.standardOutput, standardOutput);
+    QCOMPARE(result.standardError, standardError);
+    QCOMPARE(result.errorMessage.contains(fakeExifTool()),
+             outcome != ExifToolResult::Outcome::Finished);
 }
 
 void TestExifToolProcess::childDiesWithItsParent_data()
