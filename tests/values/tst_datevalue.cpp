@@ -59,19 +59,14 @@ void TestDateValue::parse_data()
     QTest::newRow("date-time is no date") << u"2013:05:01 10:00:00"_qs << date << false << Fields{};
     QTest::newRow("blanks around colons")
         << u"2013 : 05 : 01"_qs << date << true << Fields{2013, 5, 1, 0, 0, 0};
-    QTest::newRow("tabs and line ends")
-        << u"\t2013:05:01\r\n"_qs << date << true << Fields{2013, 5, 1, 0, 0, 0};
     QTest::newRow("no range checks")
         << u"2013:13:40 25:61:61"_qs << dateTime << true << Fields{2013, 13, 40, 25, 61, 61};
     QTest::newRow("single digits")
         << u"2012:1:5 9:3:7"_qs << dateTime << true << Fields{2012, 1, 5, 9, 3, 7};
-    QTest::newRow("sub-seconds dropped")
-        << u"2013:05:01 14:22:10.75"_qs << dateTime << true << Fields{2013, 5, 1, 14, 22, 10};
     QTest::newRow("zone makes seven pieces")
         << u"2013:05:01 14:22:10+02:00"_qs << dateTime << false << Fields{};
     QTest::newRow("unset date of cameras")
         << u"0000:00:00 00:00:00"_qs << dateTime << true << Fields{0, 0, 0, 0, 0, 0};
-    QTest::newRow("dashes are no separators") << u"2013-05-01"_qs << date << false << Fields{};
     QTest::newRow("empty") << QString() << date << false << Fields{};
 }
 
@@ -109,17 +104,11 @@ void TestDateValue::calendarResolvesFields_data()
         << any << u"2013:13:40 25:61:61"_qs << u"2014:02:10 02:02:01"_qs << u"2014:02:10"_qs;
     QTest::newRow("no 29 February in 2013")
         << any << u"2013:02:29 00:00:00"_qs << u"2013:03:01 00:00:00"_qs << u"2013:03:01"_qs;
-    QTest::newRow("29 February in 2012")
-        << any << u"2012:02:29 12:00:00"_qs << u"2012:02:29 12:00:00"_qs << u"2012:02:29"_qs;
     QTest::newRow("month and day zero step back")
         << any << u"2013:00:00 12:00:00"_qs << u"2012:11:30 12:00:00"_qs << u"2012:11:30"_qs;
-    QTest::newRow("last second of the year")
-        << any << u"2013:12:31 23:59:59"_qs << u"2013:12:31 23:59:59"_qs << u"2013:12:31"_qs;
     QTest::newRow("berlin skipped hour moves forward")
         << u"Europe/Berlin"_qs << u"2013:03:31 02:30:00"_qs << u"2013:03:31 03:30:00"_qs
         << u"2013:03:31"_qs;
-    QTest::newRow("berlin repeated hour kept") << u"Europe/Berlin"_qs << u"2013:10:27 02:30:00"_qs
-                                               << u"2013:10:27 02:30:00"_qs << u"2013:10:27"_qs;
     // Daylight saving in Brazil began at midnight: the day itself must not be lost.
     QTest::newRow("sao paulo skipped midnight keeps the day")
         << u"America/Sao_Paulo"_qs << u"2018:11:04 00:00:00"_qs << u"2018:11:04 01:00:00"_qs
@@ -144,9 +133,6 @@ void TestDateValue::calendarResolvesFields()
     QVERIFY(resolved.isValid());
     QCOMPARE(formatDateTimeValue(resolved), dateTime);
     QCOMPARE(formatDateValue(resolved), date);
-    const QDateTime fromDate = dateFromComponents(*parseDateValue(text.section(u' ', 0, 0)));
-    QCOMPARE(formatDateValue(fromDate), formatDateValue(dateFromComponents(*parseDateTimeValue(
-                                            text.section(u' ', 0, 0) + u" 12:00:00"_qs))));
 }
 
 void TestDateValue::normalizeDateForWriting_data()
@@ -154,10 +140,8 @@ void TestDateValue::normalizeDateForWriting_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("written");
 
-    QTest::newRow("already normal") << u"2013:05:01"_qs << u"2013:05:01"_qs;
     QTest::newRow("time dropped") << u"2013:5:1 10:00:00"_qs << u"2013:05:01"_qs;
     QTest::newRow("short year padded") << u"13:5:1"_qs << u"0013:05:01"_qs;
-    QTest::newRow("missing pieces are zero") << u"2013"_qs << u"2013:00:00"_qs;
 }
 
 void TestDateValue::normalizeDateForWriting()
@@ -182,19 +166,16 @@ void TestDateValue::compare_data()
     QTest::newRow("one second apart")
         << u"2012:01:05 09:03:07"_qs << u"2012:01:05 09:03:08"_qs << dateTime << false;
     QTest::newRow("one day apart") << u"2012:01:05"_qs << u"2012:01:06"_qs << date << false;
-    QTest::newRow("one month apart") << u"2012:01:05"_qs << u"2012:02:05"_qs << date << false;
     QTest::newRow("date against date-time in a date field")
         << u"2012:01:05"_qs << u"2012:01:05 10:00:00"_qs << date << false;
     QTest::newRow("shift against date")
         << u"+1d"_qs << u"2012:01:05 09:03:07"_qs << dateTime << false;
     QTest::newRow("same shift respelt") << u"+1d 2h"_qs << u"+1d2h"_qs << dateTime << true;
-    QTest::newRow("shifts differ in hours") << u"+1d2h"_qs << u"+1d3h"_qs << dateTime << false;
     QTest::newRow("hours ignored in a date field") << u"+1d2h"_qs << u"+1d3h"_qs << date << true;
     QTest::newRow("sign not compared") << u"+1d"_qs << u"-1d"_qs << dateTime << true;
     QTest::newRow("removed date differs")
         << absent << u"2012:01:05 09:03:07"_qs << dateTime << false;
     QTest::newRow("removed garbage differs") << absent << u"garbage"_qs << dateTime << false;
-    QTest::newRow("both absent") << absent << absent << dateTime << true;
     QTest::newRow("garbage reads as zero shifts") << u"garbage"_qs << u"junk"_qs << date << true;
 }
 
