@@ -42,32 +42,20 @@ private Q_SLOTS:
         const std::nullopt_t no = std::nullopt;
         row("uint8 max", enUS, T::UInt8, u"255", 255);
         row("uint8 above max", enUS, T::UInt8, u"256", no);
-        row("uint8 negative", enUS, T::UInt8, u"-1", no);
         row("integer refuses fraction", enUS, T::UInt8, u"12.5", no);
         row("integer refuses decimal mark", deDE, T::UInt8, u"12,0", no);
-        row("integer refuses exponent", enUS, T::UInt16, u"1e3", no);
-        row("int8 min", deDE, T::Int8, u"-128", -128);
         row("int8 below min", deDE, T::Int8, u"-129", no);
         row("int32 min grouped", enUS, T::Int32, u"-2,147,483,648", -2147483648.0);
-        row("int32 above", enUS, T::Int32, u"2147483648", no);
         row("uint32 max grouped de", deDE, T::UInt32, u"4.294.967.295", 4294967295.0);
-        row("uint32 above", deDE, T::UInt32, u"4294967296", no);
         row("double zero refused", enUS, T::Double, u"0", no);
         row("double negative refused", enUS, T::Double, u"-1.5", no);
-        row("double small positive", enUS, T::Double, u"0.001", 0.001);
         row("de decimal comma", deDE, T::Double, u"0,001", 0.001);
         row("udouble zero", enUS, T::UDouble, u"0", 0.0);
         row("float above single max", enUS, T::Float, u"3.5e38", no);
-        row("float zero refused", deDE, T::Float, u"0", no);
-        row("en grouping", enUS, T::UDouble, u"1,234.5", 1234.5);
         row("de grouping", deDE, T::UDouble, u"1.234,5", 1234.5);
         row("de dot is no decimal mark", deDE, T::UDouble, u"1.5", no);
-        row("en comma is no decimal mark", enUS, T::UDouble, u"1,5", no);
         row("lenient blanks and plus", enUS, T::Int16, u" +42 ", 42);
-        row("string type unbounded", enUS, T::String, u"-99999999999", -99999999999.0);
-        row("empty", enUS, T::UInt8, u"", no);
         row("trailing letters", enUS, T::UInt8, u"12a", no);
-        row("infinity", enUS, T::String, u"inf", no);
     }
 
     void parsesWithinFieldBounds()
@@ -91,12 +79,9 @@ private Q_SLOTS:
         };
         using T = FieldDataType;
         row("two digits", enUS, T::Float, 2, 1.2345, "1.23");
-        row("no padding zeros", enUS, T::Float, 2, 1.5, "1.5");
         row("1.005 at two digits", enUS, T::Float, 2, 1.005, "1");
         row("default three digits", enUS, T::Double, -1, 3.14159, "3.142");
-        row("zero digits rounds", enUS, T::UDouble, 0, 2.6, "3");
         row("other negative decimals show none", enUS, T::UDouble, -4, 2.4, "2");
-        row("en grouping", enUS, T::UDouble, 1, 1234.56, "1,234.6");
         row("de grouping", deDE, T::UDouble, 1, 1234.56, "1.234,6");
         row("integer type ignores decimals", deDE, T::UInt32, 3, 7.4, "7");
         row("no negative zero", enUS, T::Int16, -1, -0.2, "0");
