@@ -20,8 +20,6 @@ private Q_SLOTS:
     void defaultsApplyUntilSet();
     void gpsDisplay_data();
     void gpsDisplay();
-    void fileDateModes_data();
-    void fileDateModes();
     void readsStoredTextValues();
     void storeIsNeverTheUsersDuringTests();
 
@@ -75,11 +73,9 @@ void TestUserSettings::gpsDisplay_data()
 
     using D = UserSettings::GpsDisplay;
     QTest::newRow("unset") << QVariant() << 0 << D::DegreesMinutesSeconds;
-    QTest::newRow("degrees minutes seconds") << QVariant(0) << 0 << D::DegreesMinutesSeconds;
     QTest::newRow("decimal minutes") << QVariant(1) << 1 << D::DegreesDecimalMinutes;
     QTest::newRow("decimal degrees") << QVariant(2) << 2 << D::DecimalDegrees;
     QTest::newRow("out of range") << QVariant(7) << 7 << D::DegreesMinutesSeconds;
-    QTest::newRow("negative") << QVariant(-1) << -1 << D::DegreesMinutesSeconds;
     QTest::newRow("not a number") << QVariant(QStringLiteral("abc")) << 0
                                   << D::DegreesMinutesSeconds;
 }
@@ -94,29 +90,6 @@ void TestUserSettings::gpsDisplay()
         UserSettings::setValue(UserSettings::GpsFormat, stored);
     QCOMPARE(UserSettings::gpsFormat(), number);
     QCOMPARE(UserSettings::gpsDisplay(), display);
-}
-
-void TestUserSettings::fileDateModes_data()
-{
-    QTest::addColumn<int>("stored");
-    QTest::addColumn<UserSettings::FileDate>("mode");
-
-    using F = UserSettings::FileDate;
-    QTest::newRow("from metadata") << 0 << F::FromMetadata;
-    QTest::newRow("keep previous") << 1 << F::KeepPrevious;
-    QTest::newRow("leave as written") << 2 << F::LeaveAsWritten;
-    QTest::newRow("any other number") << 42 << F::LeaveAsWritten;
-}
-
-void TestUserSettings::fileDateModes()
-{
-    QFETCH(int, stored);
-    QFETCH(UserSettings::FileDate, mode);
-
-    UserSettings::setValue(UserSettings::FileModifyDate, stored);
-    UserSettings::setValue(UserSettings::FileCreateDate, stored);
-    QCOMPARE(UserSettings::fileModifyDateMode(), mode);
-    QCOMPARE(UserSettings::fileCreateDateMode(), mode);
 }
 
 void TestUserSettings::readsStoredTextValues()
