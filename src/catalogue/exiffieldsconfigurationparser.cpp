@@ -22,8 +22,8 @@ std::optional<QString> attribute(const QXmlStreamAttributes &attributes, QLatin1
     return std::nullopt;
 }
 
-// The leading integer of a text, as C's strtoll reads it but saturating: blanks, a sign,
-// digits; 0 when there are no digits.
+// The leading integer of a text, read as strtoll reads it: blanks, a sign, digits; 0 when there
+// are no digits, saturated on overflow.
 qint64 leadingInteger(const QString &text)
 {
     qsizetype i = 0;
