@@ -3,8 +3,6 @@
 
 #include <QtTest>
 
-#include <algorithm>
-
 namespace {
 
 QString s(const char *text)
@@ -22,9 +20,7 @@ private Q_SLOTS:
     void exifToolLines_data();
     void exifToolLines();
     void countersFollowAddsAndDeletes();
-    void missingTextsGetDefaults();
-    void exceptionShowsAFixedText();
-    void sortsByPath();
+    void missingTextsAndExceptionsGetFixedTexts();
 };
 
 void TestErrorMessages::exifToolLines_data()
@@ -108,35 +104,20 @@ void TestErrorMessages::countersFollowAddsAndDeletes()
              0u);
 }
 
-void TestErrorMessages::missingTextsGetDefaults()
+void TestErrorMessages::missingTextsAndExceptionsGetFixedTexts()
 {
     ErrorMessages messages(s("/p/a.jpg"));
     messages.addError();
     messages.addWarning();
     messages.addError(s(""));
-    QCOMPARE(messages.messages().at(0).message(), s("Unknown error"));
-    QCOMPARE(messages.messages().at(1).message(), s("Unknown warning"));
-    QCOMPARE(messages.messages().at(2).message(), s(""));
-}
-
-void TestErrorMessages::exceptionShowsAFixedText()
-{
-    ErrorMessages messages(s("/p/a.jpg"));
     QTest::ignoreMessage(QtWarningMsg, "secret reason");
     messages.addException(TagsmithException(TagsmithException::LogicError, s("secret reason")));
-    QCOMPARE(messages.errorsCount(), 1u);
-    QCOMPARE(messages.messages().first().message(), s("Unknown error occured during processing"));
-}
-
-void TestErrorMessages::sortsByPath()
-{
-    QList<ErrorMessages> list{ErrorMessages(s("/b/x.jpg")), ErrorMessages(s("/a/y.jpg")),
-                              ErrorMessages(s("/a/Y.jpg"))};
-    std::sort(list.begin(), list.end());
-    QCOMPARE(list.at(0).fileName(), s("/a/Y.jpg"));
-    QCOMPARE(list.at(1).fileName(), s("/a/y.jpg"));
-    QCOMPARE(list.at(2).fileName(), s("/b/x.jpg"));
-    QCOMPARE(list.at(1).compare(list.at(1)), 0);
+    const QStringList expected{s("Unknown error"), s("Unknown warning"), s(""),
+                               s("Unknown error occured during processing")};
+    QStringList texts;
+    for (const ErrorMessage &message : messages.messages())
+        texts.append(message.message());
+    QCOMPARE(texts, expected);
 }
 
 QTEST_GUILESS_MAIN(TestErrorMessages)

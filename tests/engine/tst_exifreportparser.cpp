@@ -47,7 +47,6 @@ private Q_SLOTS:
     void chunkedFeedGivesTheSameRecords_data() { parse_data(); }
     void chunkedFeedGivesTheSameRecords();
     void malformedReportIsFlaggedAndLaterDataIgnored();
-    void parserIsReusableAfterFinish();
 };
 
 void TestExifReportParser::parse_data()
@@ -158,16 +157,6 @@ void TestExifReportParser::malformedReportIsFlaggedAndLaterDataIgnored()
     QVERIFY(parser.hasFailed());
     parser.addData(record("/p", "b.jpg", "") + footer);
     QCOMPARE(parser.finish().keys(), QStringList{s("/p/a.jpg")});
-}
-
-void TestExifReportParser::parserIsReusableAfterFinish()
-{
-    ExifReportParser parser;
-    parser.addData(header + record("/p", "a.jpg", " <IFD0:Make>A"));
-    parser.finish();
-    QVERIFY(!parser.hasFailed());
-    parser.addData(header + record("/p", "b.jpg", "") + footer);
-    QCOMPARE(parser.finish().keys(), QStringList{s("/p/b.jpg")});
 }
 
 QTEST_GUILESS_MAIN(TestExifReportParser)
