@@ -29,6 +29,7 @@ PreferencesWindowController::PreferencesWindowController(const QString &exifTool
     setObjectName(QStringLiteral("PreferencesWindow"));
     // Never the window that keeps the program running: closing the main window quits.
     setAttribute(Qt::WA_QuitOnClose, false);
+    setMinimumWidth(480);
 
     auto *layout = new QVBoxLayout(this);
 
@@ -42,7 +43,9 @@ PreferencesWindowController::PreferencesWindowController(const QString &exifTool
     layout->addWidget(display);
 
     auto *saving = new QGroupBox(localized(QStringLiteral("Saving")), this);
-    auto *savingForm = new QFormLayout(saving);
+    auto *savingLayout = new QVBoxLayout(saving);
+    auto *savingForm = new QFormLayout;
+    savingLayout->addLayout(savingForm);
     savingForm->addRow(addFlag(
         UserSettings::ForceFixBase,
         localized(QStringLiteral("Fix the maker notes offsets while writing (ExifTool -F)"))));
@@ -64,7 +67,7 @@ PreferencesWindowController::PreferencesWindowController(const QString &exifTool
                                  "date; this setting applies only where the system allows it.")),
         saving);
     creationNote->setWordWrap(true);
-    savingForm->addRow(creationNote);
+    savingLayout->addWidget(creationNote);
     layout->addWidget(saving);
 
     auto *tool = new QGroupBox(localized(QStringLiteral("ExifTool")), this);
@@ -84,6 +87,8 @@ PreferencesWindowController::PreferencesWindowController(const QString &exifTool
     layout->addStretch();
 
     reloadSettings();
+    // Sized for the wrapped note's height at this width, not for its one-line width.
+    adjustSize();
 
     // Asking ExifTool takes a Perl start-up; the window does not wait for it.
     connect(&m_versionWatcher, &QFutureWatcher<ExifToolVersion>::finished, this,
@@ -156,4 +161,6 @@ void PreferencesWindowController::handleExifToolVersion()
     const QString warning = version.warning();
     m_exifToolWarning->setText(warning);
     m_exifToolWarning->setVisible(!warning.isEmpty());
+    // The path and the warning wrap over more lines than the placeholder text did.
+    adjustSize();
 }

@@ -72,5 +72,9 @@ QString ApertureTheme::styleSheet()
         "QGroupBox { border: 1px solid rgba(255, 255, 255, 40); border-radius: 4px;"
         " margin-top: 1.2em; padding-top: 4px; }"
         "QGroupBox::title { subcontrol-origin: margin; left: 8px; padding: 0 4px; }"
+        "QCheckBox::indicator { width: 12px; height: 12px; border-radius: 3px;"
+        " border: 1px solid rgba(255, 255, 255, 120); background: rgba(0, 0, 0, 90); }"
+        "QCheckBox::indicator:checked { background: rgb(90, 135, 200);"
+        " border-color: rgb(150, 185, 235); }"
         "QLabel#warning { color: rgb(255, 170, 60); font-weight: bold; }");
 }
