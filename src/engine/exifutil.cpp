@@ -6,6 +6,7 @@
 
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <cmath>
 #include <optional>
 
@@ -69,19 +70,35 @@ void injectRepairedDate(const QString &key, TagDictionary &changes, const ExifFi
     if (pieces.size() != expected)
         return;
     bool wellFormed = pieces.at(0).size() == 4;
-    for (qsizetype i = 1; i < pieces.size(); ++i)
-        wellFormed = wellFormed && pieces.at(i).size() == 2;
+    for (qsizetype i = 0; i < pieces.size(); ++i) {
+        wellFormed = wellFormed && (i == 0 || pieces.at(i).size() == 2);
+        // The lenient date parser reads "x" as 0, which would write a different day over a
+        // value we do not understand.
+        if (!std::all_of(pieces.at(i).cbegin(), pieces.at(i).cend(),
+                         [](QChar c) { return c >= u'0' && c <= u'9'; }))
+            return;
+    }
     if (wellFormed)
         return;
 
     const std::optional<DateComponents> parsed = parseDateValueOfType(value, type);
     if (!parsed)
         return;
-    const QDateTime date = dateFromComponents(*parsed);
-    if (!date.isValid())
-        return;
+    // A wall time that the local zone skips at a daylight-saving change is still the camera's
+    // own reading: only out-of-range fields go through the calendar, or the repair would move it.
+    const DateComponents &c = *parsed;
+    const bool inRange = c.year >= 1 && c.year <= 9999 && c.month >= 1 && c.month <= 12 &&
+                         c.day >= 1 && c.day <= 31 && c.hour >= 0 && c.hour <= 23 &&
+                         c.minute >= 0 && c.minute <= 59 && c.second >= 0 && c.second <= 59 &&
+                         QDate::isValid(static_cast<int>(c.year), static_cast<int>(c.month),
+                                        static_cast<int>(c.day));
     // Date-only fields get the full date-time text too: what the date parser yields, at 00:00:00.
-    const QString repaired = formatDateTimeValue(date);
+    QString repaired;
+    if (inRange) {
+        repaired = formatDateTimeComponents(c);
+    } else if (const QDateTime date = dateFromComponents(c); date.isValid()) {
+        repaired = formatDateTimeValue(date);
+    }
     if (!repaired.isEmpty() && repaired != value)
         changes.insert(key, repaired);
 }
