@@ -48,19 +48,31 @@ QSet<QString> unionOfKeys(const TagDictionary &current, const TagDictionary &ori
     return keys;
 }
 
-bool pairEqual(const ExifField &field, const QString &key, const TagDictionary &current,
-               const TagDictionary &original)
+// Works on one snapshot of both dictionaries, so that a concurrent edit cannot mix two states.
+QStringList changedKeys(const TagDictionary &current, const TagDictionary &original,
+                        bool skipGenerated, bool stopAtFirst)
 {
-    return valuesEqualForRepresentation(current.value(key), original.value(key),
-                                        field.dataRepresentation());
+    const ExifFieldsController *catalogue = ExifFieldsController::defaultInstance();
+    QStringList changed;
+    for (const QString &key : unionOfKeys(current, original)) {
+        if (skipGenerated && ExifUtil::isAutomaticallyGeneratedFieldXmlName(key))
+            continue;
+        const ExifFieldPtr field = catalogue->field(key);
+        if (field && !valuesEqualForRepresentation(current.value(key), original.value(key),
+                                                   field->dataRepresentation())) {
+            changed.append(key);
+            if (stopAtFirst)
+                break;
+        }
+    }
+    return changed;
 }
 
 // The repairs rewrite values whose numbers lack leading zeros ("2012:1:5 9:03:07"); any other
 // count of numbers is not a date this repair understands and is left alone.
-void injectRepairedDate(const QString &key, TagDictionary &changes, const ExifFileInfo &file,
+void injectRepairedDate(const QString &key, const QString &value, TagDictionary &changes,
                         DateEditorType type)
 {
-    const QString value = file.exifValue(key);
     if (value.isEmpty() || value.contains(u'+') || value.contains(u'-'))
         return;
 
@@ -136,17 +148,7 @@ bool valuesEqualForRepresentation(const QString &newValue, const QString &oldVal
 
 bool isExifFileModified(const ExifFileInfo &file)
 {
-    const TagDictionary current = file.exifData();
-    const TagDictionary original = file.originalExifData();
-    const ExifFieldsController *catalogue = ExifFieldsController::defaultInstance();
-    for (const QString &key : unionOfKeys(current, original)) {
-        if (ExifUtil::isAutomaticallyGeneratedFieldXmlName(key))
-            continue;
-        const ExifFieldPtr field = catalogue->field(key);
-        if (field && !pairEqual(*field, key, current, original))
-            return true;
-    }
-    return false;
+    return !changedKeys(file.exifData(), file.originalExifData(), true, true).isEmpty();
 }
 
 bool ExifUtil::exifFilesInDictionaryModified(const QHash<QString, ExifFileInfoPtr> &files)
@@ -174,23 +176,14 @@ bool ExifUtil::isAutomaticallyGeneratedFieldXmlName(const QString &xmlName)
 
 QStringList ExifUtil::changedFieldsArray(const ExifFileInfo &file)
 {
-    const TagDictionary current = file.exifData();
-    const TagDictionary original = file.originalExifData();
-    const ExifFieldsController *catalogue = ExifFieldsController::defaultInstance();
-    QStringList changed;
-    for (const QString &key : unionOfKeys(current, original)) {
-        const ExifFieldPtr field = catalogue->field(key);
-        if (field && !pairEqual(*field, key, current, original))
-            changed.append(key);
-    }
-    return changed;
+    return changedKeys(file.exifData(), file.originalExifData(), false, false);
 }
 
 TagDictionary ExifUtil::changedFieldsDictionary(const ExifFileInfo &file)
 {
     const TagDictionary current = file.exifData();
     TagDictionary changes;
-    for (const QString &key : changedFieldsArray(file)) {
+    for (const QString &key : changedKeys(current, file.originalExifData(), false, false)) {
         const auto it = current.constFind(key);
         if (it != current.cend() && !it->isNull())
             changes.insert(key, *it);
@@ -207,10 +200,7 @@ TagDictionary ExifUtil::changedFieldsDictionary(const ExifFileInfo &file)
     for (const auto &[key, type] : repairs) {
         if (changes.contains(key))
             continue;
-        if (type == DateEditorTypeDateTime)
-            injectInvalidDateTime(key, changes, file);
-        else
-            injectInvalidDate(key, changes, file);
+        injectRepairedDate(key, current.value(key), changes, type);
     }
     return changes;
 }
@@ -231,11 +221,11 @@ QSet<QString> ExifUtil::removedFieldsSet(const ExifFileInfo &file)
 void ExifUtil::injectInvalidDateTime(const QString &key, TagDictionary &changes,
                                      const ExifFileInfo &file)
 {
-    injectRepairedDate(key, changes, file, DateEditorTypeDateTime);
+    injectRepairedDate(key, file.exifValue(key), changes, DateEditorTypeDateTime);
 }
 
 void ExifUtil::injectInvalidDate(const QString &key, TagDictionary &changes,
                                  const ExifFileInfo &file)
 {
-    injectRepairedDate(key, changes, file, DateEditorTypeDate);
+    injectRepairedDate(key, file.exifValue(key), changes, DateEditorTypeDate);
 }

@@ -9,7 +9,11 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <QElapsedTimer>
+
 #include <algorithm>
+#include <atomic>
+#include <thread>
 #include <ctime>
 
 class TestExifUtil : public QObject
@@ -25,6 +29,7 @@ private Q_SLOTS:
     void dateRepair_data();
     void dateRepair();
     void modifiedOverManyFiles();
+    void changesAreTakenFromOneStateWhileEdited();
     void generatedKeysNeverMakeAFileModified();
     void keywordsReadFromAFileSplitWhole();
 };
@@ -286,6 +291,30 @@ void TestExifUtil::modifiedOverManyFiles()
     QVERIFY(!ExifUtil::exifFilesInDictionaryModified({}));
     QVERIFY(!ExifUtil::exifFilesInDictionaryModified({{u"a"_qs, clean}}));
     QVERIFY(ExifUtil::exifFilesInDictionaryModified({{u"a"_qs, clean}, {u"b"_qs, dirty}}));
+}
+
+// The save operation asks for its changes on one thread while an editor may write on another.
+void TestExifUtil::changesAreTakenFromOneStateWhileEdited()
+{
+    const QString artist = u"IFD0:Artist"_qs;
+    const ExifFileInfoPtr file = fileWith({{artist, u"Jane"_qs}}, {{artist, u"Jane"_qs}});
+    std::atomic<bool> stop = false;
+    std::thread editor([&] {
+        for (int i = 0; !stop; ++i)
+            file->setExifValue(artist, i % 2 ? u"Joe"_qs : u"Jane"_qs);
+    });
+    const TagDictionary edited{{artist, u"Joe"_qs}};
+    int mixed = 0;
+    QElapsedTimer timer;
+    timer.start();
+    while (timer.elapsed() < 300) {
+        const TagDictionary changes = ExifUtil::changedFieldsDictionary(*file);
+        if (!changes.isEmpty() && changes != edited)
+            ++mixed;
+    }
+    stop = true;
+    editor.join();
+    QCOMPARE(mixed, 0);
 }
 
 void TestExifUtil::generatedKeysNeverMakeAFileModified()
