@@ -43,20 +43,33 @@ ExifToolResult ExifRunner::executeRawCommand_FileInfo(const QStringList &paths) 
 
 ExifRunner::Report ExifRunner::readReport(const QStringList &paths)
 {
+    // One run for the batch, unless its paths would pass the kernel's limit on the size of an
+    // argument list (2 MiB on Linux); a folder of many thousand files can get there.
+    constexpr qsizetype argumentBytesPerRun = 1024 * 1024;
     Report report;
-    ExifReportParser parser;
-    const ExifToolResult run =
-        m_command.run(readCommandArguments(paths),
-                      [&parser](QByteArrayView chunk) { parser.addData(chunk.toByteArray()); });
-    report.records = parser.finish();
-    report.ran = run.hasStarted();
-    if (!run.hasStarted()) {
-        qCWarning(lcTagsmith).noquote() << run.errorMessage;
-        report.result.errorMessage = run.errorMessage;
-    } else if (run.outcome != ExifToolResult::Outcome::Finished) {
-        // What arrived before the crash is still the files' true content.
-        qCWarning(lcTagsmith).noquote() << run.errorMessage;
-        report.result.errorMessage = run.errorMessage;
+    qsizetype first = 0;
+    while (first < paths.size()) {
+        qsizetype end = first;
+        qsizetype bytes = 0;
+        while (end < paths.size() && (end == first || bytes < argumentBytesPerRun))
+            bytes += paths.at(end++).toUtf8().size() + 1;
+
+        ExifReportParser parser;
+        const ExifToolResult run =
+            m_command.run(readCommandArguments(paths.mid(first, end - first)),
+                          [&parser](QByteArrayView chunk) { parser.addData(chunk.toByteArray()); });
+        report.records.insert(parser.finish());
+        if (run.outcome != ExifToolResult::Outcome::Finished) {
+            // After a crash, what did arrive is still the files' true content.
+            qCWarning(lcTagsmith).noquote() << run.errorMessage;
+            report.result.errorMessage = run.errorMessage;
+            if (!run.hasStarted()) {
+                report.ran = false;
+                return report;
+            }
+        }
+        report.ran = true;
+        first = end;
     }
     return report;
 }

@@ -25,7 +25,8 @@ struct ExifReadResult
     bool ok() const { return errorMessage.isEmpty(); }
 };
 
-// Reads files' metadata with one ExifTool run per call. Not reentrant: one instance per thread.
+// Reads files' metadata with one ExifTool run per call (split only where the argument list would
+// pass the kernel's limit). Not reentrant: one instance per thread.
 class ExifRunner
 {
 public:

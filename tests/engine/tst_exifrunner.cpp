@@ -38,6 +38,7 @@ private Q_SLOTS:
     void pathSpeltDifferentlyFindsNoRecord();
     void updateOriginalLeavesCurrentValuesAlone();
     void unstartableExifToolIsReportedAndLeavesRecordsAlone();
+    void batchBeyondTheArgumentLimitIsSplit();
 
     void formatNumber_data();
     void formatNumber();
@@ -260,6 +261,41 @@ void TestExifRunner::unstartableExifToolIsReportedAndLeavesRecordsAlone()
 
     QVERIFY(!runner.updateOriginalExifInformation(file).ok());
     QVERIFY(!runner.executeRawCommand_FileInfo({m_set.jpeg}).hasStarted());
+}
+
+void TestExifRunner::batchBeyondTheArgumentLimitIsSplit()
+{
+    // 7000 paths of about 300 bytes pass Linux's 2 MiB limit for one argument list.
+    QTemporaryDir dir;
+    const QString log = dir.filePath(QStringLiteral("runs.log"));
+    const QString fake = dir.filePath(QStringLiteral("fake-exiftool"));
+    QFile script(fake);
+    QVERIFY(script.open(QIODevice::WriteOnly));
+    script.write("#!/bin/sh\nshift 5\nprintf '%s\\n' \"$@\" '--end--' >> '" + log.toUtf8() + "'\n");
+    script.close();
+    QVERIFY(script.setPermissions(script.permissions() | QFile::ExeOwner));
+
+    const QString stem = QString(250, QLatin1Char('x'));
+    QList<ExifFileInfoPtr> files;
+    QStringList paths;
+    for (int i = 0; i < 7000; ++i) {
+        paths.append(dir.filePath(stem + QString::number(i)));
+        QFile file(paths.last());
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        files.append(std::make_shared<ExifFileInfo>(paths.last()));
+    }
+    ExifRunner runner(fake);
+    const ExifReadResult result = runner.loadExifInformations(files);
+    QVERIFY2(result.ok(), qPrintable(result.errorMessage));
+    QVERIFY(files.last()->isValid());
+
+    QFile logged(log);
+    QVERIFY(logged.open(QIODevice::ReadOnly));
+    QStringList lines = QString::fromUtf8(logged.readAll()).split(QLatin1Char('\n'));
+    const qsizetype runs = lines.removeAll(QStringLiteral("--end--"));
+    QVERIFY(runs >= 2 && runs <= 4);
+    lines.removeAll(QString());
+    QCOMPARE(lines, paths);
 }
 
 void TestExifRunner::formatNumber_data()
