@@ -2,6 +2,7 @@
 
 #include "catalogue/stringtables.h"
 #include "values/logging.h"
+#include "values/leadinginteger.h"
 
 #include <QFile>
 #include <QXmlStreamReader>
@@ -20,27 +21,6 @@ std::optional<QString> attribute(const QXmlStreamAttributes &attributes, QLatin1
         }
     }
     return std::nullopt;
-}
-
-// The leading integer of a text, read as strtoll reads it: blanks, a sign, digits; 0 when there
-// are no digits, saturated on overflow.
-qint64 leadingInteger(const QString &text)
-{
-    qsizetype i = 0;
-    while (i < text.size() && text.at(i).isSpace())
-        ++i;
-    bool negative = false;
-    if (i < text.size() && (text.at(i) == u'-' || text.at(i) == u'+'))
-        negative = text.at(i++) == u'-';
-    qint64 value = 0;
-    for (; i < text.size() && text.at(i) >= u'0' && text.at(i) <= u'9'; ++i) {
-        const int digit = text.at(i).unicode() - u'0';
-        if (value > (std::numeric_limits<qint64>::max() - digit) / 10)
-            return negative ? std::numeric_limits<qint64>::min()
-                            : std::numeric_limits<qint64>::max();
-        value = value * 10 + digit;
-    }
-    return negative ? -value : value;
 }
 
 QString localizedText(const StringTables &tables, const QString &key)

@@ -1,6 +1,7 @@
 #include "values/datevalue.h"
 
 #include "values/dateoffset.h"
+#include "values/leadinginteger.h"
 
 #include <QStringList>
 #include <QTimeZone>
@@ -10,29 +11,6 @@
 namespace {
 
 constexpr qint64 msecsPerDay = 86400000;
-
-// Reads the leading integer like C's atol: blanks, an optional sign, digits up to the first
-// non-digit, 0 when there are none; saturates instead of overflowing.
-qint64 leadingInteger(QStringView text)
-{
-    qsizetype i = 0;
-    while (i < text.size() && text.at(i).isSpace())
-        ++i;
-    bool negative = false;
-    if (i < text.size() && (text.at(i) == u'+' || text.at(i) == u'-')) {
-        negative = text.at(i) == u'-';
-        ++i;
-    }
-    qint64 value = 0;
-    for (; i < text.size() && text.at(i) >= u'0' && text.at(i) <= u'9'; ++i) {
-        const int digit = text.at(i).unicode() - u'0';
-        if (value > (std::numeric_limits<qint64>::max() - digit) / 10)
-            return negative ? std::numeric_limits<qint64>::min()
-                            : std::numeric_limits<qint64>::max();
-        value = value * 10 + digit;
-    }
-    return negative ? -value : value;
-}
 
 QList<QStringView> dateValuePieces(const QString &text)
 {
