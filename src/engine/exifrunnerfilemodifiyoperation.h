@@ -1,0 +1,79 @@
+#pragma once
+
+#include "engine/exiffileinfo.h"
+#include "engine/exifrunneroperation.h"
+#include "engine/tagdictionary.h"
+
+#include <QDateTime>
+#include <QMutex>
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+#include <optional>
+
+class FileReplacement;
+
+// Base of the operations that rewrite one file: ExifTool writes a new file ("-o"), which is
+// checked and then put in place of the old one; the file's dates are restored as the settings
+// ask, and the file is re-read so the window shows what is on disk.
+class ExifRunnerFileModifiyOperation : public ExifRunnerOperation
+{
+public:
+    // Bit 0 of options: re-read the file afterwards.
+    static constexpr quint32 ReReadOption = 1;
+
+    ExifRunnerFileModifiyOperation(ExifFileInfoPtr efi, quint32 options);
+    ~ExifRunnerFileModifiyOperation() override;
+
+    QString fileName() const override { return m_fileName; }
+    ErrorMessagesPtr errors() const override;
+    void postProcessInMainThread() override;
+
+    const ExifFileInfoPtr &efi() const { return m_efi; }
+    quint32 options() const { return m_options; }
+    bool reReads() const { return (m_options & ReReadOption) != 0; }
+    QString tempFileName() const { return m_tempFileName; }
+    // What the file held after the run, when it was re-read.
+    std::optional<TagDictionary> oldData() const;
+
+protected:
+    // The one road by which a file is rewritten; every subclass's run goes through it.
+    // arguments are ExifTool's, up to but without "-o", the temporary path and the file's path,
+    // which are appended here. Runs ExifTool, checks the new file, puts it in place, and with
+    // the re-read option gives what the file now holds. The original is untouched whenever the
+    // result is not replaced.
+    struct WriteResult
+    {
+        int exitStatus = -1;   // ExifTool's
+        bool replaced = false; // the new file is in place
+        std::optional<TagDictionary> reRead;
+    };
+    WriteResult writeFile(const QStringList &arguments, ErrorMessages &errors);
+
+    // Called by writeFile with what the new file reads back as, before it replaces the old
+    // one; a subclass adds warnings for values that did not come out as asked.
+    virtual void verifyWrittenValues(const TagDictionary &written, ErrorMessages &errors);
+
+    virtual void replaceDateTimeOffsets();
+    virtual TagDictionary loadOldDataWithErrors(ErrorMessages &errors);
+    virtual bool moveTempToFinal(ErrorMessages &errors);
+    virtual void updateFileDates();
+    virtual std::optional<QDateTime> findDateForFile(const QString &key) const;
+    virtual QString createTempFilePathForPath(const QString &path);
+    virtual void debugPrintArguments(const QStringList &arguments) const;
+
+    // Hands the run's results over to readers on other threads.
+    void storeResults(ErrorMessagesPtr errors, std::optional<TagDictionary> oldData);
+
+    mutable QMutex m_lock;
+
+private:
+    const QString m_fileName;
+    const ExifFileInfoPtr m_efi;
+    const quint32 m_options;
+    QString m_tempFileName;
+    ErrorMessagesPtr m_errors;
+    std::optional<TagDictionary> m_oldData;
+    std::unique_ptr<FileReplacement> m_replacement;
+};

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "engine/exifoperationstatus.h"
+
+#include <QByteArrayView>
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+
+class ExifToolSession;
+
+// Anything that runs ExifTool on the background runner's thread. The runner hands in the
+// ExifTool session it keeps on that thread; without one, each run starts a process of its own.
+class ExifRunnerOperation
+{
+public:
+    virtual ~ExifRunnerOperation();
+
+    // Both throw "Not implemented": every concrete operation gives its own.
+    virtual QString fileName() const;
+    virtual ErrorMessagesPtr errors() const;
+
+    // Background thread.
+    virtual void run();
+    // ExifTool's "Error: " and "Warning: " lines into messages.
+    virtual void readErrors(ErrorMessages &errors, QByteArrayView data) const;
+    // Runs ExifTool and returns its exit status; a run that could not start, crashed or timed
+    // out returns non-zero and leaves an error saying so.
+    virtual int runExifToolWithArgs(const QStringList &arguments, ErrorMessages &errors);
+    virtual void debugPrintExifToolOut(QByteArrayView output) const;
+
+    // Main thread, after run and before the listener hears of the file.
+    virtual void postProcessInMainThread();
+
+    void setExifToolSession(ExifToolSession *session) { m_session = session; }
+
+protected:
+    ExifToolSession &exifToolSession();
+
+private:
+    ExifToolSession *m_session = nullptr;
+    std::unique_ptr<ExifToolSession> m_ownSession;
+};
+
+using ExifRunnerOperationPtr = std::shared_ptr<ExifRunnerOperation>;

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <QString>
+
+#include <sys/stat.h>
+#include <sys/types.h>
+
+#include <ctime>
+#include <optional>
+
+class ErrorMessages;
+
+// The file as it was just before it was replaced.
+struct FileSnapshot
+{
+    mode_t mode = 0;
+    uid_t owner = 0;
+    gid_t group = 0;
+    nlink_t links = 1;
+    timespec modified{};             // to the nanosecond
+    std::optional<timespec> created; // where the file system keeps a birth time
+};
+
+// Everything between "ExifTool wrote a new file" and "the new file is the file": a scratch
+// folder beside the file (same file system, so the swap is one rename), the temporary name,
+// and the swap itself, which keeps the file the same file (mode, owner and group, extended
+// attributes and ACLs, a symbolic link stays a link) and flushes it to disk. The original is
+// never touched unless the swap completes. Whatever is left behind is removed on destruction.
+class FileReplacement
+{
+public:
+    explicit FileReplacement(QString path);
+    ~FileReplacement();
+    FileReplacement(const FileReplacement &) = delete;
+    FileReplacement &operator=(const FileReplacement &) = delete;
+
+    // Makes the scratch folder (removing ones left by crashed runs in the same folder) and
+    // chooses the temporary name "exiftool_<counter>_<random>". False when no scratch place
+    // could be made; errorString() says why.
+    bool prepare();
+
+    // The file that gets the new content: the path itself, or a symbolic link's final target.
+    const QString &targetPath() const { return m_targetPath; }
+    // Where the new file really is.
+    const QString &temporaryPath() const { return m_temporaryPath; }
+    // The same place under a name without '%', for ExifTool's "-o", which expands '%'
+    // sequences with no way to escape them.
+    const QString &exifToolOutputPath() const { return m_exifToolOutputPath; }
+
+    // Puts the temporary file in place of the target. False (with the reason in errors) when
+    // it is missing or empty, when the original owner or attributes cannot be given to it, or
+    // when the rename fails; the original is then untouched and the temporary file removed.
+    // A target with other hard links is replaced all the same, with a warning.
+    bool commit(ErrorMessages &errors);
+    // Removes the temporary file and the scratch folder.
+    void discard();
+
+    // Taken by commit() just before the swap.
+    const std::optional<FileSnapshot> &originalState() const { return m_originalState; }
+
+    QString errorString() const { return m_errorString; }
+
+private:
+    QString m_path;
+    QString m_targetPath;
+    QString m_scratchDirectory;
+    QString m_temporaryPath;
+    QString m_exifToolOutputPath;
+    std::optional<FileSnapshot> m_originalState;
+    QString m_errorString;
+    bool m_committed = false;
+};
+
+// Sets a file's modification time to the nanosecond (the access time is left alone).
+bool setFileModificationTime(const QString &path, const timespec &time, QString *errorString);
