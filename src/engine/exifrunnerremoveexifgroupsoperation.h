@@ -12,10 +12,11 @@ public:
 
     void run() override;
 
+    // Set by the runner on every such operation; run() removes the notes either way.
     bool removeMakerNotes() const { return m_removeMakerNotes; }
     void setRemoveMakerNotes(bool remove) { m_removeMakerNotes = remove; }
 
-protected:
+    // ExifTool's arguments, up to but without "-o" and the paths.
     QStringList addRemoveArgs() const;
 
 private:

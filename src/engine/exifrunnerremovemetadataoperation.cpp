@@ -1,31 +1,145 @@
 #include "engine/exifrunnerremovemetadataoperation.h"
 
-#include "values/tagsmithexception.h"
+#include <QMutexLocker>
 
-// Being written alongside the base class; run() is filled in next.
-ExifRunnerRemoveMetadataOperation::ExifRunnerRemoveMetadataOperation(ExifFileInfoPtr efi, quint32 options)
+#include <array>
+
+namespace {
+
+const QString MimeTypeKey = QStringLiteral("File:MIMEType");
+const QString Jpeg = QStringLiteral("image/jpeg");
+const QString Tiff = QStringLiteral("image/tiff");
+const QString Photoshop = QStringLiteral("application/vnd.adobe.photoshop");
+
+// ExifTool cannot drop the IFD0 of a TIFF (it holds the image), says so, and keeps it. The
+// user asked for nothing that failed, so the warning is not shown.
+const QString IFD0MinorWarning = QStringLiteral("[minor] Can't delete IFD0 from ");
+
+bool isKeptKey(const QString &key)
+{
+    static const std::array keptPrefixes{
+        QStringLiteral("System:"),   QStringLiteral("File:"),        QStringLiteral("Composite:"),
+        QStringLiteral("ExifTool:"), QStringLiteral("ICC_Profile:"), QStringLiteral("ICC-header:"),
+    };
+    static const QSet<QString> keptKeys{
+        QStringLiteral("IFD0:ImageWidth"),
+        QStringLiteral("IFD0:ImageHeight"),
+        QStringLiteral("IFD0:SensorWidth"),
+    };
+    // "::TIFF-EPStandardID" has always had its doubled colon, so a plain "IFD0:TIFF-EPStandardID"
+    // is removable.
+    static const std::array keptSuffixes{
+        QStringLiteral(":BitsPerSample"),        QStringLiteral(":CFAPattern2"),
+        QStringLiteral(":CFARepeatPatternDim"),  QStringLiteral(":Compression"),
+        QStringLiteral(":PreviewImageLength"),   QStringLiteral(":PreviewImageStart"),
+        QStringLiteral(":RawImageSegmentation"), QStringLiteral(":SampleFormat"),
+        QStringLiteral(":SensorHeight"),         QStringLiteral(":SensorLeftBorder"),
+        QStringLiteral(":SensorTopBorder"),      QStringLiteral(":SensorWidth"),
+        QStringLiteral(":StripByteCounts"),      QStringLiteral(":StripOffsets"),
+        QStringLiteral("::TIFF-EPStandardID"),   QStringLiteral(":ThumbnailLength"),
+        QStringLiteral(":ThumbnailOffset"),
+    };
+    for (const QString &prefix : keptPrefixes) {
+        if (key.startsWith(prefix))
+            return true;
+    }
+    if (keptKeys.contains(key))
+        return true;
+    for (const QString &suffix : keptSuffixes) {
+        if (key.endsWith(suffix))
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
+ExifRunnerRemoveMetadataOperation::ExifRunnerRemoveMetadataOperation(ExifFileInfoPtr efi,
+                                                                     quint32 options)
     : ExifRunnerFileModifiyOperation(std::move(efi), options)
 {
 }
 
-void ExifRunnerRemoveMetadataOperation::run()
+bool ExifRunnerRemoveMetadataOperation::canStrip(const QString &mimeType)
 {
-    throw TagsmithException(TagsmithException::NotImplemented, QStringLiteral("Not implemented"));
+    return mimeType == Jpeg || mimeType == Tiff || mimeType == Photoshop;
 }
 
-bool ExifRunnerRemoveMetadataOperation::hasIFD0MinorWarning(const ErrorMessages &)
+QStringList ExifRunnerRemoveMetadataOperation::removeArguments(const QString &mimeType)
 {
+    if (!canStrip(mimeType))
+        return {};
+    QStringList arguments{QStringLiteral("-all=")};
+    // "-all=" alone leaves the TIFF's own IFD0 tags (Make, Artist, Copyright...) in place.
+    if (mimeType == Tiff)
+        arguments.append(QStringLiteral("-CommonIFD0="));
+    return arguments;
+}
+
+void ExifRunnerRemoveMetadataOperation::run()
+{
+    const QString mimeType = efi()->exifValue(MimeTypeKey);
+    // Errors stay null: the file is reported without messages.
+    if (!canStrip(mimeType))
+        return;
+
+    auto errors = std::make_shared<ErrorMessages>(fileName());
+    const WriteResult result = writeFile(addRemoveArgs(removeArguments(mimeType)), *errors);
+    if (mimeType != Jpeg && hasIFD0MinorWarning(*errors))
+        removeIFD0MinorWarning(*errors);
+
+    QMutexLocker locker(&m_lock);
+    std::optional<TagDictionary> reRead;
+    if (reReads() && result.reRead) {
+        reRead = result.reRead;
+        // Set on this thread at once, so nothing of the removed metadata stays pending as an
+        // edit.
+        efi()->setExifData(*reRead);
+        efi()->setOriginalExifData(*reRead);
+    }
+    // Only a file that was really replaced gets its dates set: an original kept after a
+    // failed check is left exactly as it was.
+    if (result.replaced)
+        updateFileDates();
+    locker.unlock();
+    storeResults(errors, reRead);
+}
+
+bool ExifRunnerRemoveMetadataOperation::hasIFD0MinorWarning(const ErrorMessages &errors)
+{
+    for (const ErrorMessage &message : errors.messages()) {
+        if (message.message().contains(IFD0MinorWarning))
+            return true;
+    }
     return false;
 }
 
-void ExifRunnerRemoveMetadataOperation::removeIFD0MinorWarning(ErrorMessages &) {}
-
-QSet<QString> ExifRunnerRemoveMetadataOperation::collectRemovableItems(const QStringList &)
+void ExifRunnerRemoveMetadataOperation::removeIFD0MinorWarning(ErrorMessages &errors)
 {
-    return {};
+    // Bounded by the list itself, not by count(), which deletions do not lower; and the index
+    // stays put after a deletion so that two warnings in a row both go.
+    qsizetype index = 0;
+    while (index < errors.messages().size()) {
+        if (errors.messages().at(index).message().contains(IFD0MinorWarning))
+            errors.deleteMessageAtIndex(index);
+        else
+            ++index;
+    }
+}
+
+QSet<QString> ExifRunnerRemoveMetadataOperation::collectRemovableItems(const QStringList &keys)
+{
+    QSet<QString> removable;
+    for (const QString &key : keys) {
+        if (!isKeptKey(key))
+            removable.insert(key);
+    }
+    return removable;
 }
 
 QStringList ExifRunnerRemoveMetadataOperation::addRemoveArgs(QStringList arguments) const
 {
+    // No "-charset", "-lang", "-F" or "-m": a strip takes none of the user's save options.
+    arguments << QStringLiteral("-n") << QStringLiteral("-X");
     return arguments;
 }

@@ -14,6 +14,12 @@ public:
 
     void run() override;
 
+    // Only these are ever stripped; for any other type (PNG, raw...) ExifTool is not run.
+    static bool canStrip(const QString &mimeType);
+    // ExifTool's arguments for stripping a file of this type, up to but without "-o" and the
+    // paths; empty when the type is not stripped.
+    static QStringList removeArguments(const QString &mimeType);
+
     static bool hasIFD0MinorWarning(const ErrorMessages &errors);
     static void removeIFD0MinorWarning(ErrorMessages &errors);
     // The keys a "remove everything" edit may remove: not the ones that describe the image
