@@ -60,12 +60,24 @@ public:
 
     QString errorString() const { return m_errorString; }
 
+    // Scratch folders and files start with this, followed by the owner's process id.
+    static inline const QString ScratchPrefix = QStringLiteral(".tagsmith-");
+
 private:
+    bool makeScratchDirectory(const QString &folder);
+    bool makeOutputAlias();
+    bool fail(ErrorMessages &errors, const QString &reason, int error);
+    bool giveOriginalIdentity(int fd, ErrorMessages &errors);
+
     QString m_path;
     QString m_targetPath;
     QString m_scratchDirectory;
     QString m_temporaryPath;
     QString m_exifToolOutputPath;
+    QString m_aliasDirectory;
+    // Held (flock) while the scratch places exist, so a later run can tell them from leftovers.
+    int m_scratchLock = -1;
+    int m_aliasLock = -1;
     std::optional<FileSnapshot> m_originalState;
     QString m_errorString;
     bool m_committed = false;
