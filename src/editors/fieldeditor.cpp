@@ -1,0 +1,312 @@
+#include "editors/fieldeditor.h"
+
+#include "editors/exiffilesupdate.h"
+
+#include "catalogue/exifconfiguration.h"
+#include "catalogue/stringtables.h"
+#include "values/tagsmithexception.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QEvent>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QWidget>
+
+#include <algorithm>
+
+namespace {
+
+// The application shell's label fonts (it sits above this layer, so they are made the same way
+// here rather than asked for).
+const QFont &labelFont(bool bold)
+{
+    static const QFont normal = [] {
+        QFont font = QApplication::font();
+        font.setPointSize(11);
+        return font;
+    }();
+    static const QFont boldFont = [] {
+        QFont font = normal;
+        font.setBold(true);
+        return font;
+    }();
+    return bold ? boldFont : normal;
+}
+
+constexpr int LabelHeight = 20;
+constexpr int MinimumRowHeight = 25;
+constexpr int RemoveButtonSize = 20;
+
+} // namespace
+
+FieldEditor::FieldEditor(ExifFieldPtr field, QObject *parent)
+    : QObject(parent)
+    , m_field(std::move(field))
+{
+}
+
+FieldEditor::~FieldEditor()
+{
+    if (m_parent)
+        m_parent->removeEventFilter(this);
+}
+
+QLabel *FieldEditor::label() const
+{
+    return m_label;
+}
+
+QCheckBox *FieldEditor::removeButton() const
+{
+    return m_removeButton;
+}
+
+bool FieldEditor::isRemoveButtonChecked() const
+{
+    return m_removeButton && m_removeButton->checkState() == Qt::Checked;
+}
+
+void FieldEditor::setRemoveButtonChecked(bool on)
+{
+    if (m_removeButton)
+        m_removeButton->setChecked(on);
+}
+
+QSet<QString> FieldEditor::gatherExifFilesValues(const QList<ExifFileInfoPtr> &files) const
+{
+    QSet<QString> values;
+    const QString &key = m_field->xmlName();
+    for (const ExifFileInfoPtr &file : files) {
+        const QString value = file->exifValue(key);
+        values.insert(value.isNull() ? QString(u""_qs) : value);
+    }
+    return values;
+}
+
+QSet<QString> FieldEditor::gatherExifFilesOriginalValues(const QList<ExifFileInfoPtr> &files) const
+{
+    QSet<QString> values;
+    const QString &key = m_field->xmlName();
+    for (const ExifFileInfoPtr &file : files) {
+        const QString value = file->originalExifData().value(key);
+        values.insert(value.isNull() ? QString(u""_qs) : value);
+    }
+    return values;
+}
+
+bool FieldEditor::isModified() const
+{
+    return false;
+}
+
+void FieldEditor::updateModifiedLabel()
+{
+    if (!m_boldFontOnChange || !m_label)
+        return;
+    const bool bold = isModified();
+    // Setting a font relayouts the label; the form calls this for every row on each selection.
+    if (bold == m_labelIsBold)
+        return;
+    m_labelIsBold = bold;
+    m_label->setFont(labelFont(bold));
+}
+
+int FieldEditor::createEditor(QWidget *parent, int top)
+{
+    m_top = top;
+    m_parent = parent;
+    const int width = parent->width();
+    const int labelWidth = static_cast<int>(m_maxLabelWidth);
+    const int labelHeight = createLabel(parent);
+
+    const int contentX = labelWidth + 10;
+    int contentWidth = width - 5 - (labelWidth + 5) - 10;
+    if (m_showRemoveButton)
+        contentWidth -= 20;
+    const int contentHeight =
+        createEditorContent(parent, QRect(contentX, top, std::max(contentWidth, 0), LabelHeight));
+
+    if (m_showRemoveButton) {
+        m_removeButton = new QCheckBox(parent);
+        m_removeButton->setFocusPolicy(Qt::NoFocus);
+        m_removeButton->setAttribute(Qt::WA_MacSmallSize);
+        m_removeButton->setGeometry(width - RemoveButtonSize - 5, top, RemoveButtonSize,
+                                    RemoveButtonSize);
+        m_removeButton->setProperty("theme", m_theme);
+        m_removeButton->show();
+    }
+    parent->installEventFilter(this);
+    return top + std::max({MinimumRowHeight, labelHeight, contentHeight});
+}
+
+int FieldEditor::createLabel(QWidget *parent)
+{
+    m_label = new QLabel(m_field->title() + u':', parent);
+    m_label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_label->setFont(labelFont(false));
+    m_label->setGeometry(5, m_top + 2, static_cast<int>(m_maxLabelWidth), LabelHeight);
+    m_label->setProperty("theme", m_theme);
+    m_label->installEventFilter(this);
+    m_label->show();
+    m_labelIsBold = false;
+    return LabelHeight;
+}
+
+int FieldEditor::showEditor(int top)
+{
+    m_top = top;
+    if (m_label) {
+        m_label->move(m_label->x(), top + 2);
+        m_label->show();
+    }
+    if (m_removeButton) {
+        m_removeButton->move(m_removeButton->x(), top);
+        m_removeButton->show();
+    }
+    return top + MinimumRowHeight;
+}
+
+int FieldEditor::hideEditor(int top)
+{
+    if (m_label)
+        m_label->hide();
+    if (m_removeButton)
+        m_removeButton->hide();
+    return top;
+}
+
+int FieldEditor::createEditorContent(QWidget *, QRect)
+{
+    throw TagsmithException(TagsmithException::NotImplemented, TagsmithException::NotImplemented);
+}
+
+void FieldEditor::clearEditor()
+{
+    setRemoveButtonChecked(false);
+    m_exifFiles.clear();
+}
+
+void FieldEditor::setEnabled(bool enabled)
+{
+    if (m_removeButton)
+        m_removeButton->setEnabled(enabled);
+}
+
+void FieldEditor::setExifConfiguration(const ExifConfiguration *)
+{
+    throw TagsmithException(u"Not implemented"_qs, u"Not implemented"_qs);
+}
+
+bool FieldEditor::copyToConfiguration(ExifConfiguration &)
+{
+    return false;
+}
+
+bool FieldEditor::copyToExifFiles(const QList<ExifFileInfoPtr> &files)
+{
+    const QString &key = m_field->xmlName();
+    bool changed = false;
+    for (const ExifFileInfoPtr &file : files) {
+        updateExifFileValue(file);
+        const QString current = file->exifValue(key);
+        const QString original = file->originalExifData().value(key);
+        if (current.isNull() != original.isNull() || current != original)
+            changed = true;
+    }
+    return changed;
+}
+
+void FieldEditor::updateExifFileValue(const ExifFileInfoPtr &)
+{
+    throw TagsmithException(TagsmithException::NotImplemented, u"Not implemented"_qs);
+}
+
+void FieldEditor::sendChangeNotification(const std::optional<QString> &newValue,
+                                         const QString &xmlName)
+{
+    if (m_exifFiles.isEmpty())
+        return;
+    ExifFilesUpdateCenter::instance().post(xmlName, m_exifFiles, newValue, m_exifFiles, this);
+}
+
+void FieldEditor::sendChangeNotification(const std::optional<QString> &newValue)
+{
+    sendChangeNotification(newValue, m_field->xmlName());
+}
+
+void FieldEditor::focusControl()
+{
+}
+
+void FieldEditor::setTheme(const QString &theme)
+{
+    m_theme = theme;
+    if (m_label)
+        m_label->setProperty("theme", theme);
+    if (m_removeButton)
+        m_removeButton->setProperty("theme", theme);
+}
+
+void FieldEditor::setExifFiles(const QList<ExifFileInfoPtr> &files)
+{
+    m_exifFiles = files;
+}
+
+bool FieldEditor::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_label && event->type() == QEvent::MouseButtonRelease) {
+        focusControl();
+    } else if (watched == m_parent && event->type() == QEvent::Resize) {
+        layoutToParentWidth(m_parent->width());
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void FieldEditor::stretchWithRow(QWidget *widget)
+{
+    if (!m_parent)
+        m_parent = widget->parentWidget();
+    const int parentWidth = m_parent ? m_parent->width() : 0;
+    m_stretching.append({widget, parentWidth - (widget->x() + widget->width())});
+}
+
+void FieldEditor::layoutToParentWidth(int width)
+{
+    for (const auto &[widget, rightMargin] : std::as_const(m_stretching)) {
+        if (widget)
+            widget->resize(std::max(0, width - rightMargin - widget->x()), widget->height());
+    }
+    if (m_removeButton)
+        m_removeButton->move(width - RemoveButtonSize - 5, m_removeButton->y());
+}
+
+bool FieldEditor::isFieldEnabledForFiles(const QList<ExifFileInfoPtr> &files) const
+{
+    if (!m_field->xmlName().startsWith(u"Nikon"))
+        return true;
+    return std::any_of(files.cbegin(), files.cend(), [](const ExifFileInfoPtr &file) {
+        return file->fileName().toLower().contains(u".nef");
+    });
+}
+
+void FieldEditor::restoreOriginalValue(const ExifFileInfoPtr &file) const
+{
+    const QString &key = m_field->xmlName();
+    const QString original = file->originalExifData().value(key);
+    if (original.isNull())
+        file->removeExifValue(key);
+    else
+        file->setExifValue(key, original);
+}
+
+QString FieldEditor::localized(const QString &key)
+{
+    return StringTables::instance().localizedString(key);
+}
+
+QString FieldEditor::multipleValuesText()
+{
+    static const QString text = localized(u"Multiple values"_qs);
+    return text;
+}

@@ -1,0 +1,113 @@
+#pragma once
+
+#include "catalogue/exiffield.h"
+#include "engine/exiffileinfo.h"
+
+#include <QList>
+#include <QObject>
+#include <QPointer>
+#include <QRect>
+#include <QSet>
+#include <QString>
+
+#include <optional>
+
+class ExifConfiguration;
+class QCheckBox;
+class QLabel;
+class QWidget;
+
+// One row of the form: a right-aligned label, the editing control of a subclass and, for presets,
+// a check box saying whether the preset touches the tag. The row edits one catalogue field over
+// all selected files at once, or over one preset.
+//
+// Rows are built once and then only refilled: setExifFiles must stay cheap, because the form
+// calls it on every row for every change of selection.
+class FieldEditor : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit FieldEditor(ExifFieldPtr field, QObject *parent = nullptr);
+    ~FieldEditor() override;
+
+    const ExifFieldPtr &field() const { return m_field; }
+    QLabel *label() const;
+    QCheckBox *removeButton() const;
+    const QList<ExifFileInfoPtr> &exifFiles() const { return m_exifFiles; }
+    bool hasExifFiles() const { return !m_exifFiles.isEmpty(); }
+    int top() const { return m_top; }
+    const QString &theme() const { return m_theme; }
+
+    void setMaxLabelWidth(double width) { m_maxLabelWidth = width; }
+    double maxLabelWidth() const { return m_maxLabelWidth; }
+    void setBoldFontOnChange(bool on) { m_boldFontOnChange = on; }
+    bool boldFontOnChange() const { return m_boldFontOnChange; }
+    // Only effective before createEditor.
+    void setShowRemoveButton(bool on) { m_showRemoveButton = on; }
+    bool showRemoveButton() const { return m_showRemoveButton; }
+    // Whether the preset row's check box is on; false without one.
+    bool isRemoveButtonChecked() const;
+
+    // The distinct current (or original) values over the files; a file without the tag gives "".
+    QSet<QString> gatherExifFilesValues(const QList<ExifFileInfoPtr> &files) const;
+    QSet<QString> gatherExifFilesOriginalValues(const QList<ExifFileInfoPtr> &files) const;
+
+    virtual bool isModified() const;
+    void updateModifiedLabel();
+
+    // Builds the row in parent at top; returns the top of the next row.
+    int createEditor(QWidget *parent, int top);
+    virtual int showEditor(int top);
+    virtual int hideEditor(int top);
+    int createLabel(QWidget *parent);
+    // Builds the editing control in frame; returns its height.
+    virtual int createEditorContent(QWidget *parent, QRect frame);
+
+    virtual void clearEditor();
+    virtual void setEnabled(bool enabled);
+    virtual void setExifConfiguration(const ExifConfiguration *configuration);
+    // True when anything was written into the preset.
+    virtual bool copyToConfiguration(ExifConfiguration &configuration);
+    // Writes the row's value into every file; true when any file now differs from its original.
+    virtual bool copyToExifFiles(const QList<ExifFileInfoPtr> &files);
+    virtual void updateExifFileValue(const ExifFileInfoPtr &file);
+
+    // Posts "ExifFilesUpdate" for the editor's files; nothing without files.
+    void sendChangeNotification(const std::optional<QString> &newValue, const QString &xmlName);
+    void sendChangeNotification(const std::optional<QString> &newValue);
+
+    virtual void focusControl();
+    void setTheme(const QString &theme);
+    virtual void setExifFiles(const QList<ExifFileInfoPtr> &files);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+    // Keeps a control's right edge at a fixed distance from the parent's right edge.
+    void stretchWithRow(QWidget *widget);
+    // Common rule of text-like rows: maker-note tags of Nikon only for a selection with a NEF.
+    bool isFieldEnabledForFiles(const QList<ExifFileInfoPtr> &files) const;
+    // Puts the file's original value back (or removes the tag): a preset row that is off.
+    void restoreOriginalValue(const ExifFileInfoPtr &file) const;
+    void setRemoveButtonChecked(bool on);
+    static QString localized(const QString &key);
+    static QString multipleValuesText();
+
+private:
+    void layoutToParentWidth(int width);
+
+    QPointer<QLabel> m_label;
+    bool m_boldFontOnChange = false;
+    bool m_showRemoveButton = false;
+    QPointer<QCheckBox> m_removeButton;
+    ExifFieldPtr m_field;
+    int m_top = 0;
+    double m_maxLabelWidth = 0;
+    QList<ExifFileInfoPtr> m_exifFiles;
+    QString m_theme;
+    QPointer<QWidget> m_parent;
+    // Widgets with the distance of their right edge from the parent's right edge.
+    QList<QPair<QPointer<QWidget>, int>> m_stretching;
+    bool m_labelIsBold = false;
+};
