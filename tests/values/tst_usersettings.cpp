@@ -2,7 +2,6 @@
 
 #include <QFile>
 #include <QSettings>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -13,118 +12,85 @@ class TestUserSettings : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void init();
-    void cleanupTestCase();
+    void init()
+    {
+        UserSettings::setStoreFile(
+            m_dir.filePath(QStringLiteral("store-%1.ini").arg(++m_storeNumber)));
+        QCOMPARE(UserSettings::openStore()->fileName(), UserSettings::storeFile());
+    }
 
-    void defaultsApplyUntilSet();
-    void gpsDisplay_data();
-    void gpsDisplay();
-    void readsStoredTextValues();
-    void storeIsNeverTheUsersDuringTests();
+    void cleanupTestCase() { UserSettings::setStoreFile(QString()); }
+
+    void defaultsApplyUntilSetAndAfterRemoval()
+    {
+        QCOMPARE(UserSettings::forceFixBase(), false);
+        QCOMPARE(UserSettings::ignoreMinorErrors(), false);
+        QCOMPARE(UserSettings::fileModifyDate() + UserSettings::fileCreateDate(), 0);
+        QVERIFY(UserSettings::openStore()->allKeys().isEmpty()); // defaults are never written
+
+        UserSettings::setValue(UserSettings::ForceFixBase, true);
+        UserSettings::setValue(UserSettings::FileCreateDate, 1);
+        QCOMPARE(UserSettings::forceFixBase(), true);
+        QCOMPARE(UserSettings::fileCreateDate(), 1);
+        UserSettings::remove(UserSettings::ForceFixBase);
+        QCOMPARE(UserSettings::forceFixBase(), false);
+    }
+
+    // The store as a hand edit leaves it: text, not typed values.
+    void storedValues_data()
+    {
+        QTest::addColumn<QByteArray>("store");
+        QTest::addColumn<int>("gpsFormat");
+        QTest::addColumn<UserSettings::GpsDisplay>("display");
+        QTest::addColumn<bool>("forceFixBase");
+        QTest::addColumn<int>("fileModifyDate");
+
+        using D = UserSettings::GpsDisplay;
+        QTest::newRow("empty") << QByteArray() << 0 << D::DegreesMinutesSeconds << false << 0;
+        QTest::newRow("text values")
+            << QByteArray("GPS_FORMAT=2\nEXIFTOOL_OPTIONS_FORCE-F=true\nFILE_MODIFY_DATE=1\n") << 2
+            << D::DecimalDegrees << true << 1;
+        QTest::newRow("decimal minutes")
+            << QByteArray("GPS_FORMAT=1\nEXIFTOOL_OPTIONS_FORCE-F=false\n") << 1
+            << D::DegreesDecimalMinutes << false << 0;
+        QTest::newRow("style out of range")
+            << QByteArray("GPS_FORMAT=7\n") << 7 << D::DegreesMinutesSeconds << false << 0;
+        QTest::newRow("not a number")
+            << QByteArray("GPS_FORMAT=abc\n") << 0 << D::DegreesMinutesSeconds << false << 0;
+    }
+
+    void storedValues()
+    {
+        QFETCH(QByteArray, store);
+        QFile file(UserSettings::storeFile());
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("[General]\n" + store);
+        file.close();
+        QTEST(UserSettings::gpsFormat(), "gpsFormat");
+        QTEST(UserSettings::gpsDisplay(), "display");
+        QTEST(UserSettings::forceFixBase(), "forceFixBase");
+        QTEST(UserSettings::fileModifyDate(), "fileModifyDate");
+    }
+
+    void readsWhileAnotherThreadWrites()
+    {
+        QVERIFY(UserSettings::storeFile().startsWith(m_dir.path())); // never the user's own store
+        UserSettings::setValue(UserSettings::GpsFormat, 1);
+        auto reader = std::async(std::launch::async, [] {
+            int seen = 0;
+            for (int i = 0; i < 200; ++i)
+                seen |= 1 << UserSettings::gpsFormat();
+            return seen;
+        });
+        for (int i = 0; i < 200; ++i)
+            UserSettings::setValue(UserSettings::GpsFormat, 1 + i % 2);
+        QCOMPARE(reader.get() & ~0b110, 0);
+    }
 
 private:
     QTemporaryDir m_dir;
     int m_storeNumber = 0;
 };
-
-void TestUserSettings::initTestCase()
-{
-    QStandardPaths::setTestModeEnabled(true);
-    QVERIFY(m_dir.isValid());
-}
-
-void TestUserSettings::init()
-{
-    UserSettings::setStoreFile(m_dir.filePath(QStringLiteral("store-%1.ini").arg(++m_storeNumber)));
-}
-
-void TestUserSettings::cleanupTestCase()
-{
-    UserSettings::setStoreFile(QString());
-}
-
-void TestUserSettings::defaultsApplyUntilSet()
-{
-    QCOMPARE(UserSettings::gpsFormat(), 0);
-    QCOMPARE(UserSettings::forceFixBase(), false);
-    QCOMPARE(UserSettings::ignoreMinorErrors(), false);
-    QCOMPARE(UserSettings::fileModifyDate(), 0);
-    QCOMPARE(UserSettings::fileCreateDate(), 0);
-    // Registered defaults are not written to the store.
-    QVERIFY(UserSettings::openStore()->allKeys().isEmpty());
-
-    UserSettings::setValue(UserSettings::ForceFixBase, true);
-    UserSettings::setValue(UserSettings::IgnoreMinorErrors, true);
-    UserSettings::setValue(UserSettings::FileCreateDate, 1);
-    QCOMPARE(UserSettings::forceFixBase(), true);
-    QCOMPARE(UserSettings::ignoreMinorErrors(), true);
-    QCOMPARE(UserSettings::fileCreateDate(), 1);
-
-    UserSettings::remove(UserSettings::ForceFixBase);
-    QCOMPARE(UserSettings::forceFixBase(), false);
-}
-
-void TestUserSettings::gpsDisplay_data()
-{
-    QTest::addColumn<QVariant>("stored");
-    QTest::addColumn<int>("number");
-    QTest::addColumn<UserSettings::GpsDisplay>("display");
-
-    using D = UserSettings::GpsDisplay;
-    QTest::newRow("unset") << QVariant() << 0 << D::DegreesMinutesSeconds;
-    QTest::newRow("decimal minutes") << QVariant(1) << 1 << D::DegreesDecimalMinutes;
-    QTest::newRow("decimal degrees") << QVariant(2) << 2 << D::DecimalDegrees;
-    QTest::newRow("out of range") << QVariant(7) << 7 << D::DegreesMinutesSeconds;
-    QTest::newRow("not a number") << QVariant(QStringLiteral("abc")) << 0
-                                  << D::DegreesMinutesSeconds;
-}
-
-void TestUserSettings::gpsDisplay()
-{
-    QFETCH(QVariant, stored);
-    QFETCH(int, number);
-    QFETCH(UserSettings::GpsDisplay, display);
-
-    if (stored.isValid())
-        UserSettings::setValue(UserSettings::GpsFormat, stored);
-    QCOMPARE(UserSettings::gpsFormat(), number);
-    QCOMPARE(UserSettings::gpsDisplay(), display);
-}
-
-void TestUserSettings::readsStoredTextValues()
-{
-    // A hand-edited store holds text, not typed values.
-    QFile file(UserSettings::storeFile());
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("[General]\nGPS_FORMAT=2\nEXIFTOOL_OPTIONS_FORCE-F=true\n"
-               "EXIFTOOL_OPTIONS_FORCE-m=false\nFILE_MODIFY_DATE=1\n");
-    file.close();
-
-    QCOMPARE(UserSettings::gpsFormat(), 2);
-    QCOMPARE(UserSettings::forceFixBase(), true);
-    QCOMPARE(UserSettings::ignoreMinorErrors(), false);
-    QCOMPARE(UserSettings::fileModifyDate(), 1);
-}
-
-void TestUserSettings::storeIsNeverTheUsersDuringTests()
-{
-    UserSettings::setValue(UserSettings::GpsFormat, 1);
-    QCOMPARE(UserSettings::openStore()->fileName(), UserSettings::storeFile());
-    QVERIFY(UserSettings::storeFile().startsWith(m_dir.path()));
-
-    // Reads from another thread while the main thread writes.
-    auto reader = std::async(std::launch::async, [] {
-        int seen = 0;
-        for (int i = 0; i < 200; ++i)
-            seen |= 1 << UserSettings::gpsFormat();
-        return seen;
-    });
-    for (int i = 0; i < 200; ++i)
-        UserSettings::setValue(UserSettings::GpsFormat, 1 + i % 2);
-    const int seen = reader.get();
-    QVERIFY((seen & ~0b110) == 0);
-}
 
 QTEST_GUILESS_MAIN(TestUserSettings)
 #include "tst_usersettings.moc"
