@@ -3,131 +3,100 @@
 
 #include <QTest>
 
-#include <functional>
+using namespace Qt::StringLiterals;
 
-using WriterSteps = std::function<void(XMLWriter &)>;
-Q_DECLARE_METATYPE(WriterSteps)
+namespace {
+
+// Steps separated by "|": "<a" start, ">" end, "!" forced end, "/a" named end, "@k=v" attribute,
+// "'t" content, "#t" comment, "%3" indent, "?" declaration.
+void play(XMLWriter &w, const QString &steps)
+{
+    for (const QString &step : steps.split(u'|')) {
+        const QString arg = step.mid(1);
+        // clang-format off
+        switch (step.at(0).unicode()) {
+        case '<': w.startElement(arg); break;
+        case '>': w.endElement(); break;
+        case '!': w.endElementForceClose(true); break;
+        case '/': w.endElementNamed(arg); break;
+        case '@': w.writeAttribute(arg.section(u'=', 0, 0), arg.section(u'=', 1)); break;
+        case '\'': w.writeContent(arg); break;
+        case '#': w.writeComment(arg); break;
+        case '%': w.setIndent(arg.toInt()); break;
+        case '?': w.setXmlTagEnabled(true); break;
+        }
+        // clang-format on
+    }
+}
+
+} // namespace
 
 class TestXmlWriter : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void writesExactOutput_data();
-    void writesExactOutput();
-    void refusesMisuse_data();
-    void refusesMisuse();
-};
-
-void TestXmlWriter::writesExactOutput_data()
-{
-    QTest::addColumn<WriterSteps>("steps");
-    QTest::addColumn<QString>("expected");
-
-    QTest::newRow("nested layout with one blank per level") << WriterSteps([](XMLWriter &w) {
-        w.startElement(QStringLiteral("a"));
-        w.writeAttribute(QStringLiteral("x"), QStringLiteral("1"));
-        w.startElement(QStringLiteral("b"));
-        w.writeContent(QStringLiteral("t"));
-        w.endElement();
-        w.startElement(QStringLiteral("c"));
-        w.endElement();
-        w.endElement();
-    }) << QStringLiteral("\n<a x=\"1\">\n <b>t</b>\n <c/>\n</a>");
-    QTest::newRow("set indent widens the levels") << WriterSteps([](XMLWriter &w) {
-        w.setIndent(3);
-        w.startElement(QStringLiteral("a"));
-        w.startElement(QStringLiteral("b"));
-        w.startElement(QStringLiteral("c"));
-        w.endElement();
-        w.endElement();
-        w.endElement();
-    }) << QStringLiteral("\n<a>\n   <b>\n      <c/>\n   </b>\n</a>");
-    QTest::newRow("forced close of an empty element") << WriterSteps([](XMLWriter &w) {
-        w.startElement(QStringLiteral("a"));
-        w.endElementForceClose(true);
-    }) << QStringLiteral("\n<a></a>");
-    QTest::newRow("comment last leaves the element empty") << WriterSteps([](XMLWriter &w) {
-        w.startElement(QStringLiteral("a"));
-        w.writeComment(QStringLiteral("note"));
-        w.endElement();
-    }) << QStringLiteral("\n<a>\n<!--note-->\n/>");
-    QTest::newRow("declaration once before the first tag") << WriterSteps([](XMLWriter &w) {
-        w.setXmlTagEnabled(true);
-        w.startElement(QStringLiteral("a"));
-        w.startElement(QStringLiteral("b"));
-        w.endElement();
-        w.endElement();
-    }) << QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<a>\n <b/>\n</a>");
-    QTest::newRow("content escapes markup but keeps quotes and line breaks")
-        << WriterSteps([](XMLWriter &w) {
-               w.startElement(QStringLiteral("v"));
-               w.writeContent(QStringLiteral("a<b> Tom & Jerry say \"hi\" it's\nnext\r\tend"));
-               w.endElement();
-           })
-        << QStringLiteral("\n<v>a&lt;b&gt; Tom &amp; Jerry say \"hi\" it's\nnext&#13;\tend</v>");
-    QTest::newRow("attribute escapes quotes and whitespace") << WriterSteps([](XMLWriter &w) {
-        w.startElement(QStringLiteral("v"));
-        w.writeAttribute(QStringLiteral("n"), QStringLiteral("<\"&'>\n\t\r東京"));
-        w.endElement();
-    }) << QStringLiteral("\n<v n=\"&lt;&quot;&amp;'&gt;&#10;&#9;&#13;東京\"/>");
-}
-
-void TestXmlWriter::writesExactOutput()
-{
-    QFETCH(WriterSteps, steps);
-    QFETCH(QString, expected);
-
-    XMLWriter writer;
-    steps(writer);
-    QCOMPARE(writer.output(), expected);
-    QCOMPARE(writer.currentLevel(), 0);
-}
-
-void TestXmlWriter::refusesMisuse_data()
-{
-    QTest::addColumn<WriterSteps>("steps");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("reason");
-
-    const QString logic = TagsmithException::LogicError;
-    const QString illegal = TagsmithException::IllegalArgument;
-    QTest::newRow("attribute before any element")
-        << WriterSteps([](XMLWriter &w) { w.writeAttribute(QStringLiteral("a"), QString()); })
-        << logic << QStringLiteral("Write element at first");
-    QTest::newRow("named close with nothing open")
-        << WriterSteps([](XMLWriter &w) { w.endElementNamed(QStringLiteral("a")); }) << logic
-        << QStringLiteral("There is nothing to close.");
-    QTest::newRow("named close of the wrong element") << WriterSteps([](XMLWriter &w) {
-        w.startElement(QStringLiteral("outer"));
-        w.startElement(QStringLiteral("inner"));
-        w.endElementNamed(QStringLiteral("outer"));
-    }) << logic << QStringLiteral("Invalid closing tag \"outer\". It should be: \"inner\"");
-    QTest::newRow("empty attribute name") << WriterSteps([](XMLWriter &w) {
-        w.startElement(QStringLiteral("a"));
-        w.writeAttribute(QString(), QStringLiteral("v"));
-    }) << illegal << QStringLiteral("Xml attribute cannot be empty");
-    QTest::newRow("colon in attribute name") << WriterSteps([](XMLWriter &w) {
-        w.startElement(QStringLiteral("a"));
-        w.writeAttribute(QStringLiteral("a:b"), QStringLiteral("v"));
-    }) << illegal << QStringLiteral("\"a:b\" is not a valid xml attribute name.");
-}
-
-void TestXmlWriter::refusesMisuse()
-{
-    QFETCH(WriterSteps, steps);
-    QFETCH(QString, name);
-    QFETCH(QString, reason);
-
-    XMLWriter writer;
-    try {
-        steps(writer);
-        QFAIL("no exception thrown");
-    } catch (const TagsmithException &e) {
-        QCOMPARE(e.name(), name);
-        QCOMPARE(e.reason(), reason);
+    // Presets are stored in exactly this layout, quirks included.
+    void writesExactOutput_data()
+    {
+        QTest::addColumn<QString>("steps");
+        QTest::addColumn<QString>("expected");
+        const auto row = [](const char *name, const char16_t *steps, const char16_t *expected) {
+            QTest::newRow(name) << QString::fromUtf16(steps) << QString::fromUtf16(expected);
+        };
+        row("one blank per level", u"<a|@x=1|<b|'t|>|<c|>|>",
+            u"\n<a x=\"1\">\n <b>t</b>\n <c/>\n</a>");
+        row("set indent", u"%3|<a|<b|<c|>|>|>", u"\n<a>\n   <b>\n      <c/>\n   </b>\n</a>");
+        row("forced close", u"<a|!", u"\n<a></a>");
+        row("comment last", u"<a|#note|>", u"\n<a>\n<!--note-->\n/>");
+        row("declaration once", u"?|<a|<b|>|>",
+            u"<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<a>\n <b/>\n</a>");
+        row("content escapes", u"<v|'a<b> Tom & Jerry say \"hi\" it's\nnext\r\tend|>",
+            u"\n<v>a&lt;b&gt; Tom &amp; Jerry say \"hi\" it's\nnext&#13;\tend</v>");
+        row("content control char", u"<v|'bell\u0007|>", u"\n<v>bell<?tagsmith-char 7?></v>");
+        row("attribute escapes", u"<v|@n=<\"&'>\n\t\r東京|>",
+            u"\n<v n=\"&lt;&quot;&amp;'&gt;&#10;&#9;&#13;東京\"/>");
     }
-}
+
+    void writesExactOutput()
+    {
+        QFETCH(QString, steps);
+        XMLWriter writer;
+        play(writer, steps);
+        QTEST(writer.output(), "expected");
+        QCOMPARE(writer.currentLevel(), 0);
+    }
+
+    void refusesMisuse_data()
+    {
+        QTest::addColumn<QString>("steps");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("reason");
+        const QString logic = TagsmithException::LogicError;
+        const QString illegal = TagsmithException::IllegalArgument;
+        QTest::newRow("attribute first") << u"@a="_s << logic << u"Write element at first"_s;
+        QTest::newRow("nothing to close") << u"/a"_s << logic << u"There is nothing to close."_s;
+        QTest::newRow("wrong close") << u"<outer|<inner|/outer"_s << logic
+                                     << u"Invalid closing tag \"outer\". It should be: \"inner\""_s;
+        QTest::newRow("empty attribute")
+            << u"<a|@=v"_s << illegal << u"Xml attribute cannot be empty"_s;
+        QTest::newRow("colon attribute")
+            << u"<a|@a:b=v"_s << illegal << u"\"a:b\" is not a valid xml attribute name."_s;
+    }
+
+    void refusesMisuse()
+    {
+        QFETCH(QString, steps);
+        XMLWriter writer;
+        try {
+            play(writer, steps);
+            QFAIL("no exception thrown");
+        } catch (const TagsmithException &e) {
+            QTEST(e.name(), "name");
+            QTEST(e.reason(), "reason");
+        }
+    }
+};
 
 QTEST_GUILESS_MAIN(TestXmlWriter)
 #include "tst_xmlwriter.moc"
