@@ -2,9 +2,11 @@
 
 #include "engine/exiffileinfo.h"
 #include "engine/exifrunneroperation.h"
+#include "engine/exiftoolcommand.h"
 #include "engine/tagdictionary.h"
 
 #include <QDateTime>
+#include <QHash>
 #include <QMutex>
 #include <QString>
 #include <QStringList>
@@ -36,6 +38,10 @@ public:
     QString tempFileName() const { return m_tempFileName; }
     // What the file held after the run, when it was re-read.
     std::optional<TagDictionary> oldData() const;
+
+    // Each ExifTool command of a file gets baseMs plus perMegabyteMs for every megabyte of the
+    // file before it is given up (tests shorten it). Process-wide.
+    static void setCommandTimeouts(int baseMs, int perMegabyteMs);
 
 protected:
     // The one road by which a file is rewritten; every subclass's run goes through it.
@@ -69,6 +75,15 @@ protected:
     mutable QMutex m_lock;
 
 private:
+    // The new file as it reads back, or nullopt (with an error) when it must not replace the
+    // original. typeDiffers: ExifTool named its type apart from the original's only because the
+    // temporary name has no extension.
+    std::optional<TagDictionary> checkNewFile(ErrorMessages &errors, bool &typeDiffers);
+    // Reads files through the operation's session, the way ExifRunner reads them.
+    QHash<QString, TagDictionary> readFiles(const QStringList &paths, const QStringList &extra,
+                                            ExifToolResult &result);
+    void describeFinalFile(TagDictionary &values) const;
+
     const QString m_fileName;
     const ExifFileInfoPtr m_efi;
     const quint32 m_options;

@@ -37,10 +37,14 @@ public:
 
 protected:
     ExifToolSession &exifToolSession();
+    // Applies to the ExifTool commands that follow; < 0 waits as long as it takes.
+    void setCommandTimeout(int timeoutMs) { m_commandTimeoutMs = timeoutMs; }
+    int commandTimeout() const { return m_commandTimeoutMs; }
 
 private:
     ExifToolSession *m_session = nullptr;
     std::unique_ptr<ExifToolSession> m_ownSession;
+    int m_commandTimeoutMs = -1;
 };
 
 using ExifRunnerOperationPtr = std::shared_ptr<ExifRunnerOperation>;

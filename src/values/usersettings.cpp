@@ -3,6 +3,7 @@
 #include <QMutex>
 #include <QMutexLocker>
 #include <QSettings>
+#include <QStringList>
 
 namespace {
 
@@ -120,4 +121,29 @@ UserSettings::FileDate UserSettings::fileModifyDateMode()
 UserSettings::FileDate UserSettings::fileCreateDateMode()
 {
     return toFileDate(fileCreateDate());
+}
+
+bool UserSettings::verifiesImageData(const QString &path)
+{
+    const QVariant stored = value(VerifyImageData);
+    if (stored.isValid())
+        return stored.toBool();
+    // Raw writers are where ExifTool's makers' quirks live, and a damaged raw cannot be
+    // redeveloped; for the others the check costs more than it is likely to find.
+    return isCameraRawFile(path);
+}
+
+bool UserSettings::isCameraRawFile(const QString &path)
+{
+    static const QStringList rawSuffixes{
+        QStringLiteral("cr2"), QStringLiteral("cr3"), QStringLiteral("crw"), QStringLiteral("nef"),
+        QStringLiteral("nrw"), QStringLiteral("arw"), QStringLiteral("sr2"), QStringLiteral("srf"),
+        QStringLiteral("dng"), QStringLiteral("orf"), QStringLiteral("pef"), QStringLiteral("raf"),
+        QStringLiteral("rw2"), QStringLiteral("x3f"), QStringLiteral("erf"), QStringLiteral("3fr"),
+        QStringLiteral("iiq"), QStringLiteral("mrw"), QStringLiteral("srw"), QStringLiteral("rwl"),
+    };
+    const qsizetype dot = path.lastIndexOf(u'.');
+    if (dot < 0 || path.indexOf(u'/', dot) >= 0)
+        return false;
+    return rawSuffixes.contains(path.mid(dot + 1).toLower());
 }

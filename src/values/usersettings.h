@@ -18,6 +18,9 @@ public:
     static inline const QString IgnoreMinorErrors = QStringLiteral("EXIFTOOL_OPTIONS_FORCE-m");
     static inline const QString FileModifyDate = QStringLiteral("FILE_MODIFY_DATE");
     static inline const QString FileCreateDate = QStringLiteral("FILE_CREATE_DATE");
+    // "Verify image data when saving": true or false once the user chose; until then camera
+    // raw files are checked and others not.
+    static inline const QString VerifyImageData = QStringLiteral("VERIFY_IMAGE_DATA");
 
     enum class GpsDisplay {
         DegreesMinutesSeconds = 0,
@@ -48,6 +51,10 @@ public:
     // Numbers other than 0 and 1 leave the date the write produced.
     static FileDate fileModifyDateMode();
     static FileDate fileCreateDateMode();
+    // Whether a save of this file compares the image data of the old and the new file.
+    static bool verifiesImageData(const QString &path);
+    // By extension: the camera raw formats the program opens.
+    static bool isCameraRawFile(const QString &path);
 
 private:
     static int intValue(const QString &key);

@@ -1,0 +1,358 @@
+#include "engine/exifrunnerfilemodifiyoperation.h"
+
+#include "catalogue/exiffieldscontroller.h"
+#include "engine/exifreportparser.h"
+#include "engine/exifrunner.h"
+#include "engine/exiftoolsession.h"
+#include "engine/filereplacement.h"
+#include "values/dateoffset.h"
+#include "values/datevalue.h"
+#include "values/debugmode.h"
+#include "values/logging.h"
+#include "values/usersettings.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QMutexLocker>
+
+#include <sys/stat.h>
+
+#include <atomic>
+
+namespace {
+
+std::atomic<int> s_timeoutBaseMs{120'000};
+std::atomic<int> s_timeoutPerMegabyteMs{10'000};
+
+const QString FileTypeKey = QStringLiteral("File:FileType");
+const QString ImageDataHashKey = QStringLiteral("File:ImageDataHash");
+const QStringList DimensionKeys{QStringLiteral("File:ImageWidth"), QStringLiteral("File:ImageHeight"),
+                                QStringLiteral("Composite:ImageSize")};
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("ExifRunnerFileModifiyOperation", text);
+}
+
+// ExifTool names a record "<Directory>/<FileName>" as it printed them, which is the path it was
+// given; the file name alone is the fallback should it ever print the folder differently.
+TagDictionary recordOf(const QHash<QString, TagDictionary> &records, const QString &path)
+{
+    const auto exact = records.constFind(path);
+    if (exact != records.cend())
+        return exact.value();
+    const QString name = QFileInfo(path).fileName();
+    for (const TagDictionary &record : records) {
+        if (record.value(QStringLiteral("System:FileName")) == name)
+            return record;
+    }
+    return {};
+}
+
+timespec toTimespec(const QDateTime &date)
+{
+    const qint64 ms = date.toMSecsSinceEpoch();
+    timespec time{};
+    time.tv_sec = time_t(ms / 1000);
+    time.tv_nsec = long((ms % 1000) * 1'000'000);
+    if (time.tv_nsec < 0) {
+        time.tv_nsec += 1'000'000'000;
+        time.tv_sec -= 1;
+    }
+    return time;
+}
+
+// ExifTool's own form of a file date, so a re-read value looks like any other.
+QString exifToolFileDate(const QDateTime &date)
+{
+    const int offset = date.offsetFromUtc();
+    const int minutes = std::abs(offset) / 60;
+    return date.toString(QStringLiteral("yyyy:MM:dd HH:mm:ss")) + (offset < 0 ? u'-' : u'+') +
+           QString::asprintf("%02d:%02d", minutes / 60, minutes % 60);
+}
+
+} // namespace
+
+ExifRunnerFileModifiyOperation::ExifRunnerFileModifiyOperation(ExifFileInfoPtr efi,
+                                                               quint32 options)
+    : m_fileName(efi->fileName())
+    , m_efi(std::move(efi))
+    , m_options(options)
+{
+}
+
+ExifRunnerFileModifiyOperation::~ExifRunnerFileModifiyOperation() = default;
+
+void ExifRunnerFileModifiyOperation::setCommandTimeouts(int baseMs, int perMegabyteMs)
+{
+    s_timeoutBaseMs = baseMs;
+    s_timeoutPerMegabyteMs = perMegabyteMs;
+}
+
+ErrorMessagesPtr ExifRunnerFileModifiyOperation::errors() const
+{
+    QMutexLocker locker(&m_lock);
+    return m_errors;
+}
+
+std::optional<TagDictionary> ExifRunnerFileModifiyOperation::oldData() const
+{
+    QMutexLocker locker(&m_lock);
+    return m_oldData;
+}
+
+void ExifRunnerFileModifiyOperation::storeResults(ErrorMessagesPtr errors,
+                                                  std::optional<TagDictionary> oldData)
+{
+    if (oldData && oldData->contains(QStringLiteral("System:FileModifyDate"))) {
+        // The dates were set after the new file was read back.
+        const QFileInfo info(m_fileName);
+        if (info.exists()) {
+            oldData->insert(QStringLiteral("System:FileModifyDate"),
+                            exifToolFileDate(info.lastModified()));
+        }
+    }
+    QMutexLocker locker(&m_lock);
+    m_errors = std::move(errors);
+    m_oldData = std::move(oldData);
+}
+
+void ExifRunnerFileModifiyOperation::postProcessInMainThread()
+{
+    const std::optional<TagDictionary> data = oldData();
+    if (!reReads() || !data)
+        return;
+    m_efi->setOriginalExifData(*data);
+    replaceDateTimeOffsets();
+}
+
+void ExifRunnerFileModifiyOperation::replaceDateTimeOffsets()
+{
+    // Every date field, changed or not: a shift just written must not be applied again.
+    const TagDictionary original = m_efi->originalExifData();
+    for (const ExifFieldPtr &field : ExifFieldsController::defaultInstance()->configurations()) {
+        const FieldDataRepresentation representation = field->dataRepresentation();
+        if (representation != FieldDataRepresentation::Date &&
+            representation != FieldDataRepresentation::DateTime) {
+            continue;
+        }
+        const auto value = original.constFind(field->xmlName());
+        if (value != original.cend())
+            m_efi->setExifValue(field->xmlName(), value.value());
+        else
+            m_efi->removeExifValue(field->xmlName());
+    }
+}
+
+ExifRunnerFileModifiyOperation::WriteResult
+ExifRunnerFileModifiyOperation::writeFile(const QStringList &arguments, ErrorMessages &errors)
+{
+    WriteResult result;
+    const qint64 megabytes = QFileInfo(m_fileName).size() / (1024 * 1024);
+    setCommandTimeout(int(std::min<qint64>(s_timeoutBaseMs + megabytes * s_timeoutPerMegabyteMs,
+                                           std::numeric_limits<int>::max())));
+
+    if (createTempFilePathForPath(m_fileName).isEmpty()) {
+        errors.addError(tr("The file could not be saved: %1").arg(m_replacement->errorString()));
+    } else {
+        QStringList all = arguments;
+        all << QStringLiteral("-o") << m_replacement->exifToolOutputPath() << m_fileName;
+        if (DebugMode::isEnabled())
+            debugPrintArguments(all);
+        result.exitStatus = runExifToolWithArgs(all, errors);
+        if (result.exitStatus == 0) {
+            bool typeDiffers = false;
+            std::optional<TagDictionary> written = checkNewFile(errors, typeDiffers);
+            if (written) {
+                verifyWrittenValues(*written, errors);
+                result.replaced = moveTempToFinal(errors);
+                if (result.replaced && reReads() && !typeDiffers) {
+                    describeFinalFile(*written);
+                    result.reRead = std::move(written);
+                }
+            }
+        }
+        m_replacement->discard();
+    }
+    // What is on disk now, whichever file that is.
+    if (reReads() && !result.reRead)
+        result.reRead = loadOldDataWithErrors(errors);
+    return result;
+}
+
+std::optional<TagDictionary> ExifRunnerFileModifiyOperation::checkNewFile(ErrorMessages &errors,
+                                                                          bool &typeDiffers)
+{
+    const QString newPath = m_replacement->temporaryPath();
+    const QFileInfo info(newPath);
+    if (!info.exists()) {
+        errors.addError(tr("ExifTool reported success but wrote no file; the original was kept."));
+        return std::nullopt;
+    }
+    if (info.size() == 0) {
+        errors.addError(tr("ExifTool wrote an empty file; the original was kept."));
+        return std::nullopt;
+    }
+
+    const bool verifiesImageData = UserSettings::verifiesImageData(m_fileName);
+    TagDictionary original = m_efi->originalExifData();
+    // Both hashes come from one run; and without a snapshot to compare with, the original is
+    // read alongside.
+    const bool readsOriginal = verifiesImageData || !original.contains(FileTypeKey);
+    QStringList paths{newPath};
+    if (readsOriginal)
+        paths.append(m_fileName);
+    QStringList extra;
+    if (verifiesImageData)
+        extra << QStringLiteral("-api") << QStringLiteral("requesttags=ImageDataHash");
+
+    ExifToolResult run;
+    const QHash<QString, TagDictionary> records = readFiles(paths, extra, run);
+    if (run.outcome != ExifToolResult::Outcome::Finished) {
+        errors.addError(tr("The new file could not be read back (%1); the original was kept.")
+                            .arg(run.errorMessage));
+        return std::nullopt;
+    }
+    const TagDictionary written = recordOf(records, newPath);
+    if (readsOriginal)
+        original = recordOf(records, m_fileName);
+    if (written.isEmpty() || !written.contains(FileTypeKey)) {
+        errors.addError(tr("The new file could not be read back; the original was kept."));
+        return std::nullopt;
+    }
+
+    const QString oldType = original.value(FileTypeKey);
+    const QString newType = written.value(FileTypeKey);
+    typeDiffers = oldType != newType;
+    // Without its extension a TIFF-based raw file reads as a plain TIFF.
+    if (typeDiffers && !(newType == QStringLiteral("TIFF") && UserSettings::isCameraRawFile(m_fileName))) {
+        errors.addError(tr("The new file is of type %1 instead of %2; the original was kept.")
+                            .arg(newType, oldType));
+        return std::nullopt;
+    }
+    for (const QString &key : DimensionKeys) {
+        if (original.contains(key) && written.contains(key) &&
+            original.value(key) != written.value(key)) {
+            errors.addError(tr("The new file's image size is %1 instead of %2; the original was "
+                               "kept.")
+                                .arg(written.value(key), original.value(key)));
+            return std::nullopt;
+        }
+    }
+    if (verifiesImageData) {
+        const QString oldHash = original.value(ImageDataHashKey);
+        if (!oldHash.isEmpty() && oldHash != written.value(ImageDataHashKey)) {
+            errors.addError(tr("Writing the metadata changed the image data; the original was "
+                               "kept."));
+            return std::nullopt;
+        }
+    }
+    return written;
+}
+
+QHash<QString, TagDictionary>
+ExifRunnerFileModifiyOperation::readFiles(const QStringList &paths, const QStringList &extra,
+                                          ExifToolResult &result)
+{
+    QStringList arguments = extra + ExifRunner::readCommandArguments(paths);
+    result = exifToolSession().execute(arguments, commandTimeout());
+    if (DebugMode::isEnabled()) {
+        debugPrintArguments(arguments);
+        debugPrintExifToolOut(result.standardError);
+    }
+    QHash<QString, TagDictionary> records = ExifReportParser::parse(result.standardOutput);
+    ExifRunner formatter(exifToolSession().program());
+    for (TagDictionary &record : records)
+        record = formatter.preformatValues(record);
+    return records;
+}
+
+void ExifRunnerFileModifiyOperation::describeFinalFile(TagDictionary &values) const
+{
+    // The read-back named the temporary file; the window shows the file itself.
+    const TagDictionary original = m_efi->originalExifData();
+    const QFileInfo info(m_fileName);
+    values.insert(QStringLiteral("System:FileName"), info.fileName());
+    values.insert(QStringLiteral("System:Directory"),
+                  original.value(QStringLiteral("System:Directory"), info.path()));
+    struct stat st
+    {
+    };
+    if (values.contains(QStringLiteral("System:FilePermissions")) &&
+        ::stat(QFile::encodeName(m_fileName).constData(), &st) == 0) {
+        values.insert(QStringLiteral("System:FilePermissions"),
+                      QString::number(st.st_mode, 8));
+    }
+}
+
+void ExifRunnerFileModifiyOperation::verifyWrittenValues(const TagDictionary &, ErrorMessages &) {}
+
+TagDictionary ExifRunnerFileModifiyOperation::loadOldDataWithErrors(ErrorMessages &)
+{
+    if (!QFileInfo::exists(m_fileName))
+        return {};
+    ExifToolResult run;
+    return recordOf(readFiles({m_fileName}, {}, run), m_fileName);
+}
+
+bool ExifRunnerFileModifiyOperation::moveTempToFinal(ErrorMessages &errors)
+{
+    return m_replacement->commit(errors);
+}
+
+void ExifRunnerFileModifiyOperation::updateFileDates()
+{
+    std::optional<timespec> modified;
+    switch (UserSettings::fileModifyDateMode()) {
+    case UserSettings::FileDate::FromMetadata:
+        if (const auto date = findDateForFile(QStringLiteral("IFD0:ModifyDate")))
+            modified = toTimespec(*date);
+        break;
+    case UserSettings::FileDate::KeepPrevious:
+        if (m_replacement && m_replacement->originalState())
+            modified = m_replacement->originalState()->modified;
+        break;
+    case UserSettings::FileDate::LeaveAsWritten:
+        break;
+    }
+    // FILE_CREATE_DATE has nothing to act on: Linux keeps a birth time but no call sets it.
+    if (!modified)
+        return;
+    QString error;
+    if (!setFileModificationTime(m_fileName, *modified, &error))
+        qCWarning(lcTagsmith).noquote() << error;
+}
+
+std::optional<QDateTime> ExifRunnerFileModifiyOperation::findDateForFile(const QString &key) const
+{
+    const QString value = m_efi->exifValue(key);
+    if (value.isNull())
+        return std::nullopt;
+    QDateTime date;
+    if (!isDateOffsetText(value)) {
+        if (const auto components = parseDateTimeValue(value))
+            date = dateFromComponents(*components);
+    } else {
+        date = applyDateOffset(value, m_efi->originalExifData().value(key));
+    }
+    if (!date.isValid())
+        return std::nullopt;
+    return date;
+}
+
+QString ExifRunnerFileModifiyOperation::createTempFilePathForPath(const QString &path)
+{
+    m_replacement = std::make_unique<FileReplacement>(path);
+    m_tempFileName.clear();
+    if (m_replacement->prepare())
+        m_tempFileName = m_replacement->temporaryPath();
+    return m_tempFileName;
+}
+
+void ExifRunnerFileModifiyOperation::debugPrintArguments(const QStringList &arguments) const
+{
+    QString text;
+    for (const QString &argument : arguments)
+        text += argument + u'\n';
+    qCInfo(lcTagsmith).noquote() << text;
+}

@@ -1,0 +1,297 @@
+#include "engine/exifrunnersaveoperation.h"
+
+#include "catalogue/exiffield.h"
+#include "catalogue/exiffieldscontroller.h"
+#include "engine/exifrunner.h"
+#include "engine/exifutil.h"
+#include "values/dateoffset.h"
+#include "values/datevalue.h"
+#include "values/numberformatter.h"
+#include "values/taglist.h"
+#include "values/usersettings.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+#include <QMutexLocker>
+
+#include <cmath>
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("ExifRunnerSaveOperation", text);
+}
+
+FieldDataRepresentation representationOf(const ExifFieldPtr &field)
+{
+    return field ? field->dataRepresentation() : FieldDataRepresentation::None;
+}
+
+bool isDateRepresentation(FieldDataRepresentation representation)
+{
+    return representation == FieldDataRepresentation::Date ||
+           representation == FieldDataRepresentation::DateTime;
+}
+
+QString titleOf(const ExifFieldPtr &field, const QString &key)
+{
+    return field && !field->title().isEmpty() ? field->title() : key;
+}
+
+// ISO 2022 "ESC % G": the IPTC record holds UTF-8.
+const QString IptcUtf8 = QStringLiteral("\x1b%G");
+
+std::optional<double> parseNumber(const QString &text, const QLocale &locale)
+{
+    NumberFormatter formatter(locale);
+    formatter.setLenient(true);
+    return formatter.numberFromString(text);
+}
+
+bool numbersMatch(double a, double b, qint64 decimals)
+{
+    const double tolerance = decimals >= 0 ? 0.5 * std::pow(10.0, -double(decimals)) + 1e-9
+                                           : 1e-6 * std::max(1.0, std::fabs(b));
+    return std::fabs(a - b) <= tolerance;
+}
+
+} // namespace
+
+std::shared_ptr<ExifRunnerSaveOperation> ExifRunnerSaveOperation::create(ExifFileInfoPtr efi,
+                                                                         quint32 options)
+{
+    auto operation = std::make_shared<ExifRunnerSaveOperation>(std::move(efi), options);
+    if (operation->m_itemsToChange.isEmpty() && operation->m_itemsToRemove.isEmpty())
+        return nullptr;
+    return operation;
+}
+
+ExifRunnerSaveOperation::ExifRunnerSaveOperation(ExifFileInfoPtr efi, quint32 options)
+    : ExifRunnerFileModifiyOperation(std::move(efi), options)
+{
+    m_itemsToRemove = gatherFieldsToRemove();
+    m_itemsToChange = ExifUtil::changedFieldsDictionary(*this->efi());
+}
+
+QSet<QString> ExifRunnerSaveOperation::gatherFieldsToRemove() const
+{
+    return ExifUtil::removedFieldsSet(*efi());
+}
+
+void ExifRunnerSaveOperation::run()
+{
+    auto errors = std::make_shared<ErrorMessages>(fileName());
+    QStringList failures;
+    const QStringList arguments = exifToolArguments(&failures);
+    if (!failures.isEmpty()) {
+        // Nothing is written rather than a file with one edit quietly missing; the edits stay
+        // pending so the user can correct them.
+        for (const QString &failure : std::as_const(failures))
+            errors->addError(failure);
+        storeResults(errors, std::nullopt);
+        return;
+    }
+
+    const WriteResult result = writeFile(arguments, *errors);
+    QMutexLocker locker(&m_lock);
+    // An original kept after a failed check is left exactly as it was, dates included.
+    if (result.replaced)
+        updateFileDates();
+    locker.unlock();
+    storeResults(errors, reReads() ? result.reRead : std::nullopt);
+}
+
+QStringList ExifRunnerSaveOperation::exifToolArguments(QStringList *failures) const
+{
+    return gatherExifToolArgumentsToChange(convertValuesToChange(m_itemsToChange, failures)) +
+           gatherExifToolArgumentsToRemove(m_itemsToRemove) + otherExifFileArguments();
+}
+
+TagDictionary ExifRunnerSaveOperation::convertValuesToChange(const TagDictionary &changes,
+                                                             QStringList *failures)
+{
+    const ExifFieldsController *catalogue = ExifFieldsController::defaultInstance();
+    TagDictionary converted;
+    bool writesIptc = false;
+    for (auto it = changes.cbegin(); it != changes.cend(); ++it) {
+        const QString &key = it.key();
+        const QString &value = it.value();
+        writesIptc = writesIptc || key.startsWith(QStringLiteral("IPTC:"));
+        const ExifFieldPtr field = catalogue->field(key);
+        const bool isShift = isDateOffsetText(value);
+        switch (representationOf(field)) {
+        case FieldDataRepresentation::DateTime:
+            converted.insert(key, isShift ? formatDateOffsetForWriting(value, DateEditorTypeDateTime)
+                                          : value);
+            break;
+        case FieldDataRepresentation::Date:
+            if (isShift) {
+                converted.insert(key, formatDateOffsetForWriting(value, DateEditorTypeDate));
+            } else if (value.isEmpty() || value.section(u' ', 0, 0).split(u':').size() >= 3) {
+                converted.insert(key, value.isEmpty() ? value : normalizeDateForWriting(value));
+            } else if (failures) {
+                failures->append(tr("The value \"%1\" of %2 is not a valid date.")
+                                     .arg(value, titleOf(field, key)));
+            }
+            break;
+        case FieldDataRepresentation::Number:
+            if (value.isEmpty()) {
+                converted.insert(key, value);
+            } else if (const auto number = formatNumberForExifTool(value, *field)) {
+                converted.insert(key, *number);
+            } else if (failures) {
+                failures->append(tr("The value \"%1\" of %2 is not a valid number.")
+                                     .arg(value, titleOf(field, key)));
+            }
+            break;
+        default:
+            converted.insert(key, value);
+            break;
+        }
+    }
+    if (writesIptc)
+        converted.insert(QStringLiteral("CodedCharacterSet"), IptcUtf8);
+    return converted;
+}
+
+std::optional<QString> ExifRunnerSaveOperation::formatNumberForExifTool(const QString &text,
+                                                                       const ExifField &field)
+{
+    const QLocale english(QLocale::English, QLocale::UnitedStates);
+    // What the user typed in their own locale; a value in ExifTool's own form still reads.
+    std::optional<double> number = parseNumber(text, QLocale());
+    if (!number)
+        number = parseNumber(text, english);
+    if (!number)
+        return std::nullopt;
+    // en_US groups thousands ("12,345"); ExifTool then writes 12 and the read-back check warns.
+    if (field.decimals() < 0)
+        return english.toString(*number, 'f', QLocale::FloatingPointShortest);
+    NumberFormatter formatter(english);
+    formatter.setMaximumFractionDigits(int(std::min<qint64>(field.decimals(), 340)));
+    return formatter.stringFromNumber(*number);
+}
+
+std::optional<QString> ExifRunnerSaveOperation::identifyMaker(const TagDictionary &values)
+{
+    static const QHash<QString, QString> makers{
+        {QStringLiteral("Canon"), QStringLiteral("Canon")},
+        {QStringLiteral("NIKON CORPORATION"), QStringLiteral("Nikon")},
+        {QStringLiteral("OLYMPUS IMAGING CORP."), QStringLiteral("Olympus")},
+        {QStringLiteral("PENTAX Corporation"), QStringLiteral("Pentax")},
+        {QStringLiteral("Leica Camera AG"), QStringLiteral("Leica")},
+        {QStringLiteral("FUJIFILM"), QStringLiteral("Fuji")},
+    };
+    const auto maker = makers.constFind(values.value(QStringLiteral("IFD0:Make")));
+    if (maker == makers.cend())
+        return std::nullopt;
+    return maker.value();
+}
+
+QStringList ExifRunnerSaveOperation::gatherExifToolArgumentsToChange(const TagDictionary &converted)
+{
+    const ExifFieldsController *catalogue = ExifFieldsController::defaultInstance();
+    QStringList arguments;
+    for (auto it = converted.cbegin(); it != converted.cend(); ++it) {
+        const QString &key = it.key();
+        const QString &value = it.value();
+        const FieldDataRepresentation representation = representationOf(catalogue->field(key));
+        if (isDateRepresentation(representation) && isDateOffsetText(value)) {
+            // The quotes reach ExifTool as part of the value, which it accepts for a shift.
+            const QString shift = value.contains(u'+') ? QStringLiteral("+=") : QStringLiteral("-=");
+            arguments.append(u'-' + key + shift + u'\'' + value.mid(1) + u'\'');
+        } else if (representation == FieldDataRepresentation::Strings) {
+            for (const QString &item : splitStringsItems(value))
+                arguments.append(u'-' + key + u'=' + item);
+        } else {
+            arguments.append(u'-' + key + u'=' + value);
+        }
+    }
+    return arguments;
+}
+
+QStringList ExifRunnerSaveOperation::gatherExifToolArgumentsToRemove(const QSet<QString> &keys)
+{
+    QStringList arguments;
+    for (const QString &key : keys)
+        arguments.append(u'-' + key + u'=');
+    return arguments;
+}
+
+QStringList ExifRunnerSaveOperation::otherExifFileArguments()
+{
+    QStringList arguments{QStringLiteral("-n"),      QStringLiteral("-lang"),  QStringLiteral("en"),
+                          QStringLiteral("-charset"), QStringLiteral("UTF-8"), QStringLiteral("-X")};
+    if (UserSettings::forceFixBase())
+        arguments.append(QStringLiteral("-F"));
+    if (UserSettings::ignoreMinorErrors())
+        arguments.append(QStringLiteral("-m"));
+    return arguments;
+}
+
+void ExifRunnerSaveOperation::verifyWrittenValues(const TagDictionary &written,
+                                                  ErrorMessages &errors)
+{
+    const ExifFieldsController *catalogue = ExifFieldsController::defaultInstance();
+    for (auto it = m_itemsToChange.cbegin(); it != m_itemsToChange.cend(); ++it) {
+        if (!readsBackAsWritten(it.key(), it.value(), written)) {
+            errors.addWarning(tr("%1 (%2) did not read back as written.")
+                                  .arg(titleOf(catalogue->field(it.key()), it.key()), it.key()));
+        }
+    }
+    for (const QString &key : std::as_const(m_itemsToRemove)) {
+        if (written.contains(key)) {
+            errors.addWarning(tr("%1 (%2) is still in the file after its removal.")
+                                  .arg(titleOf(catalogue->field(key), key), key));
+        }
+    }
+}
+
+bool ExifRunnerSaveOperation::readsBackAsWritten(const QString &key, const QString &value,
+                                                 const TagDictionary &written) const
+{
+    const auto found = written.constFind(key);
+    if (value.isEmpty())
+        return found == written.cend();
+    if (found == written.cend())
+        return false;
+    const QString &got = found.value();
+    const ExifFieldPtr field = ExifFieldsController::defaultInstance()->field(key);
+    const FieldDataRepresentation representation = representationOf(field);
+
+    switch (representation) {
+    case FieldDataRepresentation::Date:
+    case FieldDataRepresentation::DateTime: {
+        if (!isDateOffsetText(value))
+            break;
+        // A shift is checked against the original it was applied to.
+        const QDateTime expected =
+            applyDateOffset(value, efi()->originalExifData().value(key));
+        if (!expected.isValid())
+            return false;
+        const QString expectedText = representation == FieldDataRepresentation::Date
+                                         ? formatDateValue(expected)
+                                         : formatDateTimeValue(expected);
+        return valuesEqualForRepresentation(got, expectedText, representation);
+    }
+    case FieldDataRepresentation::Number: {
+        const auto expected = formatNumberForExifTool(value, *field);
+        const auto expectedNumber =
+            expected ? parseNumber(*expected, QLocale(QLocale::English, QLocale::UnitedStates))
+                     : std::nullopt;
+        std::optional<double> gotNumber = field->createFormatter()->numberFromString(got);
+        if (!gotNumber)
+            gotNumber = ExifRunner::leadingNumber(got);
+        return expectedNumber && numbersMatch(*gotNumber, *expectedNumber, field->decimals());
+    }
+    case FieldDataRepresentation::Latitude:
+    case FieldDataRepresentation::Longitude:
+        // Stored as degrees, minutes and seconds: the decimal comes back rounded.
+        return std::fabs(ExifRunner::leadingNumber(got) - ExifRunner::leadingNumber(value)) <=
+               1e-6;
+    default:
+        break;
+    }
+    return valuesEqualForRepresentation(got, value, representation);
+}

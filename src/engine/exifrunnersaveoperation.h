@@ -1,0 +1,55 @@
+#pragma once
+
+#include "engine/exifrunnerfilemodifiyoperation.h"
+
+#include <QSet>
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+#include <optional>
+
+class ExifField;
+
+// Writes one file's pending edits with a single ExifTool run.
+class ExifRunnerSaveOperation : public ExifRunnerFileModifiyOperation
+{
+public:
+    // Null for a file without edits: such a file gets no operation.
+    static std::shared_ptr<ExifRunnerSaveOperation> create(ExifFileInfoPtr efi, quint32 options);
+
+    ExifRunnerSaveOperation(ExifFileInfoPtr efi, quint32 options);
+
+    void run() override;
+
+    const TagDictionary &itemsToChange() const { return m_itemsToChange; }
+    const QSet<QString> &itemsToRemove() const { return m_itemsToRemove; }
+    QSet<QString> gatherFieldsToRemove() const;
+
+    // ExifTool's arguments for this file, up to but without "-o" and the paths. A value that
+    // cannot be written as typed adds a message to failures and no argument.
+    QStringList exifToolArguments(QStringList *failures) const;
+
+    // Values in ExifTool's form, by the fields' representations. Values that cannot be
+    // converted are left out and described in failures.
+    static TagDictionary convertValuesToChange(const TagDictionary &changes,
+                                               QStringList *failures = nullptr);
+    // The number in en_US form with the field's decimals; nullopt when it does not parse.
+    static std::optional<QString> formatNumberForExifTool(const QString &text,
+                                                          const ExifField &field);
+    static std::optional<QString> identifyMaker(const TagDictionary &values);
+    static QStringList gatherExifToolArgumentsToChange(const TagDictionary &converted);
+    static QStringList gatherExifToolArgumentsToRemove(const QSet<QString> &keys);
+    // The fixed options, without "-o" and the paths, which the write step adds.
+    static QStringList otherExifFileArguments();
+
+protected:
+    void verifyWrittenValues(const TagDictionary &written, ErrorMessages &errors) override;
+
+private:
+    bool readsBackAsWritten(const QString &key, const QString &value,
+                            const TagDictionary &written) const;
+
+    TagDictionary m_itemsToChange;
+    QSet<QString> m_itemsToRemove;
+};
