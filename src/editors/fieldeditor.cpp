@@ -67,6 +67,11 @@ bool FieldEditor::isRemoveButtonChecked() const
     return m_removeButton && m_removeButton->checkState() == Qt::Checked;
 }
 
+Qt::CheckState FieldEditor::removeButtonState() const
+{
+    return m_removeButton ? m_removeButton->checkState() : Qt::Unchecked;
+}
+
 void FieldEditor::setRemoveButtonChecked(bool on)
 {
     if (m_removeButton)

@@ -48,6 +48,8 @@ public:
     bool showRemoveButton() const { return m_showRemoveButton; }
     // Whether the preset row's check box is on; false without one.
     bool isRemoveButtonChecked() const;
+    // Unchecked without one.
+    Qt::CheckState removeButtonState() const;
 
     // The distinct current (or original) values over the files; a file without the tag gives "".
     QSet<QString> gatherExifFilesValues(const QList<ExifFileInfoPtr> &files) const;

@@ -1,0 +1,465 @@
+#include "editors/texteditor.h"
+
+#include "editors/exiffilesupdate.h"
+
+#include "catalogue/exifconfiguration.h"
+#include "controls/attachedwindow.h"
+#include "controls/numberformattervalidator.h"
+#include "values/gpslocation.h"
+#include "values/numberformatter.h"
+#include "values/usersettings.h"
+
+#include <QAbstractScrollArea>
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QStyle>
+
+#include <cmath>
+
+namespace {
+
+const QString LatitudeKey = QStringLiteral("GPS:GPSLatitude");
+const QString LongitudeKey = QStringLiteral("GPS:GPSLongitude");
+
+// "###0.#####" in en_US: at most five decimals, no grouping, no trailing zeros.
+QString formatGpsDegrees(double degrees)
+{
+    QString text = QString::number(degrees, 'f', 5);
+    if (text.contains(u'.')) {
+        while (text.endsWith(u'0'))
+            text.chop(1);
+        if (text.endsWith(u'.'))
+            text.chop(1);
+    }
+    return text == u"-0" ? QString(u"0"_qs) : text;
+}
+
+// Leading number of a text as C's atof reads it; 0 when there is none.
+double leadingDouble(const QString &text)
+{
+    return std::atof(text.trimmed().toUtf8().constData());
+}
+
+std::optional<GPSLocation> parseCoordinate(const QString &text, FieldDataRepresentation r)
+{
+    return r == FieldDataRepresentation::Longitude ? GPSLocation::initLongitudeWithString(text)
+                                                   : GPSLocation::initLatitudeWithString(text);
+}
+
+} // namespace
+
+TextEditor::TextEditor(ExifFieldPtr field, QObject *parent)
+    : FieldEditor(std::move(field), parent)
+{
+}
+
+TextEditor::~TextEditor()
+{
+    if (m_errorMessageWindow)
+        m_errorMessageWindow->deleteLater();
+}
+
+QLineEdit *TextEditor::editor() const
+{
+    return m_editor;
+}
+
+AttachedWindow *TextEditor::errorMessageWindow() const
+{
+    return m_errorMessageWindow;
+}
+
+bool TextEditor::isCoordinate() const
+{
+    const auto r = field()->dataRepresentation();
+    return r == FieldDataRepresentation::Longitude || r == FieldDataRepresentation::Latitude;
+}
+
+QString TextEditor::referenceKey() const
+{
+    return field()->dataRepresentation() == FieldDataRepresentation::Longitude
+               ? u"GPS:GPSLongitudeRef"_qs
+               : u"GPS:GPSLatitudeRef"_qs;
+}
+
+int TextEditor::createEditorContent(QWidget *parent, QRect frame)
+{
+    m_editor = new QLineEdit(parent);
+    m_editor->setGeometry(frame.x(), frame.y(), frame.width(), 20);
+    QFont font = m_editor->font();
+    font.setPointSize(11);
+    m_editor->setFont(font);
+    m_editor->setReadOnly(!hasExifFiles());
+    if (field()->dataRepresentation() == FieldDataRepresentation::Number) {
+        m_formatter = field()->createFormatter();
+        m_editor->setValidator(new NumberFormatterValidator(
+            std::shared_ptr<const NumberFormatter>(field()->createFormatter()), m_editor));
+    }
+    connect(m_editor, &QLineEdit::textEdited, this, &TextEditor::controlTextDidChange);
+    connect(m_editor, &QLineEdit::editingFinished, this, &TextEditor::controlTextDidEndEditing);
+    const QString &key = field()->xmlName();
+    if (key == LatitudeKey || key == LongitudeKey) {
+        connect(&ExifFilesUpdateCenter::instance(), &ExifFilesUpdateCenter::exifFilesUpdated, this,
+                &TextEditor::receiveFilesUpdateNotification);
+    }
+    m_editor->show();
+    stretchWithRow(m_editor);
+    return 20;
+}
+
+int TextEditor::showEditor(int top)
+{
+    const int next = FieldEditor::showEditor(top);
+    if (m_editor) {
+        m_editor->move(m_editor->x(), top);
+        m_editor->show();
+    }
+    return next;
+}
+
+int TextEditor::hideEditor(int top)
+{
+    FieldEditor::hideEditor(top);
+    if (m_editor)
+        m_editor->hide();
+    showErrorPopup(QString());
+    return top;
+}
+
+void TextEditor::clearEditor()
+{
+    FieldEditor::clearEditor();
+    m_textChanged = false;
+    if (m_editor) {
+        m_editor->clear();
+        m_editor->setPlaceholderText(QString());
+        m_editor->setReadOnly(true);
+    }
+    showErrorPopup(QString());
+    updateModifiedLabel();
+}
+
+void TextEditor::setEnabled(bool enabled)
+{
+    FieldEditor::setEnabled(enabled);
+    if (m_editor)
+        m_editor->setEnabled(enabled);
+}
+
+void TextEditor::displayValue(const QString &value)
+{
+    switch (field()->dataRepresentation()) {
+    case FieldDataRepresentation::Fraction: {
+        const double number = leadingDouble(value);
+        // Every value below one, zero and negatives included, shows as its reciprocal.
+        m_editor->setText(!value.isEmpty() && number < 1 ? QString::asprintf("1/%.0f", 1.0 / number)
+                                                         : value);
+        break;
+    }
+    case FieldDataRepresentation::Longitude:
+    case FieldDataRepresentation::Latitude:
+        m_editor->setText(value.isEmpty() ? QString() : formatLocation(leadingDouble(value)));
+        break;
+    default:
+        m_editor->setText(value);
+    }
+}
+
+void TextEditor::setExifFiles(const QList<ExifFileInfoPtr> &files)
+{
+    FieldEditor::setExifFiles(files);
+    m_textChanged = false;
+    if (!m_editor)
+        return;
+    m_editor->setReadOnly(false);
+    m_editor->setEnabled(isFieldEnabledForFiles(files));
+    const QSet<QString> values = gatherExifFilesValues(files);
+    if (values.size() < 2) {
+        m_editor->setPlaceholderText(QString());
+        displayValue(values.isEmpty() ? QString() : *values.cbegin());
+    } else {
+        m_editor->clear();
+        m_editor->setPlaceholderText(multipleValuesText());
+    }
+    updateModifiedLabel();
+}
+
+QString TextEditor::formatLocation(double degrees) const
+{
+    const GPSLocation location =
+        field()->dataRepresentation() == FieldDataRepresentation::Longitude
+            ? GPSLocation::initLongitudeWithDouble(degrees, GPSLocation::NoHemisphere)
+            : GPSLocation::initLatitudeWithDouble(degrees, GPSLocation::NoHemisphere);
+    return location.stringForGpsFormat(UserSettings::gpsFormat());
+}
+
+QString TextEditor::currentText() const
+{
+    return m_editor ? m_editor->text().trimmed() : QString();
+}
+
+void TextEditor::updateExifFileValue(const ExifFileInfoPtr &file)
+{
+    if (showRemoveButton() && !isRemoveButtonChecked()) {
+        restoreOriginalValue(file);
+        return;
+    }
+    const QString &key = field()->xmlName();
+    const QString value = currentText();
+    if (value.isEmpty()) {
+        file->removeExifValue(key);
+        showErrorPopup(QString());
+        return;
+    }
+    switch (field()->dataRepresentation()) {
+    case FieldDataRepresentation::Fraction:
+        if (value.contains(u'/')) {
+            const QStringList parts = value.split(u'/');
+            if (parts.size() == 2) {
+                file->setExifValue(key, QString::asprintf("%f", leadingDouble(parts.at(0)) /
+                                                                    leadingDouble(parts.at(1))));
+            }
+        } else {
+            file->setExifValue(key, value);
+        }
+        break;
+    case FieldDataRepresentation::Longitude:
+    case FieldDataRepresentation::Latitude:
+        setGpsValue(value, file, key);
+        break;
+    case FieldDataRepresentation::Number:
+        // The catalogue's formatter prints what the read showed, so a typed 1.50 compares equal.
+        if (const auto number = m_formatter ? m_formatter->numberFromString(value) : std::nullopt)
+            file->setExifValue(key, m_formatter->stringFromNumber(*number));
+        else
+            file->setExifValue(key, value);
+        break;
+    default:
+        file->setExifValue(key, value);
+    }
+}
+
+bool TextEditor::setGpsValue(const QString &text, const ExifFileInfoPtr &file,
+                             const QString &xmlName)
+{
+    const auto representation = field()->dataRepresentation();
+    const auto location = parseCoordinate(text, representation);
+    // A NaN comes from out-of-range minutes or seconds: as wrong as text that does not parse.
+    if (!location || std::isnan(location->doubleValue())) {
+        m_gpsFailed = true;
+        showErrorPopup(localized(representation == FieldDataRepresentation::Longitude
+                                     ? u"GPS_LONGITUDE_FORMAT_DESC:"_qs
+                                     : u"GPS_LATITUDE_FORMAT_DESC"_qs));
+        return false;
+    }
+    file->setExifValue(xmlName, formatGpsDegrees(location->doubleValue()));
+    const QString letter = location->hemisphereLetter();
+    if (!letter.isEmpty()) {
+        file->setExifValue(referenceKey(), letter);
+        m_pendingReference = letter;
+    }
+    showErrorPopup(QString());
+    return true;
+}
+
+bool TextEditor::copyToExifFiles(const QList<ExifFileInfoPtr> &files)
+{
+    if (!m_textChanged) {
+        const QString &key = field()->xmlName();
+        return std::any_of(files.cbegin(), files.cend(), [&key](const ExifFileInfoPtr &file) {
+            return file->exifValue(key) != file->originalExifData().value(key);
+        });
+    }
+    m_pendingReference.clear();
+    m_gpsFailed = false;
+    const bool changed = FieldEditor::copyToExifFiles(files);
+    updateModifiedLabel();
+    if (m_gpsFailed)
+        return changed;
+    // The hemisphere goes first so its row shows it before the coordinate's receivers look.
+    if (!m_pendingReference.isEmpty())
+        sendChangeNotification(m_pendingReference, referenceKey());
+    const QString text = currentText();
+    sendChangeNotification(text.isEmpty() ? std::nullopt : std::optional<QString>(text));
+    return changed;
+}
+
+void TextEditor::controlTextDidChange()
+{
+    m_textChanged = true;
+}
+
+void TextEditor::controlTextDidEndEditing()
+{
+    if (m_textChanged && hasExifFiles())
+        copyToExifFiles(exifFiles());
+    if (isCoordinate() && !m_gpsFailed) {
+        const QString text = currentText();
+        if (const auto location = parseCoordinate(text, field()->dataRepresentation());
+            !text.isEmpty() && location && !std::isnan(location->doubleValue())) {
+            m_editor->setText(formatLocation(location->doubleValue()));
+        }
+    }
+    if (!m_gpsFailed)
+        showErrorPopup(QString());
+}
+
+void TextEditor::receiveFilesUpdateNotification(const ExifFilesUpdate &update)
+{
+    if (update.source == this ||
+        (update.xmlName != LatitudeKey && update.xmlName != LongitudeKey)) {
+        return;
+    }
+    setExifFiles(update.changedFiles);
+    updateModifiedLabel();
+}
+
+bool TextEditor::isModified() const
+{
+    if (!hasExifFiles())
+        return false;
+    const QString &key = field()->xmlName();
+    const auto representation = field()->dataRepresentation();
+    double tolerance = -1;
+    if (representation == FieldDataRepresentation::Fraction)
+        tolerance = 0.0001;
+    else if (isCoordinate())
+        tolerance = 1e-7;
+    for (const ExifFileInfoPtr &file : exifFiles()) {
+        const QString current = file->exifValue(key);
+        const QString original = file->originalExifData().value(key);
+        if (current.isEmpty() && original.isEmpty())
+            continue;
+        if (current.isEmpty() != original.isEmpty())
+            return true;
+        if (tolerance < 0 ? current != original
+                          : std::abs(leadingDouble(current) - leadingDouble(original)) > tolerance)
+            return true;
+    }
+    return false;
+}
+
+void TextEditor::setExifConfiguration(const ExifConfiguration *configuration)
+{
+    setEnabled(true);
+    if (m_editor)
+        m_editor->setReadOnly(false);
+    m_textChanged = false;
+    const QString &key = field()->xmlName();
+    if (!configuration) {
+        clearEditor();
+        return;
+    }
+    m_editor->setPlaceholderText(QString());
+    if (configuration->removedValues().contains(key)) {
+        setRemoveButtonChecked(true);
+        m_editor->clear();
+    } else if (const auto it = configuration->changedValues().constFind(key);
+               it != configuration->changedValues().cend()) {
+        displayValue(*it);
+        setRemoveButtonChecked(true);
+    } else {
+        m_editor->clear();
+        setRemoveButtonChecked(false);
+    }
+}
+
+bool TextEditor::copyToConfiguration(ExifConfiguration &configuration)
+{
+    const QString &key = field()->xmlName();
+    const Qt::CheckState state = removeButtonState();
+    if (state == Qt::Unchecked) {
+        configuration.changedValues().remove(key);
+        configuration.removedValues().remove(key);
+        return true;
+    }
+    if (state != Qt::Checked)
+        return true;
+    const QString text = currentText();
+    if (text.isEmpty()) {
+        configuration.changedValues().remove(key);
+        configuration.removedValues().insert(key);
+        return true;
+    }
+    switch (field()->dataRepresentation()) {
+    case FieldDataRepresentation::Fraction:
+        if (!text.contains(u'/')) {
+            configuration.changedValues().insert(key, text);
+        } else if (const QStringList parts = text.split(u'/'); parts.size() == 2) {
+            configuration.changedValues().insert(
+                key,
+                QString::asprintf("%f", leadingDouble(parts.at(0)) / leadingDouble(parts.at(1))));
+        }
+        break;
+    case FieldDataRepresentation::Longitude:
+    case FieldDataRepresentation::Latitude: {
+        const auto location = parseCoordinate(text, field()->dataRepresentation());
+        double value = 0;
+        if (location) {
+            value = location->doubleValue();
+            if (location->latlong() == GPSLocation::SouthOrWest)
+                value = -value;
+        }
+        configuration.changedValues().insert(key, QString::asprintf("%f", value));
+        break;
+    }
+    default:
+        configuration.changedValues().insert(key, text);
+    }
+    configuration.removedValues().remove(key);
+    return true;
+}
+
+void TextEditor::focusControl()
+{
+    if (m_editor)
+        m_editor->setFocus(Qt::OtherFocusReason);
+}
+
+void TextEditor::showErrorPopup(const QString &message)
+{
+    if (message.isEmpty()) {
+        if (m_errorMessageWindow) {
+            m_errorMessageWindow->close();
+            m_errorMessageWindow->deleteLater();
+        }
+        return;
+    }
+    if (!m_errorMessageWindow) {
+        m_errorMessageWindow = new AttachedWindow(label() ? static_cast<QWidget *>(label())
+                                                          : static_cast<QWidget *>(m_editor),
+                                                  AttachedWindow::Behaviour::Tool);
+        auto *content = new QWidget;
+        content->setFixedSize(440, 130);
+        auto *layout = new QHBoxLayout(content);
+        auto *image = new QLabel(content);
+        image->setPixmap(
+            QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(48, 48));
+        image->setAlignment(Qt::AlignTop);
+        m_errorMessageLabel = new QLabel(content);
+        m_errorMessageLabel->setWordWrap(true);
+        m_errorMessageLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        m_errorMessageLabel->setStyleSheet(u"color: rgb(255, 110, 110);"_qs);
+        layout->addWidget(image);
+        layout->addWidget(m_errorMessageLabel, 1);
+        m_errorMessageWindow->setContentWidget(content);
+        // Scrolling the form would leave the arrow pointing at the wrong row.
+        for (QWidget *w = m_editor ? m_editor->parentWidget() : nullptr; w; w = w->parentWidget()) {
+            if (auto *area = qobject_cast<QAbstractScrollArea *>(w)) {
+                for (QScrollBar *bar : {area->verticalScrollBar(), area->horizontalScrollBar()})
+                    connect(bar, &QScrollBar::valueChanged, m_errorMessageWindow, &QWidget::close);
+                break;
+            }
+        }
+        connect(qApp, &QApplication::applicationStateChanged, m_errorMessageWindow,
+                [window = m_errorMessageWindow](Qt::ApplicationState state) {
+                    if (state != Qt::ApplicationActive && window)
+                        window->close();
+                });
+    }
+    m_errorMessageLabel->setText(message);
+    m_errorMessageWindow->showAttached();
+}

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "editors/fieldeditor.h"
+
+#include <QPointer>
+
+#include <memory>
+
+class AttachedWindow;
+class NumberFormatter;
+class QLabel;
+class QLineEdit;
+struct ExifFilesUpdate;
+
+// The row for values typed as text: plain text, numbers, exposure-time fractions and GPS
+// coordinates. The value is written into the files when the user ends editing.
+class TextEditor : public FieldEditor
+{
+    Q_OBJECT
+
+public:
+    explicit TextEditor(ExifFieldPtr field, QObject *parent = nullptr);
+    ~TextEditor() override;
+
+    QLineEdit *editor() const;
+    bool textChanged() const { return m_textChanged; }
+    // The open error popup, if any.
+    AttachedWindow *errorMessageWindow() const;
+
+    void clearEditor() override;
+    int showEditor(int top) override;
+    int hideEditor(int top) override;
+    void setExifFiles(const QList<ExifFileInfoPtr> &files) override;
+    void updateExifFileValue(const ExifFileInfoPtr &file) override;
+    void setExifConfiguration(const ExifConfiguration *configuration) override;
+    bool copyToConfiguration(ExifConfiguration &configuration) override;
+    bool isModified() const override;
+    void setEnabled(bool enabled) override;
+    int createEditorContent(QWidget *parent, QRect frame) override;
+    // Writes, relabels and announces only after the user typed: an untouched row writes nothing.
+    bool copyToExifFiles(const QList<ExifFileInfoPtr> &files) override;
+    void focusControl() override;
+
+    // A stored coordinate as the user's GPS_FORMAT setting shows it.
+    QString formatLocation(double degrees) const;
+    // false (and the popup) when the text is not a coordinate; nothing is written then.
+    bool setGpsValue(const QString &text, const ExifFileInfoPtr &file, const QString &xmlName);
+    void showErrorPopup(const QString &message);
+
+private:
+    void receiveFilesUpdateNotification(const ExifFilesUpdate &update);
+    void controlTextDidChange();
+    void controlTextDidEndEditing();
+    void displayValue(const QString &value);
+    QString currentText() const;
+    bool isCoordinate() const;
+    QString referenceKey() const;
+
+    QPointer<QLineEdit> m_editor;
+    bool m_textChanged = false;
+    QPointer<AttachedWindow> m_errorMessageWindow;
+    QPointer<QLabel> m_errorMessageLabel;
+    std::unique_ptr<NumberFormatter> m_formatter;
+    // The hemisphere letter the last write derived from the text, announced once per commit.
+    QString m_pendingReference;
+    bool m_gpsFailed = false;
+};
