@@ -5,9 +5,21 @@
 
 namespace {
 
-QString s(const char *text)
+// "E:text|W:text|I:text" in order, then the kind counters, so one string shows it all.
+QString summary(const ErrorMessages &messages)
 {
-    return QString::fromUtf8(text);
+    QStringList parts;
+    for (const ErrorMessage &message : messages.messages()) {
+        const char kind = message.isError()  ? 'E'
+                          : message.isWarn() ? 'W'
+                          : message.isInfo() ? 'I'
+                                             : '?';
+        parts.append(QLatin1Char(kind) + u':' + message.message());
+    }
+    return parts.join(u'|') + QStringLiteral(" (%1/%2/%3)")
+                                  .arg(messages.errorsCount())
+                                  .arg(messages.warnsCount())
+                                  .arg(messages.infosCount());
 }
 
 } // namespace
@@ -17,108 +29,67 @@ class TestErrorMessages : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void exifToolLines_data();
-    void exifToolLines();
-    void countersFollowAddsAndDeletes();
-    void missingTextsAndExceptionsGetFixedTexts();
-};
-
-void TestErrorMessages::exifToolLines_data()
-{
-    QTest::addColumn<QByteArray>("output");
-    QTest::addColumn<QStringList>("errors");
-    QTest::addColumn<QStringList>("warnings");
-
-    QTest::newRow("warning") << QByteArray("Warning: [minor] Some text\n") << QStringList{}
-                             << QStringList{s("[minor] Some text")};
-    QTest::newRow("error") << QByteArray("Error: File not found - a.jpg\n")
-                           << QStringList{s("File not found - a.jpg")} << QStringList{};
-    QTest::newRow("other lines ignored")
-        << QByteArray("    1 image files updated\n\nExifTool done\n") << QStringList{}
-        << QStringList{};
-    QTest::newRow("marker inside the line is cut from the start")
-        << QByteArray("Sony: Error: bad block\n") << QStringList{s("rror: bad block")}
-        << QStringList{};
-    QTest::newRow("warning marker inside the line")
-        << QByteArray("IFD0 Warning: odd\n") << QStringList{} << QStringList{s("ing: odd")};
-    QTest::newRow("both markers make an error")
-        << QByteArray("Warning: Error: x\n") << QStringList{s(": Error: x")} << QStringList{};
-    QTest::newRow("marker needs its blank")
-        << QByteArray("Error:x\nWarning:y\n") << QStringList{} << QStringList{};
-    QTest::newRow("order kept across line endings")
-        << QByteArray("Error: one\r\nWarning: two\rError: three")
-        << QStringList{s("one"), s("three")} << QStringList{s("two")};
-    QTest::newRow("utf-8 text") << QByteArray("Warning: Z\xc3\xbcrich is odd\n") << QStringList{}
-                                << QStringList{s("Z\u00fcrich is odd")};
-    QTest::newRow("marker alone gives an empty message")
-        << QByteArray("Error: \n") << QStringList{s("")} << QStringList{};
-}
-
-void TestErrorMessages::exifToolLines()
-{
-    QFETCH(QByteArray, output);
-    QFETCH(QStringList, errors);
-    QFETCH(QStringList, warnings);
-    ErrorMessages messages(s("/p/a.jpg"));
-    messages.addExifToolOutput(output);
-    QStringList gotErrors;
-    QStringList gotWarnings;
-    for (const ErrorMessage &message : messages.messages()) {
-        QCOMPARE(message.fileName(), s("/p/a.jpg"));
-        (message.isError() ? gotErrors : gotWarnings).append(message.message());
+    void exifToolLines_data()
+    {
+        QTest::addColumn<QByteArray>("output");
+        QTest::addColumn<QString>("expected");
+        auto row = [](const char *name, const char *output, const char *expected) {
+            QTest::newRow(name) << QByteArray(output) << QString::fromUtf8(expected);
+        };
+        row("warning", "Warning: [minor] Some text\n", "W:[minor] Some text (0/1/0)");
+        row("other lines", "    1 image files updated\n\nExifTool done\n", " (0/0/0)");
+        // A marker inside a line is cut from the line's start, as the output has always been read.
+        row("inner marker", "Sony: Error: bad\nIFD0 Warning: odd\n",
+            "E:rror: bad|W:ing: odd (1/1/0)");
+        row("both markers", "Warning: Error: x\n", "E:: Error: x (1/0/0)");
+        row("no blank", "Error:x\nWarning:y\n", " (0/0/0)");
+        row("line endings", "Error: one\r\nWarning: two\rError: three",
+            "E:one|W:two|E:three (2/1/0)");
+        row("utf-8", "Error: Z\xc3\xbcrich\n", "E:Zürich (1/0/0)");
     }
-    QCOMPARE(gotErrors, errors);
-    QCOMPARE(gotWarnings, warnings);
-    QCOMPARE(messages.errorsCount(), quint64(errors.size()));
-    QCOMPARE(messages.warnsCount(), quint64(warnings.size()));
-}
+    void exifToolLines()
+    {
+        QFETCH(QByteArray, output);
+        ErrorMessages messages(u"/p/a.jpg"_qs);
+        messages.addExifToolOutput(output);
+        QTEST(summary(messages), "expected");
+        for (const ErrorMessage &message : messages.messages())
+            QCOMPARE(message.fileName(), u"/p/a.jpg"_qs);
+    }
 
-void TestErrorMessages::countersFollowAddsAndDeletes()
-{
-    ErrorMessages messages(s("/p/a.jpg"));
-    messages.addError(s("e1"));
-    messages.addWarning(s("w1"));
-    messages.addError(s("e2"));
-    messages.addErrorMessage(ErrorMessage(s("/p/a.jpg"), s("i1"), ErrorMessage::Info));
-    messages.addErrorMessage(ErrorMessage(s("/p/a.jpg"), s("odd"), 7));
-    QCOMPARE(messages.count(), 5u);
-    QCOMPARE(messages.errorsCount(), 2u);
-    QCOMPARE(messages.warnsCount(), 1u);
-    QCOMPARE(messages.infosCount(), 1u);
+    void countersFollowAddsAndDeletes()
+    {
+        ErrorMessages messages(u"/p/a.jpg"_qs);
+        messages.addError(u"e1"_qs);
+        messages.addWarning(u"w1"_qs);
+        messages.addError(u"e2"_qs);
+        messages.addErrorMessage(ErrorMessage(u"/p/a.jpg"_qs, u"i1"_qs, ErrorMessage::Info));
+        messages.addErrorMessage(ErrorMessage(u"/p/a.jpg"_qs, u"odd"_qs, 7));
+        QCOMPARE(messages.count(), 5u);
+        // The total is deliberately left alone by a deletion; the kinds stay exact.
+        messages.deleteMessageAtIndex(1);
+        messages.deleteMessageAtIndex(3);
+        QCOMPARE(summary(messages), u"E:e1|E:e2|I:i1 (2/0/1)"_qs);
+        QCOMPARE(messages.count(), 5u);
+        QVERIFY_THROWS_EXCEPTION(TagsmithException, messages.deleteMessageAtIndex(3));
+        messages.removeAllMessages();
+        QCOMPARE(summary(messages) + QString::number(messages.count()), u" (0/0/0)0"_qs);
+    }
 
-    // The total is deliberately left alone by a deletion; the kinds stay exact.
-    messages.deleteMessageAtIndex(1);
-    QCOMPARE(messages.warnsCount(), 0u);
-    QCOMPARE(messages.count(), 5u);
-    QCOMPARE(messages.messages().size(), 4);
-    QCOMPARE(messages.messages().at(1).message(), s("e2"));
-    messages.deleteMessageAtIndex(3);
-    QCOMPARE(messages.errorsCount(), 2u);
-    QCOMPARE(messages.infosCount(), 1u);
-    QVERIFY_THROWS_EXCEPTION(TagsmithException, messages.deleteMessageAtIndex(3));
-
-    messages.removeAllMessages();
-    QVERIFY(messages.messages().isEmpty());
-    QCOMPARE(messages.count() + messages.errorsCount() + messages.warnsCount() +
-                 messages.infosCount(),
-             0u);
-}
-
-void TestErrorMessages::missingTextsAndExceptionsGetFixedTexts()
-{
-    ErrorMessages messages(s("/p/a.jpg"));
-    messages.addError();
-    messages.addWarning();
-    messages.addError(s(""));
-    QTest::ignoreMessage(QtWarningMsg, "secret reason");
-    messages.addException(TagsmithException(TagsmithException::LogicError, s("secret reason")));
-    const QStringList expected{s("Unknown error"), s("Unknown warning"), s(""),
-                               s("Unknown error occured during processing")};
-    QStringList texts;
-    for (const ErrorMessage &message : messages.messages())
-        texts.append(message.message());
-    QCOMPARE(texts, expected);
-}
+    void missingTextsGetFixedTexts()
+    {
+        ErrorMessages messages(u"/p/a.jpg"_qs);
+        messages.addError();
+        messages.addWarning();
+        messages.addError(u""_qs);
+        // The reason goes to the log, never to the user.
+        QTest::ignoreMessage(QtWarningMsg, "secret reason");
+        messages.addException(
+            TagsmithException(TagsmithException::LogicError, u"secret reason"_qs));
+        QCOMPARE(summary(messages), u"E:Unknown error|W:Unknown warning|E:|"
+                                    u"E:Unknown error occured during processing (3/1/0)"_qs);
+    }
+};
 
 QTEST_GUILESS_MAIN(TestErrorMessages)
 #include "tst_errormessages.moc"

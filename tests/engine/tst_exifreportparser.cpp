@@ -11,28 +11,26 @@ const QByteArray header = "<?xml version='1.0' encoding='UTF-8'?>\n"
                           "<rdf:RDF xmlns:rdf='http://www.w3.org/1999/02/22-rdf-syntax-ns#'>\n";
 const QByteArray footer = "</rdf:RDF>\n";
 
-QByteArray record(const QByteArray &directory, const QByteArray &name, const QByteArray &tags)
+QByteArray record(const QByteArray &name, const QByteArray &tags = {})
 {
-    return "<rdf:Description rdf:about='" + directory + "/" + name +
-           "'\n  xmlns:System='http://ns.exiftool.org/File/System/1.0/'>\n"
-           " <System:FileName>" +
-           name + "</System:FileName>\n <System:Directory>" + directory + "</System:Directory>\n" +
-           tags + "</rdf:Description>\n";
+    return "<rdf:Description rdf:about='/p/" + name +
+           "'\n  xmlns:System='http://ns.exiftool.org/File/System/1.0/'>\n <System:FileName>" +
+           name + "</System:FileName>\n <System:Directory>/p</System:Directory>\n" + tags +
+           "</rdf:Description>\n";
 }
 
-TagDictionary tags(const QString &directory, const QString &name,
-                   std::initializer_list<std::pair<QString, QString>> more)
+// The record as parsed: the two file tags plus the given ones, keyed by its path.
+Records expect(std::initializer_list<std::pair<const char *, QStringList>> records)
 {
-    TagDictionary result{{QStringLiteral("System:FileName"), name},
-                         {QStringLiteral("System:Directory"), directory}};
-    for (const auto &[key, value] : more)
-        result.insert(key, value);
+    Records result;
+    for (const auto &[name, tags] : records) {
+        TagDictionary &data = result[u"/p/"_qs + QString::fromUtf8(name)];
+        data.insert(u"System:FileName"_qs, QString::fromUtf8(name));
+        data.insert(u"System:Directory"_qs, u"/p"_qs);
+        for (qsizetype i = 0; i + 1 < tags.size(); i += 2)
+            data.insert(tags.at(i), tags.at(i + 1));
+    }
     return result;
-}
-
-QString s(const char *text)
-{
-    return QString::fromUtf8(text);
 }
 
 } // namespace
@@ -42,122 +40,81 @@ class TestExifReportParser : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void parse_data();
-    void parse();
-    void chunkedFeedGivesTheSameRecords_data() { parse_data(); }
-    void chunkedFeedGivesTheSameRecords();
-    void malformedReportIsFlaggedAndLaterDataIgnored();
-};
+    void parse_data()
+    {
+        QTest::addColumn<QByteArray>("report");
+        QTest::addColumn<Records>("expected");
 
-void TestExifReportParser::parse_data()
-{
-    QTest::addColumn<QByteArray>("report");
-    QTest::addColumn<Records>("expected");
-
-    QTest::newRow("empty buffer") << QByteArray() << Records{};
-    QTest::newRow("no records") << header + footer << Records{};
-    QTest::newRow("not xml at all") << QByteArray("Error: File not found - x.jpg\n") << Records{};
-
-    QTest::newRow("simple tags")
-        << header +
-               record("/p", "a.jpg",
-                      " <IFD0:Make>Canon</IFD0:Make>\n <ExifIFD:ISO>400</ExifIFD:ISO>\n") +
-               footer
-        << Records{
-               {s("/p/a.jpg"), tags(s("/p"), s("a.jpg"),
-                                    {{s("IFD0:Make"), s("Canon")}, {s("ExifIFD:ISO"), s("400")}})}};
-
-    QTest::newRow("list joined, comma in item escaped")
-        << header +
-               record("/p", "a.jpg",
-                      " <IPTC:Keywords>\n  <rdf:Bag>\n   <rdf:li>a</rdf:li>\n"
-                      "   <rdf:li>b,c</rdf:li>\n   <rdf:li>d</rdf:li>\n  </rdf:Bag>\n"
-                      " </IPTC:Keywords>\n") +
-               footer
-        << Records{
-               {s("/p/a.jpg"), tags(s("/p"), s("a.jpg"), {{s("IPTC:Keywords"), s("a,b\\,c,d")}})}};
-
-    QTest::newRow("single-item list is the item")
-        << header +
-               record("/p", "a.jpg",
-                      " <XMP-dc:Title><rdf:Alt><rdf:li xml:lang='x-default'>Hi</rdf:li>"
-                      "</rdf:Alt></XMP-dc:Title>\n") +
-               footer
-        << Records{{s("/p/a.jpg"), tags(s("/p"), s("a.jpg"), {{s("XMP-dc:Title"), s("Hi")}})}};
-
-    QTest::newRow("empty element absent, spaces kept, entities decoded")
-        << header +
-               record("/p", "a.jpg",
-                      " <IFD0:Artist></IFD0:Artist>\n <IFD0:Copyright/>\n"
-                      " <XMP-dc:Title>  </XMP-dc:Title>\n"
-                      " <IFD0:ImageDescription>Tom &amp; Jerry&#39;s "
-                      "&lt;b&gt;</IFD0:ImageDescription>\n") +
-               footer
-        << Records{{s("/p/a.jpg"), tags(s("/p"), s("a.jpg"),
-                                        {{s("XMP-dc:Title"), s("  ")},
-                                         {s("IFD0:ImageDescription"), s("Tom & Jerry's <b>")}})}};
-
-    QTest::newRow("keyed by directory and file name as printed")
-        << header + record("/p/q", "O&#39;Brien caf\xc3\xa9.jpg", "") +
-               record("/p", "-x.png", " <PNG:Gamma>2.2</PNG:Gamma>\n") + footer
-        << Records{
-               {s("/p/q/O'Brien caf\u00e9.jpg"), tags(s("/p/q"), s("O'Brien caf\u00e9.jpg"), {})},
-               {s("/p/-x.png"), tags(s("/p"), s("-x.png"), {{s("PNG:Gamma"), s("2.2")}})}};
-
-    QTest::newRow("record without a directory matches nothing")
-        << header +
-               "<rdf:Description><System:FileName>a.jpg</System:FileName>"
-               "<IFD0:Make>X</IFD0:Make></rdf:Description>\n" +
-               record("/p", "b.jpg", "") + footer
-        << Records{{s("/p/b.jpg"), tags(s("/p"), s("b.jpg"), {})}};
-
-    QTest::newRow("undeclared namespaces are fine")
-        << header +
-               record("/p", "a.jpg",
-                      " <Sony:Weird-1>7</Sony:Weird-1>\n <Mystery:X>y</Mystery:X>\n") +
-               footer
-        << Records{{s("/p/a.jpg"), tags(s("/p"), s("a.jpg"),
-                                        {{s("Sony:Weird-1"), s("7")}, {s("Mystery:X"), s("y")}})}};
-
-    QTest::newRow("malformed in the middle keeps earlier records")
-        << header + record("/p", "a.jpg", " <IFD0:Make>A</IFD0:Make>\n") +
-               record("/p", "b.jpg", " <IFD0:Make>B</IFD0:Mak>\n") + record("/p", "c.jpg", "") +
-               footer
-        << Records{{s("/p/a.jpg"), tags(s("/p"), s("a.jpg"), {{s("IFD0:Make"), s("A")}})}};
-
-    QTest::newRow("cut off inside a record keeps earlier records")
-        << header + record("/p", "a.jpg", "") + record("/p", "b.jpg", " <IFD0:Make>B").left(90)
-        << Records{{s("/p/a.jpg"), tags(s("/p"), s("a.jpg"), {})}};
-}
-
-void TestExifReportParser::parse()
-{
-    QFETCH(QByteArray, report);
-    QFETCH(Records, expected);
-    QCOMPARE(ExifReportParser::parse(report), expected);
-}
-
-void TestExifReportParser::chunkedFeedGivesTheSameRecords()
-{
-    // Pipe reads split anywhere, also inside a UTF-8 sequence or an entity.
-    QFETCH(QByteArray, report);
-    QFETCH(Records, expected);
-    for (int size : {1, 3, 7, 64}) {
-        ExifReportParser parser;
-        for (qsizetype at = 0; at < report.size(); at += size)
-            parser.addData(report.mid(at, size));
-        QCOMPARE(parser.finish(), expected);
+        QTest::newRow("empty") << QByteArray() << Records{};
+        QTest::newRow("not xml") << QByteArray("Error: File not found - x.jpg\n") << Records{};
+        QTest::newRow("tags, odd namespaces")
+            << header +
+                   record("a.jpg", " <IFD0:Make>Canon</IFD0:Make>\n <Sony:W-1>7</Sony:W-1>\n") +
+                   footer
+            << expect({{"a.jpg", {u"IFD0:Make"_qs, u"Canon"_qs, u"Sony:W-1"_qs, u"7"_qs}}});
+        QTest::newRow("list, comma escaped")
+            << header +
+                   record("a.jpg", " <IPTC:Keywords><rdf:Bag>\n <rdf:li>a</rdf:li>\n"
+                                   " <rdf:li>b,c</rdf:li>\n</rdf:Bag></IPTC:Keywords>\n"
+                                   " <XMP-dc:Title><rdf:Alt><rdf:li xml:lang='x-default'>Hi"
+                                   "</rdf:li></rdf:Alt></XMP-dc:Title>\n") +
+                   footer
+            << expect(
+                   {{"a.jpg", {u"IPTC:Keywords"_qs, u"a,b\\,c"_qs, u"XMP-dc:Title"_qs, u"Hi"_qs}}});
+        QTest::newRow("empty absent, blanks kept, entities")
+            << header +
+                   record("a.jpg", " <IFD0:Artist></IFD0:Artist>\n <IFD0:Copyright/>\n"
+                                   " <XMP-dc:Title>  </XMP-dc:Title>\n <IFD0:ImageDescription>"
+                                   "Tom &amp; Jerry&#39;s &lt;b&gt;</IFD0:ImageDescription>\n") +
+                   footer
+            << expect({{"a.jpg",
+                        {u"XMP-dc:Title"_qs, u"  "_qs, u"IFD0:ImageDescription"_qs,
+                         u"Tom & Jerry's <b>"_qs}}});
+        QTest::newRow("names as printed")
+            << header + record("O&#39;Brien caf\xc3\xa9.jpg") + record("-x.png") + footer
+            << expect({{"O'Brien caf\xc3\xa9.jpg", {}}, {"-x.png", {}}});
+        QTest::newRow("no directory")
+            << header +
+                   "<rdf:Description><System:FileName>a.jpg</System:FileName></rdf:Description>\n" +
+                   record("b.jpg") + footer
+            << expect({{"b.jpg", {}}});
+        QTest::newRow("malformed keeps earlier")
+            << header + record("a.jpg") + record("b.jpg", " <IFD0:Make>B</IFD0:Mak>\n") +
+                   record("c.jpg") + footer
+            << expect({{"a.jpg", {}}});
+        QTest::newRow("cut off keeps earlier")
+            << header + record("a.jpg") + record("b.jpg", " <IFD0:Make>B").left(90)
+            << expect({{"a.jpg", {}}});
     }
-}
 
-void TestExifReportParser::malformedReportIsFlaggedAndLaterDataIgnored()
-{
-    ExifReportParser parser;
-    parser.addData(header + record("/p", "a.jpg", "") + "<oops></nope>");
-    QVERIFY(parser.hasFailed());
-    parser.addData(record("/p", "b.jpg", "") + footer);
-    QCOMPARE(parser.finish().keys(), QStringList{s("/p/a.jpg")});
-}
+    void parse()
+    {
+        QFETCH(QByteArray, report);
+        QTEST(ExifReportParser::parse(report), "expected");
+    }
+
+    void chunkedFeedGivesTheSameRecords_data() { parse_data(); }
+    void chunkedFeedGivesTheSameRecords()
+    {
+        // Pipe reads split anywhere, also inside a UTF-8 sequence or an entity.
+        QFETCH(QByteArray, report);
+        for (int size : {1, 3, 7, 64}) {
+            ExifReportParser parser;
+            for (qsizetype at = 0; at < report.size(); at += size)
+                parser.addData(report.mid(at, size));
+            QTEST(parser.finish(), "expected");
+        }
+    }
+
+    void malformedReportIsFlaggedAndLaterDataIgnored()
+    {
+        ExifReportParser parser;
+        parser.addData(header + record("a.jpg") + "<oops></nope>");
+        QVERIFY(parser.hasFailed());
+        parser.addData(record("b.jpg") + footer);
+        QCOMPARE(parser.finish().keys(), QStringList{u"/p/a.jpg"_qs});
+    }
+};
 
 QTEST_GUILESS_MAIN(TestExifReportParser)
 #include "tst_exifreportparser.moc"

@@ -88,8 +88,6 @@ private Q_SLOTS:
                                              << u"48°51.492'"_qs << u"48°51'29.500\"N"_qs;
         QTest::newRow("longitude west") << Lon << 151.2093 << 2 << u"151°12.558'W"_qs
                                         << u"151°12.558'"_qs << u"151°12'33.480\"W"_qs;
-        QTest::newRow("no hemisphere") << Lat << 48.858194444444 << 0 << u"48°51.492'"_qs
-                                       << u"48°51.492'"_qs << u"48°51'29.500\""_qs;
         QTest::newRow("rounding to 60") << Lat << 12.99999999 << 0 << u"12°60.000'"_qs
                                         << u"12°60.000'"_qs << u"12°59'60.000\""_qs;
         QTest::newRow("negative double") << Lon << -12.5 << 0 << u"-12°-30.000'"_qs
