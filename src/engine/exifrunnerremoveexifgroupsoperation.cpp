@@ -14,8 +14,26 @@ void ExifRunnerRemoveExifGroupsOperation::run()
     // Stored before ExifTool runs, so that an exception later on still reaches the file's
     // results.
     storeResults(errors, std::nullopt);
-    const WriteResult result = writeFile(addRemoveArgs(), *errors);
 
+    // ExifTool cannot delete notes it failed to decode once the make is gone in the same
+    // command (they turn into an unknown block that no tag name deletes); while the make is
+    // still there, the whole group goes. So such notes are removed in a pass of their own.
+    if (hasUndecodedMakerNotes(efi()->originalExifData())) {
+        const WriteResult first = writeFile(undecodedMakerNotesArgs(), *errors);
+        if (!first.replaced) {
+            finish(first, errors);
+            return;
+        }
+        QMutexLocker locker(&m_lock);
+        // Before the next pass reads the file's dates as "what they were".
+        updateFileDates();
+    }
+    finish(writeFile(addRemoveArgs(), *errors), errors);
+}
+
+void ExifRunnerRemoveExifGroupsOperation::finish(const WriteResult &result,
+                                                 const ErrorMessagesPtr &errors)
+{
     QMutexLocker locker(&m_lock);
     std::optional<TagDictionary> reRead;
     if (reReads() && result.reRead) {
@@ -23,11 +41,28 @@ void ExifRunnerRemoveExifGroupsOperation::run()
         efi()->setExifData(*reRead);
         efi()->setOriginalExifData(*reRead);
     }
+    // An original kept after a failed check is left exactly as it was, dates included.
     if (result.replaced)
         updateFileDates();
     locker.unlock();
     if (reRead)
         storeResults(errors, reRead);
+}
+
+bool ExifRunnerRemoveExifGroupsOperation::hasUndecodedMakerNotes(const TagDictionary &tags)
+{
+    // ExifTool names the byte order of any notes it found, and files notes of no known maker
+    // as MakerNoteUnknown...; decoded notes show under their maker's own group instead.
+    for (auto it = tags.cbegin(); it != tags.cend(); ++it) {
+        if (it.key().contains(QLatin1String("MakerNote")))
+            return true;
+    }
+    return false;
+}
+
+QStringList ExifRunnerRemoveExifGroupsOperation::undecodedMakerNotesArgs()
+{
+    return {QStringLiteral("-n"), QStringLiteral("-X"), QStringLiteral("-MakerNotes:all=")};
 }
 
 QStringList ExifRunnerRemoveExifGroupsOperation::addRemoveArgs() const

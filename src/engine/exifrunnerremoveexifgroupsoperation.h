@@ -18,7 +18,12 @@ public:
 
     // ExifTool's arguments, up to but without "-o" and the paths.
     QStringList addRemoveArgs() const;
+    // Notes that ExifTool found but could not decode need a pass of their own, made first.
+    static bool hasUndecodedMakerNotes(const TagDictionary &tags);
+    static QStringList undecodedMakerNotesArgs();
 
 private:
+    void finish(const WriteResult &result, const ErrorMessagesPtr &errors);
+
     bool m_removeMakerNotes = false;
 };
