@@ -51,8 +51,8 @@ public:
 
     bool waitForIdle(int timeoutMs)
     {
-        QDeadlineTimer deadline = timeoutMs < 0 ? QDeadlineTimer(QDeadlineTimer::Forever)
-                                                : QDeadlineTimer(timeoutMs);
+        QDeadlineTimer deadline =
+            timeoutMs < 0 ? QDeadlineTimer(QDeadlineTimer::Forever) : QDeadlineTimer(timeoutMs);
         QMutexLocker locker(&m_mutex);
         while (!m_batches.empty() || m_busy) {
             if (!m_idle.wait(&m_mutex, deadline))
@@ -139,16 +139,18 @@ private:
             if (errors)
                 results.insert(fileName, errors);
 
-            post([operation, fileName, position, total,
-                  errors](ExifBackgroundRunnerListener *listener) {
-                try {
-                    operation->postProcessInMainThread();
-                } catch (const std::exception &exception) {
-                    qCWarning(lcTagsmith).noquote() << QString::fromUtf8(exception.what());
-                }
-                listener->fileProcessed(
-                    nullptr, ExifOperationStatus(0, fileName, position, total, errors));
-            }, true);
+            post(
+                [operation, fileName, position, total,
+                 errors](ExifBackgroundRunnerListener *listener) {
+                    try {
+                        operation->postProcessInMainThread();
+                    } catch (const std::exception &exception) {
+                        qCWarning(lcTagsmith).noquote() << QString::fromUtf8(exception.what());
+                    }
+                    listener->fileProcessed(
+                        nullptr, ExifOperationStatus(0, fileName, position, total, errors));
+                },
+                true);
         }
         post([results](ExifBackgroundRunnerListener *listener) {
             listener->finishProcessing(results);
@@ -171,8 +173,7 @@ private:
 
     // Queued to the runner's thread of birth, never waited for. postProcess runs even without
     // a listener, as the file record must learn what is on disk.
-    template<typename Call>
-    void post(Call call, bool withoutListener = false)
+    template <typename Call> void post(Call call, bool withoutListener = false)
     {
         QMetaObject::invokeMethod(
             m_runner,

@@ -26,7 +26,8 @@ std::atomic<int> s_timeoutPerMegabyteMs{10'000};
 
 const QString FileTypeKey = QStringLiteral("File:FileType");
 const QString ImageDataHashKey = QStringLiteral("File:ImageDataHash");
-const QStringList DimensionKeys{QStringLiteral("File:ImageWidth"), QStringLiteral("File:ImageHeight"),
+const QStringList DimensionKeys{QStringLiteral("File:ImageWidth"),
+                                QStringLiteral("File:ImageHeight"),
                                 QStringLiteral("Composite:ImageSize")};
 
 QString tr(const char *text)
@@ -73,8 +74,7 @@ QString exifToolFileDate(const QDateTime &date)
 
 } // namespace
 
-ExifRunnerFileModifiyOperation::ExifRunnerFileModifiyOperation(ExifFileInfoPtr efi,
-                                                               quint32 options)
+ExifRunnerFileModifiyOperation::ExifRunnerFileModifiyOperation(ExifFileInfoPtr efi, quint32 options)
     : m_fileName(efi->fileName())
     , m_efi(std::move(efi))
     , m_options(options)
@@ -225,7 +225,8 @@ std::optional<TagDictionary> ExifRunnerFileModifiyOperation::checkNewFile(ErrorM
     const QString newType = written.value(FileTypeKey);
     typeDiffers = oldType != newType;
     // Without its extension a TIFF-based raw file reads as a plain TIFF.
-    if (typeDiffers && !(newType == QStringLiteral("TIFF") && UserSettings::isCameraRawFile(m_fileName))) {
+    if (typeDiffers &&
+        !(newType == QStringLiteral("TIFF") && UserSettings::isCameraRawFile(m_fileName))) {
         errors.addError(tr("The new file is of type %1 instead of %2; the original was kept.")
                             .arg(newType, oldType));
         return std::nullopt;
@@ -250,9 +251,9 @@ std::optional<TagDictionary> ExifRunnerFileModifiyOperation::checkNewFile(ErrorM
     return written;
 }
 
-QHash<QString, TagDictionary>
-ExifRunnerFileModifiyOperation::readFiles(const QStringList &paths, const QStringList &extra,
-                                          ExifToolResult &result)
+QHash<QString, TagDictionary> ExifRunnerFileModifiyOperation::readFiles(const QStringList &paths,
+                                                                        const QStringList &extra,
+                                                                        ExifToolResult &result)
 {
     QStringList arguments = extra + ExifRunner::readCommandArguments(paths);
     result = exifToolSession().execute(arguments, commandTimeout());
@@ -280,12 +281,13 @@ void ExifRunnerFileModifiyOperation::describeFinalFile(TagDictionary &values) co
     };
     if (values.contains(QStringLiteral("System:FilePermissions")) &&
         ::stat(QFile::encodeName(m_fileName).constData(), &st) == 0) {
-        values.insert(QStringLiteral("System:FilePermissions"),
-                      QString::number(st.st_mode, 8));
+        values.insert(QStringLiteral("System:FilePermissions"), QString::number(st.st_mode, 8));
     }
 }
 
-void ExifRunnerFileModifiyOperation::verifyWrittenValues(const TagDictionary &, ErrorMessages &) {}
+void ExifRunnerFileModifiyOperation::verifyWrittenValues(const TagDictionary &, ErrorMessages &)
+{
+}
 
 TagDictionary ExifRunnerFileModifiyOperation::loadOldDataWithErrors(ErrorMessages &)
 {

@@ -28,7 +28,9 @@ ErrorMessagesPtr ExifRunnerOperation::errors() const
     throw notImplemented();
 }
 
-void ExifRunnerOperation::run() {}
+void ExifRunnerOperation::run()
+{
+}
 
 void ExifRunnerOperation::readErrors(ErrorMessages &errors, QByteArrayView data) const
 {
@@ -62,7 +64,9 @@ void ExifRunnerOperation::debugPrintExifToolOut(QByteArrayView output) const
     qCInfo(lcTagsmith).noquote() << text;
 }
 
-void ExifRunnerOperation::postProcessInMainThread() {}
+void ExifRunnerOperation::postProcessInMainThread()
+{
+}
 
 ExifToolSession &ExifRunnerOperation::exifToolSession()
 {

@@ -122,8 +122,8 @@ TagDictionary ExifRunnerSaveOperation::convertValuesToChange(const TagDictionary
         const bool isShift = isDateOffsetText(value);
         switch (representationOf(field)) {
         case FieldDataRepresentation::DateTime:
-            converted.insert(key, isShift ? formatDateOffsetForWriting(value, DateEditorTypeDateTime)
-                                          : value);
+            converted.insert(
+                key, isShift ? formatDateOffsetForWriting(value, DateEditorTypeDateTime) : value);
             break;
         case FieldDataRepresentation::Date:
             if (isShift) {
@@ -156,7 +156,7 @@ TagDictionary ExifRunnerSaveOperation::convertValuesToChange(const TagDictionary
 }
 
 std::optional<QString> ExifRunnerSaveOperation::formatNumberForExifTool(const QString &text,
-                                                                       const ExifField &field)
+                                                                        const ExifField &field)
 {
     const QLocale english(QLocale::English, QLocale::UnitedStates);
     // What the user typed in their own locale; a value in ExifTool's own form still reads.
@@ -199,7 +199,8 @@ QStringList ExifRunnerSaveOperation::gatherExifToolArgumentsToChange(const TagDi
         const FieldDataRepresentation representation = representationOf(catalogue->field(key));
         if (isDateRepresentation(representation) && isDateOffsetText(value)) {
             // The quotes reach ExifTool as part of the value, which it accepts for a shift.
-            const QString shift = value.contains(u'+') ? QStringLiteral("+=") : QStringLiteral("-=");
+            const QString shift =
+                value.contains(u'+') ? QStringLiteral("+=") : QStringLiteral("-=");
             arguments.append(u'-' + key + shift + u'\'' + value.mid(1) + u'\'');
         } else if (representation == FieldDataRepresentation::Strings) {
             for (const QString &item : splitStringsItems(value))
@@ -221,8 +222,9 @@ QStringList ExifRunnerSaveOperation::gatherExifToolArgumentsToRemove(const QSet<
 
 QStringList ExifRunnerSaveOperation::otherExifFileArguments()
 {
-    QStringList arguments{QStringLiteral("-n"),      QStringLiteral("-lang"),  QStringLiteral("en"),
-                          QStringLiteral("-charset"), QStringLiteral("UTF-8"), QStringLiteral("-X")};
+    QStringList arguments{QStringLiteral("-n"),    QStringLiteral("-lang"),
+                          QStringLiteral("en"),    QStringLiteral("-charset"),
+                          QStringLiteral("UTF-8"), QStringLiteral("-X")};
     if (UserSettings::forceFixBase())
         arguments.append(QStringLiteral("-F"));
     if (UserSettings::ignoreMinorErrors())
@@ -266,8 +268,7 @@ bool ExifRunnerSaveOperation::readsBackAsWritten(const QString &key, const QStri
         if (!isDateOffsetText(value))
             break;
         // A shift is checked against the original it was applied to.
-        const QDateTime expected =
-            applyDateOffset(value, efi()->originalExifData().value(key));
+        const QDateTime expected = applyDateOffset(value, efi()->originalExifData().value(key));
         if (!expected.isValid())
             return false;
         const QString expectedText = representation == FieldDataRepresentation::Date
@@ -288,8 +289,7 @@ bool ExifRunnerSaveOperation::readsBackAsWritten(const QString &key, const QStri
     case FieldDataRepresentation::Latitude:
     case FieldDataRepresentation::Longitude:
         // Stored as degrees, minutes and seconds: the decimal comes back rounded.
-        return std::fabs(ExifRunner::leadingNumber(got) - ExifRunner::leadingNumber(value)) <=
-               1e-6;
+        return std::fabs(ExifRunner::leadingNumber(got) - ExifRunner::leadingNumber(value)) <= 1e-6;
     default:
         break;
     }
