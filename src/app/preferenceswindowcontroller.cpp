@@ -62,6 +62,8 @@ PreferencesWindowController::PreferencesWindowController(const QString &exifTool
                                  {{0, localized(QStringLiteral("Set to the image's create date"))},
                                   {1, localized(QStringLiteral("Keep the date the file had"))},
                                   {2, localized(QStringLiteral("Leave the date of the write"))}}));
+    savingForm->addRow(localized(QStringLiteral("Verify image data when saving:")),
+                       addImageDataCheck());
     auto *creationNote = new QLabel(
         localized(QStringLiteral("Linux file systems do not let programs set a file's creation "
                                  "date; this setting applies only where the system allows it.")),
@@ -121,6 +123,11 @@ void PreferencesWindowController::reloadSettings()
             index = box->objectName() == UserSettings::GpsFormat ? 0 : box->count() - 1;
         box->setCurrentIndex(index);
     }
+    if (m_imageDataCheck) {
+        const QSignalBlocker blocker(m_imageDataCheck);
+        const QVariant stored = UserSettings::value(UserSettings::VerifyImageData);
+        m_imageDataCheck->setCurrentIndex(!stored.isValid() ? 0 : stored.toBool() ? 1 : 2);
+    }
     for (QCheckBox *flag : std::as_const(m_flags)) {
         const QSignalBlocker blocker(flag);
         flag->setChecked(UserSettings::value(flag->objectName()).toBool());
@@ -138,6 +145,24 @@ QComboBox *PreferencesWindowController::addChoice(const QString &key,
             [box, key](int index) { UserSettings::setValue(key, box->itemData(index).toInt()); });
     m_choices.append(box);
     return box;
+}
+
+// Three choices over a setting that is a yes or a no once chosen: until then the program checks
+// camera raw files only, so the first choice clears the setting rather than storing a value.
+QComboBox *PreferencesWindowController::addImageDataCheck()
+{
+    m_imageDataCheck = new QComboBox(this);
+    m_imageDataCheck->setObjectName(UserSettings::VerifyImageData);
+    m_imageDataCheck->addItems({localized(QStringLiteral("Camera raw files only")),
+                                localized(QStringLiteral("All files")),
+                                localized(QStringLiteral("No files"))});
+    connect(m_imageDataCheck, &QComboBox::activated, this, [](int index) {
+        if (index == 0)
+            UserSettings::remove(UserSettings::VerifyImageData);
+        else
+            UserSettings::setValue(UserSettings::VerifyImageData, index == 1);
+    });
+    return m_imageDataCheck;
 }
 
 QCheckBox *PreferencesWindowController::addFlag(const QString &key, const QString &text)

@@ -28,10 +28,12 @@ public:
 private:
     QComboBox *addChoice(const QString &key, const QList<std::pair<int, QString>> &choices);
     QCheckBox *addFlag(const QString &key, const QString &text);
+    QComboBox *addImageDataCheck();
     void handleExifToolVersion();
 
     QList<QComboBox *> m_choices;
     QList<QCheckBox *> m_flags;
+    QComboBox *m_imageDataCheck = nullptr;
     QLabel *m_exifToolVersion = nullptr;
     QLabel *m_exifToolWarning = nullptr;
     QFutureWatcher<ExifToolVersion> m_versionWatcher;
