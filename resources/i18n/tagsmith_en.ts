@@ -43,5 +43,21 @@
         <source>Results</source>
         <translation>Results</translation>
     </message>
+    <message>
+        <source>Multiple values</source>
+        <translation>Multiple values</translation>
+    </message>
+    <message>
+        <source>Unexpected value: %@</source>
+        <translation>Unexpected value: %@</translation>
+    </message>
+    <message>
+        <source>GPS_LONGITUDE_FORMAT_DESC:</source>
+        <translation>The longitude is not valid. Type it as degrees, minutes and seconds (151°12'33.48"E), degrees and decimal minutes (151°12.558'E) or decimal degrees (151.2093 or +151.2093 for east, -151.2093 for west).</translation>
+    </message>
+    <message>
+        <source>GPS_LATITUDE_FORMAT_DESC</source>
+        <translation>The latitude is not valid. Type it as degrees, minutes and seconds (33°52'7.68"S), degrees and decimal minutes (33°52.128'S) or decimal degrees (33.8688 or +33.8688 for north, -33.8688 for south).</translation>
+    </message>
 </context>
 </TS>
