@@ -67,6 +67,8 @@ private Q_SLOTS:
         row("1y2M", "+1y2M", "+1y 2M", "-1:2:0 00:00:00", "-1:2:0"); // no "+" writes minus
         row("-1d+2h", "-1d", "-1d", "+0:0:1 00:00:00", "+0:0:1");    // any "+" writes plus
         row("-", "-", "-", "-0:0:0 00:00:00", "-0:0:0");
+        // Stored and shown as a magnitude, but handed to ExifTool signed as typed.
+        row("+1d-3m", "+1d3m", "+1d 3m", "+0:0:1 00:-3:00", "+0:0:1");
     }
     void format()
     {
