@@ -3,7 +3,6 @@
 #include "catalogue/exifsettings.h"
 #include "values/usersettings.h"
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDesktopServices>
@@ -17,12 +16,14 @@
 #include <QUrl>
 #include <QWidget>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class FakeMainWindow : public AppMainWindow
 {
 public:
-    QWidget *window() override { return &m_window; }
+    QWidget *window() override { return &widget; }
     bool hasDiretyFiles() const override { return dirty; }
     void setSaveStatus(int status) override { saveStatus = status; }
     bool openFile(const QString &path) override
@@ -34,69 +35,10 @@ public:
     bool dirty = false;
     int saveStatus = 0;
     QStringList openedFiles;
-
-private:
-    QWidget m_window;
+    QWidget widget;
 };
 
-} // namespace
-
-class UrlRecorder : public QObject
-{
-    Q_OBJECT
-
-public:
-    QList<QUrl> urls;
-
-public Q_SLOTS:
-    void handle(const QUrl &url) { urls.append(url); }
-};
-
-class TestTagsmithAppDelegate : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void initTestCase();
-    void init();
-    void cleanupTestCase();
-
-    void hasArgument_data();
-    void hasArgument();
-    void startUpLoadsPresetsAndHandsOverFiles();
-    void quitWaitsForTheMainWindowOnlyWithChanges_data();
-    void quitWaitsForTheMainWindowOnlyWithChanges();
-    void webPagesOpenInTheBrowser();
-    void preferencesEditTheStoreAndOnlyHide();
-    void preferencesShowUnknownNumbersByMeaning();
-    void preferencesShowTheExifToolVersion_data();
-    void preferencesShowTheExifToolVersion();
-
-private:
-    FakeMainWindow *startDelegate(TagsmithAppDelegate &delegate, const QStringList &arguments);
-
-    QTemporaryDir m_dir;
-    int m_storeNumber = 0;
-};
-
-void TestTagsmithAppDelegate::initTestCase()
-{
-    QStandardPaths::setTestModeEnabled(true);
-    QVERIFY(m_dir.isValid());
-}
-
-void TestTagsmithAppDelegate::init()
-{
-    UserSettings::setStoreFile(m_dir.filePath(QStringLiteral("store-%1.ini").arg(++m_storeNumber)));
-}
-
-void TestTagsmithAppDelegate::cleanupTestCase()
-{
-    UserSettings::setStoreFile(QString());
-}
-
-FakeMainWindow *TestTagsmithAppDelegate::startDelegate(TagsmithAppDelegate &delegate,
-                                                       const QStringList &arguments)
+FakeMainWindow *start(TagsmithAppDelegate &delegate, const QStringList &arguments)
 {
     FakeMainWindow *fake = nullptr;
     delegate.setMainWindowFactory([&fake](TagsmithAppDelegate &) {
@@ -108,187 +50,177 @@ FakeMainWindow *TestTagsmithAppDelegate::startDelegate(TagsmithAppDelegate &dele
     return fake;
 }
 
-void TestTagsmithAppDelegate::hasArgument_data()
+} // namespace
+
+class TestTagsmithAppDelegate : public QObject
 {
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<bool>("found");
+    Q_OBJECT
 
-    const QString program = QStringLiteral("/usr/bin/tagsmith");
-    QTest::newRow("alone") << QStringList{program, QStringLiteral("-debug")} << true;
-    QTest::newRow("among files") << QStringList{program, QStringLiteral("a.jpg"),
-                                                QStringLiteral("-debug"), QStringLiteral("b.jpg")}
-                                 << true;
-    QTest::newRow("twice") << QStringList{program, QStringLiteral("-debug"),
-                                          QStringLiteral("-debug")}
-                           << true;
-    QTest::newRow("as the program path") << QStringList{QStringLiteral("-debug")} << true;
-    QTest::newRow("absent") << QStringList{program, QStringLiteral("a.jpg")} << false;
-    QTest::newRow("capital D") << QStringList{program, QStringLiteral("-Debug")} << false;
-    QTest::newRow("two dashes") << QStringList{program, QStringLiteral("--debug")} << false;
-    QTest::newRow("with a value") << QStringList{program, QStringLiteral("-debug=1")} << false;
-    QTest::newRow("with a blank") << QStringList{program, QStringLiteral("-debug ")} << false;
-    QTest::newRow("inside a file name")
-        << QStringList{program, QStringLiteral("/photos/-debug/a.jpg")} << false;
-}
+    QTemporaryDir m_dir;
+    int m_storeNumber = 0;
+    QList<QUrl> m_urls;
 
-void TestTagsmithAppDelegate::hasArgument()
-{
-    QFETCH(QStringList, arguments);
-    QFETCH(bool, found);
+public Q_SLOTS:
+    void handleUrl(const QUrl &url) { m_urls.append(url); }
 
-    QCOMPARE(TagsmithAppDelegate::hasArgument(QStringLiteral("-debug"), arguments), found);
-}
-
-void TestTagsmithAppDelegate::startUpLoadsPresetsAndHandsOverFiles()
-{
-    UserSettings::openStore()->setValue(QStringLiteral("settings-names"),
-                                        QStringLiteral("configuration-4"));
-    UserSettings::openStore()->setValue(
-        QStringLiteral("configuration-4"),
-        QStringLiteral("\n<configuration name=\"Rome\" identifier=\"configuration-4\">\n "
-                       "<field-modification name=\"IPTC:City\">Roma</field-modification>\n"
-                       "</configuration>"));
-
-    TagsmithAppDelegate delegate;
-    FakeMainWindow *fake =
-        startDelegate(delegate, {QStringLiteral("tagsmith"), QStringLiteral("/photos/a.jpg"),
-                                 QStringLiteral("-debug"), QStringLiteral("/photos/b b.nef")});
-
-    QVERIFY(fake);
-    QVERIFY(fake->window()->isVisible());
-    QCOMPARE(fake->openedFiles,
-             (QStringList{QStringLiteral("/photos/a.jpg"), QStringLiteral("/photos/b b.nef")}));
-    const ExifConfigurationPtr preset =
-        ExifSettings::instance().loadConfiguration(QStringLiteral("configuration-4"));
-    QVERIFY(preset);
-    QCOMPARE(preset->changedValues().value(QStringLiteral("IPTC:City")), QStringLiteral("Roma"));
-
-    QVERIFY(delegate.debug());
-}
-
-void TestTagsmithAppDelegate::quitWaitsForTheMainWindowOnlyWithChanges_data()
-{
-    QTest::addColumn<bool>("dirty");
-    QTest::addColumn<TagsmithAppDelegate::TerminateReply>("reply");
-    QTest::addColumn<int>("saveStatus");
-
-    QTest::newRow("no changes") << false << TagsmithAppDelegate::TerminateReply::TerminateNow << 0;
-    QTest::newRow("unsaved changes")
-        << true << TagsmithAppDelegate::TerminateReply::TerminateLater << 1;
-}
-
-void TestTagsmithAppDelegate::quitWaitsForTheMainWindowOnlyWithChanges()
-{
-    QFETCH(bool, dirty);
-    QFETCH(TagsmithAppDelegate::TerminateReply, reply);
-    QFETCH(int, saveStatus);
-
-    TagsmithAppDelegate delegate;
-    FakeMainWindow *fake = startDelegate(delegate, {QStringLiteral("tagsmith")});
-    fake->dirty = dirty;
-    QCOMPARE(delegate.applicationShouldTerminate(), reply);
-    QCOMPARE(fake->saveStatus, saveStatus);
-    // The main window is asked to close so it can put its save question.
-    QCOMPARE(fake->window()->isVisible(), !dirty);
-}
-
-void TestTagsmithAppDelegate::webPagesOpenInTheBrowser()
-{
-    UrlRecorder recorder;
-    QDesktopServices::setUrlHandler(QStringLiteral("https"), &recorder, "handle");
-
-    TagsmithAppDelegate delegate;
-    delegate.showHelp();
-    delegate.openSupportPage();
-    delegate.openWebSite();
-    QDesktopServices::unsetUrlHandler(QStringLiteral("https"));
-
-    QCOMPARE(recorder.urls, (QList<QUrl>{QUrl(QStringLiteral("https://tagsmith.org/help")),
-                                         QUrl(QStringLiteral("https://tagsmith.org/support")),
-                                         QUrl(QStringLiteral("https://tagsmith.org"))}));
-}
-
-void TestTagsmithAppDelegate::preferencesEditTheStoreAndOnlyHide()
-{
-    TagsmithAppDelegate delegate;
-    delegate.showPreferences();
-    QPointer<PreferencesWindowController> window = delegate.preferencesWindowController();
-    QVERIFY(window && window->isVisible());
-
-    for (const QString &key :
-         {UserSettings::GpsFormat, UserSettings::FileModifyDate, UserSettings::FileCreateDate}) {
-        auto *box = window->findChild<QComboBox *>(key);
-        QVERIFY2(box, qPrintable(key));
-        box->setFocus();
-        QTest::keyClick(box, Qt::Key_Down);
-        QCOMPARE(UserSettings::value(key).toInt(), 1);
+private Q_SLOTS:
+    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
+    void init()
+    {
+        UserSettings::setStoreFile(m_dir.filePath(u"store-%1.ini"_s.arg(++m_storeNumber)));
     }
-    for (const QString &key : {UserSettings::ForceFixBase, UserSettings::IgnoreMinorErrors}) {
-        auto *flag = window->findChild<QCheckBox *>(key);
-        QVERIFY2(flag, qPrintable(key));
-        QTest::mouseClick(flag, Qt::LeftButton);
-        QCOMPARE(UserSettings::value(key).toBool(), true);
+    void cleanupTestCase() { UserSettings::setStoreFile(QString()); }
+
+    void hasArgument_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<bool>("found");
+        const auto row = [](const char *name, QStringList arguments, bool found) {
+            QTest::newRow(name) << arguments << found;
+        };
+        row("alone", {u"tagsmith"_s, u"-debug"_s}, true);
+        row("among files", {u"tagsmith"_s, u"a.jpg"_s, u"-debug"_s, u"b.jpg"_s}, true);
+        row("twice", {u"tagsmith"_s, u"-debug"_s, u"-debug"_s}, true);
+        row("as program path", {u"-debug"_s}, true);
+        row("absent", {u"tagsmith"_s, u"a.jpg"_s}, false);
+        row("capital", {u"tagsmith"_s, u"-Debug"_s}, false);
+        row("two dashes", {u"tagsmith"_s, u"--debug"_s}, false);
+        row("with value", {u"tagsmith"_s, u"-debug=1"_s}, false);
+        row("with blank", {u"tagsmith"_s, u"-debug "_s}, false);
+        row("in a path", {u"tagsmith"_s, u"/photos/-debug/a.jpg"_s}, false);
     }
 
-    window->close();
-
-    // Changed elsewhere while hidden: the next opening shows the store, not the old state.
-    UserSettings::setValue(UserSettings::ForceFixBase, false);
-    delegate.showPreferences();
-    QCOMPARE(delegate.preferencesWindowController(), window.data());
-    QVERIFY(!window->findChild<QCheckBox *>(UserSettings::ForceFixBase)->isChecked());
-}
-
-void TestTagsmithAppDelegate::preferencesShowUnknownNumbersByMeaning()
-{
-    UserSettings::setValue(UserSettings::GpsFormat, 7);
-    UserSettings::setValue(UserSettings::FileModifyDate, 9);
-
-    PreferencesWindowController window;
-    window.showWindow();
-    QCOMPARE(window.findChild<QComboBox *>(UserSettings::GpsFormat)->currentData().toInt(), 0);
-    QCOMPARE(window.findChild<QComboBox *>(UserSettings::FileModifyDate)->currentData().toInt(), 2);
-    // Showing them is no reason to rewrite what the user stored.
-    QCOMPARE(UserSettings::openStore()->value(UserSettings::GpsFormat).toInt(), 7);
-    QCOMPARE(UserSettings::openStore()->value(UserSettings::FileModifyDate).toInt(), 9);
-}
-
-void TestTagsmithAppDelegate::preferencesShowTheExifToolVersion_data()
-{
-    QTest::addColumn<QString>("printedVersion");
-    QTest::addColumn<QString>("shownVersion");
-    QTest::addColumn<bool>("warns");
-
-    QTest::newRow("bundled") << QString() << QStringLiteral("13.59") << false;
-    QTest::newRow("old release") << QStringLiteral("12.57") << QStringLiteral("12.57") << true;
-}
-
-void TestTagsmithAppDelegate::preferencesShowTheExifToolVersion()
-{
-    QFETCH(QString, printedVersion);
-    QFETCH(QString, shownVersion);
-    QFETCH(bool, warns);
-
-    QString program = exifToolPath();
-    if (!printedVersion.isEmpty()) {
-        program = m_dir.filePath(QStringLiteral("exiftool-%1").arg(printedVersion));
-        QFile script(program);
-        QVERIFY(script.open(QIODevice::WriteOnly));
-        script.write("#!/bin/sh\necho " + printedVersion.toLatin1() + "\n");
-        script.close();
-        script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    void hasArgument()
+    {
+        QFETCH(QStringList, arguments);
+        QTEST(TagsmithAppDelegate::hasArgument(u"-debug"_s, arguments), "found");
     }
 
-    PreferencesWindowController window(program);
-    window.showWindow();
-    auto *version = window.findChild<QLabel *>(QStringLiteral("exifToolVersion"));
-    auto *warning = window.findChild<QLabel *>(QStringLiteral("warning"));
-    QVERIFY(version && warning);
-    QTRY_VERIFY_WITH_TIMEOUT(version->text().contains(shownVersion), 20000);
-    QCOMPARE(warning->isVisible(), warns);
-    if (warns)
-        QVERIFY(warning->text().contains(QStringLiteral("ARW")));
-}
+    void startUpLoadsPresetsAndHandsOverFiles()
+    {
+        const auto store = UserSettings::openStore();
+        store->setValue(u"settings-names"_s, u"configuration-4"_s);
+        store->setValue(u"configuration-4"_s,
+                        u"<configuration name=\"Rome\" identifier=\"configuration-4\">"
+                        "<field-modification name=\"IPTC:City\">Roma</field-modification>"
+                        "</configuration>"_s);
+        store->sync();
+
+        TagsmithAppDelegate delegate;
+        FakeMainWindow *fake =
+            start(delegate, {u"tagsmith"_s, u"/photos/a.jpg"_s, u"-debug"_s, u"/photos/b b.nef"_s});
+        QVERIFY(fake && fake->window()->isVisible());
+        QCOMPARE(fake->openedFiles, (QStringList{u"/photos/a.jpg"_s, u"/photos/b b.nef"_s}));
+        const auto preset = ExifSettings::instance().loadConfiguration(u"configuration-4"_s);
+        QVERIFY(preset);
+        QCOMPARE(preset->changedValues().value(u"IPTC:City"_s), u"Roma"_s);
+        QVERIFY(delegate.debug());
+    }
+
+    // With unsaved changes the main window is asked to close, so that it can put its question.
+    void quitWaitsForTheMainWindowOnlyWithChanges()
+    {
+        for (const bool dirty : {false, true}) {
+            TagsmithAppDelegate delegate;
+            FakeMainWindow *fake = start(delegate, {u"tagsmith"_s});
+            fake->dirty = dirty;
+            QCOMPARE(delegate.applicationShouldTerminate(),
+                     dirty ? TagsmithAppDelegate::TerminateReply::TerminateLater
+                           : TagsmithAppDelegate::TerminateReply::TerminateNow);
+            QCOMPARE(fake->saveStatus, dirty ? 1 : 0);
+            QCOMPARE(fake->window()->isVisible(), !dirty);
+        }
+    }
+
+    void webPagesOpenInTheBrowser()
+    {
+        QDesktopServices::setUrlHandler(u"https"_s, this, "handleUrl");
+        TagsmithAppDelegate delegate;
+        delegate.showHelp();
+        delegate.openSupportPage();
+        delegate.openWebSite();
+        QDesktopServices::unsetUrlHandler(u"https"_s);
+        QCOMPARE(m_urls, (QList<QUrl>{QUrl(u"https://tagsmith.org/help"_s),
+                                      QUrl(u"https://tagsmith.org/support"_s),
+                                      QUrl(u"https://tagsmith.org"_s)}));
+    }
+
+    void preferencesEditTheStoreAndOnlyHide()
+    {
+        TagsmithAppDelegate delegate;
+        delegate.showPreferences();
+        QPointer<PreferencesWindowController> window = delegate.preferencesWindowController();
+        QVERIFY(window && window->isVisible());
+        for (const QString &key : {UserSettings::GpsFormat, UserSettings::FileModifyDate,
+                                   UserSettings::FileCreateDate}) {
+            auto *box = window->findChild<QComboBox *>(key);
+            QVERIFY2(box, qPrintable(key));
+            box->setFocus();
+            QTest::keyClick(box, Qt::Key_Down);
+            QCOMPARE(UserSettings::value(key).toInt(), 1);
+        }
+        for (const QString &key : {UserSettings::ForceFixBase, UserSettings::IgnoreMinorErrors}) {
+            auto *flag = window->findChild<QCheckBox *>(key);
+            QVERIFY2(flag, qPrintable(key));
+            QTest::mouseClick(flag, Qt::LeftButton);
+            QCOMPARE(UserSettings::value(key).toBool(), true);
+        }
+        window->close();
+
+        // Changed elsewhere while hidden: the next opening shows the store, not the old state.
+        UserSettings::setValue(UserSettings::ForceFixBase, false);
+        delegate.showPreferences();
+        QCOMPARE(delegate.preferencesWindowController(), window.data());
+        QVERIFY(!window->findChild<QCheckBox *>(UserSettings::ForceFixBase)->isChecked());
+    }
+
+    void preferencesShowUnknownNumbersByMeaning()
+    {
+        UserSettings::setValue(UserSettings::GpsFormat, 7);
+        UserSettings::setValue(UserSettings::FileModifyDate, 9);
+        PreferencesWindowController window;
+        window.showWindow();
+        QCOMPARE(window.findChild<QComboBox *>(UserSettings::GpsFormat)->currentData().toInt(), 0);
+        QCOMPARE(window.findChild<QComboBox *>(UserSettings::FileModifyDate)->currentData().toInt(),
+                 2);
+        // Showing them is no reason to rewrite what the user stored.
+        QCOMPARE(UserSettings::openStore()->value(UserSettings::GpsFormat).toInt(), 7);
+        QCOMPARE(UserSettings::openStore()->value(UserSettings::FileModifyDate).toInt(), 9);
+    }
+
+    void preferencesShowTheExifToolVersion_data()
+    {
+        QTest::addColumn<QString>("printed"); // empty: the bundled ExifTool
+        QTest::addColumn<QString>("shown");
+        QTest::addColumn<bool>("warns");
+        QTest::newRow("bundled") << QString() << u"13.59"_s << false;
+        QTest::newRow("old release") << u"12.57"_s << u"12.57"_s << true;
+    }
+
+    void preferencesShowTheExifToolVersion()
+    {
+        QFETCH(QString, printed);
+        QFETCH(QString, shown);
+        QFETCH(bool, warns);
+        QString program = exifToolPath();
+        if (!printed.isEmpty()) {
+            QFile script(program = m_dir.filePath(u"exiftool-"_s + printed));
+            QVERIFY(script.open(QIODevice::WriteOnly));
+            script.write("#!/bin/sh\necho " + printed.toLatin1() + "\n");
+            script.close();
+            script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        }
+        PreferencesWindowController window(program);
+        window.showWindow();
+        auto *version = window.findChild<QLabel *>(u"exifToolVersion"_s);
+        auto *warning = window.findChild<QLabel *>(u"warning"_s);
+        QVERIFY(version && warning);
+        QTRY_VERIFY_WITH_TIMEOUT(version->text().contains(shown), 20000);
+        QCOMPARE(warning->isVisible(), warns);
+        if (warns)
+            QVERIFY(warning->text().contains(u"ARW"_s));
+    }
+};
 
 QTEST_MAIN(TestTagsmithAppDelegate)
 #include "tst_tagsmithappdelegate.moc"

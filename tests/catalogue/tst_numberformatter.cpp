@@ -95,15 +95,6 @@ private Q_SLOTS:
         QTEST(formatterFor(type, decimals, locale)->stringFromNumber(number), "text");
     }
 
-    void printedNumbersParseBack()
-    {
-        for (const QString &locale : {u"en_US"_s, u"de_DE"_s}) {
-            const auto formatter = formatterFor(FieldDataType::UDouble, 2, locale);
-            for (double number : {0.0, 0.5, 12.25, 1234.5, 1234567.75})
-                QCOMPARE(formatter->numberFromString(formatter->stringFromNumber(number)), number);
-        }
-    }
-
     void plainFormatterIsStrict()
     {
         NumberFormatter formatter(QLocale(u"en_US"_s));
