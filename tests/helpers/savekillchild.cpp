@@ -1,11 +1,13 @@
-// Saves every *.jpg of a folder with the title "new", the way the save operations do (one
-// persistent ExifTool, "-o" to a scratch file, then the swap), so that a test can kill it at
-// any moment:
-//   savekillchild loop FOLDER   saves the files over and over until killed
-//   savekillchild once FOLDER   saves each file once; exits 0 when all were saved
+// Saves the title "new" into every *.jpg of a folder through the background runner, so that a
+// test can kill it at any moment:
+//   savekillchild loop FOLDER SETTINGS   saves the files over and over until killed
+//   savekillchild once FOLDER SETTINGS   saves each file once; exits 0 when all were saved
+// It prints "ready" once the files are read, then "saved NAME" as each file is done.
+#include "catalogue/exiffieldscontroller.h"
 #include "engine/errormessages.h"
-#include "engine/exiftoolsession.h"
-#include "engine/filereplacement.h"
+#include "engine/exifbackgroundrunner.h"
+#include "engine/exifrunner.h"
+#include "values/usersettings.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -14,50 +16,63 @@
 
 namespace {
 
-bool save(ExifToolSession &session, const QString &path)
+class Listener final : public ExifBackgroundRunnerListener
 {
-    FileReplacement replacement(path);
-    if (!replacement.prepare()) {
-        std::fprintf(stderr, "%s\n", qPrintable(replacement.errorString()));
-        return false;
+public:
+    void fileToBeProcessed(const ExifFileInfoPtr &, const ExifOperationStatus &) override {}
+    void fileProcessed(const ExifFileInfoPtr &, const ExifOperationStatus &status) override
+    {
+        if (status.errors() && status.errors()->errorsCount() > 0) {
+            for (const ErrorMessage &message : status.errors()->messages())
+                std::fprintf(stderr, "%s\n", qPrintable(message.message()));
+            ++failures;
+        }
+        std::printf("saved %s\n", qPrintable(QFileInfo(status.fileName()).fileName()));
+        std::fflush(stdout);
     }
-    const ExifToolResult result =
-        session.execute({QStringLiteral("-o"), replacement.exifToolOutputPath(),
-                         QStringLiteral("-XMP:Title=new"), QStringLiteral("--"), path});
-    if (!result.hasSucceeded()) {
-        std::fprintf(stderr, "%s%s\n", result.standardError.constData(),
-                     qPrintable(result.errorMessage));
-        return false;
-    }
-    ErrorMessages errors(path);
-    if (!replacement.commit(errors)) {
-        std::fprintf(stderr, "%s\n", qPrintable(replacement.errorString()));
-        return false;
-    }
-    return true;
-}
+    void finishProcessing(const QHash<QString, ErrorMessagesPtr> &) override { finished = true; }
+
+    int failures = 0;
+    bool finished = false;
+};
 
 } // namespace
 
 int main(int argc, char **argv)
 {
     QCoreApplication application(argc, argv);
-    if (argc != 3)
+    if (argc != 4)
         return 2;
     const bool loop = qstrcmp(argv[1], "loop") == 0;
     const QDir folder(QString::fromLocal8Bit(argv[2]));
+    UserSettings::setStoreFile(QString::fromLocal8Bit(argv[3]));
+    ExifFieldsController::defaultInstance()->initializeConfigurations();
+
     const QStringList names = folder.entryList({QStringLiteral("*.jpg")}, QDir::Files, QDir::Name);
-    if (names.isEmpty())
+    QList<ExifFileInfoPtr> files;
+    ExifRunner reader;
+    for (const QString &name : names)
+        files << std::make_shared<ExifFileInfo>(folder.filePath(name));
+    if (files.isEmpty() || !reader.loadExifInformations(files).ok())
         return 3;
 
-    const auto session = makeExifToolSession(ExifToolSessionKind::Persistent);
+    const QString key = QStringLiteral("XMP-dc:Title");
+    std::printf("ready\n");
+    std::fflush(stdout);
+    Listener listener;
+    ExifBackgroundRunner runner;
+    runner.setListener(&listener);
     do {
-        for (const QString &name : names) {
-            if (!save(*session, folder.filePath(name)))
-                return 1;
-            std::printf("saved %s\n", qPrintable(name));
-            std::fflush(stdout);
+        // Every round starts from what was read first, so each one rewrites every file.
+        for (const ExifFileInfoPtr &file : std::as_const(files)) {
+            file->setExifData(file->originalExifData());
+            file->setExifValue(key, QStringLiteral("new"));
         }
-    } while (loop);
-    return 0;
+        listener.finished = false;
+        runner.saveFiles(files, 0);
+        while (!listener.finished)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    } while (loop && listener.failures == 0);
+    runner.setListener(nullptr);
+    return listener.failures == 0 ? 0 : 1;
 }
