@@ -26,6 +26,16 @@ QString storedText(const QVariant &value)
     return value.toString();
 }
 
+// XML cannot carry control characters in an attribute at all, and a document holding one would
+// not load, losing the preset. A name is one line of text: they are dropped from it instead.
+QString storableName(QString name)
+{
+    name.removeIf([](QChar c) {
+        return c.unicode() < 0x20 && c != u'\t' && c != u'\n' && c != u'\r';
+    });
+    return name;
+}
+
 } // namespace
 
 ExifSettings &ExifSettings::instance()
@@ -98,7 +108,7 @@ QString ExifSettings::configurationToXml(const ExifConfiguration &configuration)
 {
     XMLWriter writer;
     writer.startElement(configurationElement);
-    writer.writeAttribute(nameAttribute, configuration.name());
+    writer.writeAttribute(nameAttribute, storableName(configuration.name()));
     writer.writeAttribute(identifierAttribute, configuration.identifier());
     for (auto it = configuration.changedValues().cbegin();
          it != configuration.changedValues().cend(); ++it) {

@@ -60,23 +60,23 @@ private Q_SLOTS:
     void presetSurvivesReopeningTheStore_data()
     {
         QTest::addColumn<QString>("text");
-        QTest::addColumn<bool>("asName"); // attributes cannot carry control characters
-        QTest::newRow("markup") << u"<b>bold</b>"_s << true;
-        QTest::newRow("ampersand") << u"Tom & Jerry &amp; co"_s << true;
-        QTest::newRow("quotes") << u"say \"hi\" it's"_s << true;
-        QTest::newRow("line breaks") << u"first\nsecond\r\nthird\rfourth\t"_s << true;
-        QTest::newRow("non-Latin") << u"東京 Ελλάδα Москва 🙂"_s << true;
-        QTest::newRow("list commas") << u"one, two,three\\,four"_s << true;
-        QTest::newRow("control character") << u"bell\x07here"_s << false;
-        QTest::newRow("empty") << QString() << true;
+        QTest::addColumn<QString>("nameBack"); // null: the name comes back unchanged
+        QTest::newRow("markup") << u"<b>bold</b>"_s << QString();
+        QTest::newRow("ampersand") << u"Tom & Jerry &amp; co"_s << QString();
+        QTest::newRow("quotes") << u"say \"hi\" it's"_s << QString();
+        QTest::newRow("line breaks") << u"first\nsecond\r\nthird\rfourth\t"_s << QString();
+        QTest::newRow("non-Latin") << u"東京 Ελλάδα Москва 🙂"_s << QString();
+        QTest::newRow("list commas") << u"one, two,three\\,four"_s << QString();
+        QTest::newRow("control character") << u"bell\x07here"_s << u"bellhere"_s;
+        QTest::newRow("empty") << QString() << QString();
     }
 
     void presetSurvivesReopeningTheStore()
     {
         QFETCH(QString, text);
-        QFETCH(bool, asName);
+        QFETCH(QString, nameBack);
         ExifSettings store;
-        const auto saved = preset("configuration-0", asName ? text : u"P"_s);
+        const auto saved = preset("configuration-0", text);
         saved->changedValues().insert(u"IPTC:City"_s, text);
         saved->changedValues().insert(u"IFD0:Make"_s, u"Canon"_s);
         saved->removedValues() = {u"GPS:GPSLatitude"_s, u"XMP-x:Odd\"Key<&>"_s};
@@ -87,7 +87,7 @@ private Q_SLOTS:
         QCOMPARE(reopened.configurations().keys(), QStringList{u"configuration-0"_s});
         const ExifConfigurationPtr loaded = reopened.loadConfiguration(u"configuration-0"_s);
         QVERIFY(loaded);
-        QCOMPARE(loaded->name(), saved->name());
+        QCOMPARE(loaded->name(), nameBack.isNull() ? saved->name() : nameBack);
         QCOMPARE(loaded->changedValues(), saved->changedValues());
         QCOMPARE(loaded->removedValues(), saved->removedValues());
     }
