@@ -1,0 +1,116 @@
+#pragma once
+
+#include "catalogue/exiffield.h"
+#include "engine/exifbackgroundrunnerlistener.h"
+#include "engine/exiffileinfo.h"
+#include "values/datecomponents.h"
+
+#include <QDateTime>
+#include <QHash>
+#include <QList>
+#include <QPointer>
+#include <QWidget>
+
+#include <optional>
+
+class DateOffsetField;
+class ExifBackgroundRunner;
+class QCheckBox;
+class QDateTimeEdit;
+class QLabel;
+
+// The panel that sets one date field of the selected files: either to one new date, or by a
+// shift applied to each file's own original date. Every edit goes into the files at once.
+//
+// With a background runner it also writes the files to disk after each edit. Each file then gets
+// its own absolute date computed from the original it had when the panel was given the files, so
+// saving again after a further keystroke replaces the earlier shift instead of adding to it.
+class DateEditorView : public QWidget, public ExifBackgroundRunnerListener
+{
+    Q_OBJECT
+
+public:
+    enum EditorFocus { FocusDate = 0, FocusOffset = 1 };
+
+    DateEditorView(ExifFieldPtr field, DateEditorType type, QWidget *parent = nullptr);
+    ~DateEditorView() override;
+
+    const ExifFieldPtr &field() const { return m_field; }
+    DateEditorType dateEditorType() const { return m_type; }
+    const QList<ExifFileInfoPtr> &exifFiles() const { return m_files; }
+
+    // Not owned. Null (the default) leaves writing the files to whoever saves them later.
+    void setBackgroundRunner(ExifBackgroundRunner *runner);
+
+    void setExifFiles(const QList<ExifFileInfoPtr> &files);
+    void setExifDateValue(const QString &value, const QString &originalValue);
+    // 0 shows the date picker, 1 the offset field; anything else is misuse and throws.
+    void setEditorFocus(int focus);
+    int editorFocus() const { return m_focus; }
+
+    // A click released on one of the panel's clickable labels or titles.
+    void controlMouseUp(QObject *control);
+    void disableEnableButtonPressed();
+    // Writes the panel's value into every file; a null date takes the picker's.
+    void saveValue(const QDateTime &date = QDateTime());
+
+    QDateTimeEdit *datePicker() const { return m_datePicker; }
+    DateOffsetField *offsetField() const { return m_offsetField; }
+    QLabel *dateLabel() const { return m_dateLabel; }
+    QLabel *offsetLabel() const { return m_offsetLabel; }
+    QLabel *offsetTitle() const { return m_offsetTitle; }
+    QLabel *newTitle() const { return m_newTitle; }
+    QLabel *originalLabel() const { return m_originalLabel; }
+    QCheckBox *emptyBox() const { return m_emptyBox; }
+    QLabel *emptyTitle() const { return m_emptyTitle; }
+
+    // ExifBackgroundRunnerListener; calls are passed on to the listener the runner had before.
+    void fileToBeProcessed(const ExifFileInfoPtr &file, const ExifOperationStatus &status) override;
+    void fileProcessed(const ExifFileInfoPtr &file, const ExifOperationStatus &status) override;
+    void finishProcessing(const QHash<QString, ErrorMessagesPtr> &results) override;
+
+Q_SIGNALS:
+    void fileSaved(const QString &fileName, const ErrorMessagesPtr &errors);
+    void savingFinished(const QHash<QString, ErrorMessagesPtr> &results);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void buildRows();
+    QString originalValue(const ExifFileInfoPtr &file) const;
+    QDateTime firstOriginalDate() const;
+    void setOriginalDate(const QString &value);
+    void synchronizeFromDate(const QDateTime &date);
+    void synchronizeFromOffset();
+    void onDateProposed(const QDateTime &date);
+    void onOffsetChanged();
+    void setPickerDate(const QDateTime &date);
+    void hideEditorsForEmptyValue();
+    QString labelText(const QDateTime &date, bool mediumDate) const;
+    void queueSave();
+    void restoreRunnerListener();
+
+    ExifFieldPtr m_field;
+    DateEditorType m_type;
+    QList<ExifFileInfoPtr> m_files;
+    // File name -> the original value when the files were handed over.
+    QHash<QString, QString> m_baseOriginals;
+    int m_focus = FocusDate;
+    bool m_settingExifFiles = false;
+    bool m_disableNotification = false;
+
+    QLabel *m_emptyTitle = nullptr;
+    QCheckBox *m_emptyBox = nullptr;
+    QLabel *m_newTitle = nullptr;
+    QDateTimeEdit *m_datePicker = nullptr;
+    QLabel *m_dateLabel = nullptr;
+    QLabel *m_offsetTitle = nullptr;
+    DateOffsetField *m_offsetField = nullptr;
+    QLabel *m_offsetLabel = nullptr;
+    QLabel *m_originalLabel = nullptr;
+
+    QPointer<ExifBackgroundRunner> m_runner;
+    ExifBackgroundRunnerListener *m_nextListener = nullptr;
+    int m_pendingBatches = 0;
+};
