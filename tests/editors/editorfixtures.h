@@ -1,0 +1,87 @@
+#pragma once
+
+#include "catalogue/exiffield.h"
+#include "editors/exiffilesupdate.h"
+#include "editors/fieldeditor.h"
+#include "engine/exiffileinfo.h"
+
+#include <QList>
+#include <QSignalSpy>
+#include <QString>
+#include <QWidget>
+
+#include <memory>
+#include <optional>
+
+// Files and rows for the editor tests: files live in memory only, the row in a real widget.
+namespace EditorFixtures {
+
+inline ExifFieldPtr makeField(const QString &key, FieldDataRepresentation representation,
+                              std::optional<QHash<QString, QString>> values = std::nullopt,
+                              FieldDataType type = FieldDataType::String)
+{
+    auto field = std::make_shared<ExifField>();
+    field->setXmlName(key);
+    field->setTitle(key.section(u':', 1));
+    field->setDataRepresentation(representation);
+    field->setDataType(type);
+    field->setValues(std::move(values));
+    field->setEnabled(true);
+    return field;
+}
+
+// One file per value; a null value is a file without the tag. Other tags of the file are kept in
+// extra so a test can see they are left alone.
+inline QList<ExifFileInfoPtr> makeFiles(const QString &key, const QList<QString> &values,
+                                        const QString &suffix = u".jpg"_qs)
+{
+    QList<ExifFileInfoPtr> files;
+    for (int i = 0; i < values.size(); ++i) {
+        auto file = std::make_shared<ExifFileInfo>(u"/photos/IMG_%1"_qs.arg(i) + suffix);
+        TagDictionary data{{u"IFD0:Make"_qs, u"Canon"_qs}};
+        if (!values.at(i).isNull())
+            data.insert(key, values.at(i));
+        file->setReadData(data);
+        files.append(file);
+    }
+    return files;
+}
+
+inline QStringList currentValues(const QList<ExifFileInfoPtr> &files, const QString &key)
+{
+    QStringList values;
+    for (const auto &file : files)
+        values.append(file->hasExifValue(key) ? file->exifValue(key) : u"<absent>"_qs);
+    return values;
+}
+
+// A parent wide enough for the row; the editor is built into it at top 0.
+template <typename Editor> struct Row
+{
+    explicit Row(ExifFieldPtr field, bool showRemoveButton = false)
+        : editor(std::move(field))
+    {
+        parent.resize(600, 200);
+        editor.setMaxLabelWidth(120);
+        editor.setBoldFontOnChange(true);
+        editor.setShowRemoveButton(showRemoveButton);
+        editor.setTheme(u"ApertureTheme"_qs);
+        bottom = editor.createEditor(&parent, 0);
+        parent.show();
+    }
+    QWidget parent;
+    Editor editor;
+    int bottom = 0;
+};
+
+inline QSignalSpy updateSpy()
+{
+    return QSignalSpy(&ExifFilesUpdateCenter::instance(), &ExifFilesUpdateCenter::exifFilesUpdated);
+}
+
+inline ExifFilesUpdate updateAt(const QSignalSpy &spy, qsizetype index)
+{
+    return spy.at(index).at(0).value<ExifFilesUpdate>();
+}
+
+} // namespace EditorFixtures
