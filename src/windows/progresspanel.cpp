@@ -132,19 +132,20 @@ QPropertyAnimation *ProgressPanel::startFade(qreal endOpacity, int durationMs)
     QEasingCurve curve;
     curve.setCustomType(&ProgressPanel::valueForProgress);
     animation->setEasingCurve(curve);
+    const bool fadesOut = endOpacity == 0.0;
     connect(animation, &QPropertyAnimation::finished, this,
-            [this, animation] { handleAnimationFinished(animation); });
+            [this, animation, fadesOut] { handleAnimationFinished(animation, fadesOut); });
     m_anim = animation;
     animation->start(QAbstractAnimation::DeleteWhenStopped);
     return animation;
 }
 
-void ProgressPanel::handleAnimationFinished(QPropertyAnimation *animation)
+void ProgressPanel::handleAnimationFinished(QPropertyAnimation *animation, bool fadesOut)
 {
     if (animation != m_anim)
         return;
     // The curve stops short of the end; a panel faded out is meant to be gone.
-    if (m_state == FadeState::FadingOut)
+    if (fadesOut)
         m_opacity->setOpacity(0);
     m_state = FadeState::AtRest;
     m_anim = nullptr;

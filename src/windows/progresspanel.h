@@ -80,7 +80,7 @@ private:
     class Spinner;
 
     QPropertyAnimation *startFade(qreal endOpacity, int durationMs);
-    void handleAnimationFinished(QPropertyAnimation *animation);
+    void handleAnimationFinished(QPropertyAnimation *animation, bool fadesOut);
     void followParent();
     void layoutChildren();
 
