@@ -169,9 +169,7 @@ bool FileReplacement::prepare()
     m_errorString.clear();
 
     const QString absolute = QFileInfo(m_path).absoluteFilePath();
-    struct stat st
-    {
-    };
+    struct stat st = {};
     if (::lstat(encoded(absolute).constData(), &st) != 0) {
         m_errorString =
             translated("The file “%1” cannot be found (%2).").arg(m_path, errorText(errno));
@@ -273,9 +271,7 @@ bool FileReplacement::fail(ErrorMessages &errors, const QString &reason, int err
 bool FileReplacement::giveOriginalIdentity(int fd, ErrorMessages &errors)
 {
     const FileSnapshot &original = *m_originalState;
-    struct stat current
-    {
-    };
+    struct stat current = {};
     if (::fstat(fd, &current) != 0)
         return fail(errors, translated("the new file cannot be examined"), errno);
     if ((current.st_uid != original.owner || current.st_gid != original.group) &&
@@ -341,17 +337,13 @@ bool FileReplacement::commit(ErrorMessages &errors)
         ~FdCloser() { ::close(fd); }
     } closer{fd};
 
-    struct stat written
-    {
-    };
+    struct stat written = {};
     if (::fstat(fd, &written) != 0)
         return fail(errors, translated("the new file cannot be examined"), errno);
     if (!S_ISREG(written.st_mode) || written.st_size == 0)
         return fail(errors, translated("the new file written by ExifTool is empty"), 0);
 
-    struct statx original
-    {
-    };
+    struct statx original = {};
     const QByteArray target = encoded(m_targetPath);
     if (::statx(AT_FDCWD, target.constData(), 0, STATX_BASIC_STATS | STATX_BTIME, &original) != 0) {
         return fail(errors, translated("the original file cannot be found any more"), errno);

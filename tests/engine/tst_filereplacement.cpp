@@ -167,17 +167,17 @@ void TestFileReplacement::keepsModeOwnerAndGroup()
     const gid_t group = otherOwner ? 5432 : ::getegid();
     QCOMPARE(::chown(name.constData(), owner, group), 0);
     QCOMPARE(::chmod(name.constData(), mode), 0);
+    struct stat st = {};
+    QCOMPARE(::stat(name.constData(), &st), 0);
+    const ino_t oldInode = st.st_ino;
 
     const Save save = saveTitle(path, QStringLiteral("new"));
     QVERIFY(save.committed);
-    struct stat st
-    {
-    };
     QCOMPARE(::stat(name.constData(), &st), 0);
+    QVERIFY(st.st_ino != oldInode);
     QCOMPARE(uint(st.st_mode & 07777), mode);
     QCOMPARE(st.st_uid, owner);
     QCOMPARE(st.st_gid, group);
-    QCOMPARE(title(path), QByteArray("new"));
 }
 
 void TestFileReplacement::keepsExtendedAttributes_data()
@@ -218,23 +218,19 @@ void TestFileReplacement::keepsExtendedAttributes()
             QStringLiteral("This file system or user refuses %1: %2")
                 .arg(QString::fromLatin1(attribute), QString::fromLocal8Bit(strerror(errno)))));
     }
-    struct stat before
-    {
-    };
+    struct stat before = {};
     QCOMPARE(::stat(name.constData(), &before), 0);
 
     const Save save = saveTitle(path, QStringLiteral("new"));
     QVERIFY(save.committed);
-    QCOMPARE(title(path), QByteArray("new"));
     QByteArray kept(4096, '\0');
     const ssize_t size = ::getxattr(name.constData(), attribute.constData(), kept.data(), 4096);
     QVERIFY2(size >= 0, strerror(errno));
     kept.resize(size);
     QCOMPARE(kept, value);
-    struct stat after
-    {
-    };
+    struct stat after = {};
     QCOMPARE(::stat(name.constData(), &after), 0);
+    QVERIFY(after.st_ino != before.st_ino);
     QCOMPARE(after.st_mode, before.st_mode);
 }
 
@@ -413,9 +409,7 @@ void TestFileReplacement::modificationTimeToTheNanosecond()
     QCOMPARE(replacement.originalState()->modified.tv_sec, before[1].tv_sec);
     QCOMPARE(replacement.originalState()->modified.tv_nsec, before[1].tv_nsec);
 
-    struct stat st
-    {
-    };
+    struct stat st = {};
     QCOMPARE(::stat(name.constData(), &st), 0);
     const timespec accessed = st.st_atim;
     const timespec wanted{1234567890, 123456789};
