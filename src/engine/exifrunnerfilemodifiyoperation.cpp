@@ -12,6 +12,7 @@
 #include "values/usersettings.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
 #include <QMutexLocker>
 
@@ -48,6 +49,16 @@ TagDictionary recordOf(const QHash<QString, TagDictionary> &records, const QStri
             return record;
     }
     return {};
+}
+
+// ExifTool reads a JPEG cut short without complaint (the header is all it needs), so a partial
+// file is told by its missing end marker.
+bool endsWithJpegEnd(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || file.size() < 2 || !file.seek(file.size() - 2))
+        return false;
+    return file.read(2) == QByteArrayLiteral("\xff\xd9");
 }
 
 timespec toTimespec(const QDateTime &date)
@@ -191,6 +202,11 @@ std::optional<TagDictionary> ExifRunnerFileModifiyOperation::checkNewFile(ErrorM
     }
     if (info.size() == 0) {
         errors.addError(tr("ExifTool wrote an empty file; the original was kept."));
+        return std::nullopt;
+    }
+
+    if (endsWithJpegEnd(m_fileName) && !endsWithJpegEnd(newPath)) {
+        errors.addError(tr("ExifTool wrote an incomplete file; the original was kept."));
         return std::nullopt;
     }
 
