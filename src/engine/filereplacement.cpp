@@ -171,8 +171,7 @@ bool FileReplacement::prepare()
     const QString absolute = QFileInfo(m_path).absoluteFilePath();
     struct stat st = {};
     if (::lstat(encoded(absolute).constData(), &st) != 0) {
-        m_errorString =
-            translated("The file “%1” cannot be found (%2).").arg(m_path, errorText(errno));
+        m_errorString = translated("it cannot be found (%1)").arg(errorText(errno));
         return false;
     }
     m_targetPath = absolute;
@@ -180,8 +179,8 @@ bool FileReplacement::prepare()
         // The link stays as it is; what it leads to gets the new content.
         char *resolved = ::realpath(encoded(absolute).constData(), nullptr);
         if (!resolved) {
-            m_errorString = translated("The symbolic link “%1” leads to no file (%2).")
-                                .arg(m_path, errorText(errno));
+            m_errorString =
+                translated("the symbolic link leads to no file (%1)").arg(errorText(errno));
             return false;
         }
         m_targetPath = QFile::decodeName(resolved);
@@ -215,9 +214,8 @@ bool FileReplacement::makeScratchDirectory(const QString &folder)
         return true;
     // The new file must be renamed into this folder, so a folder we cannot write to cannot be
     // saved into by any other road either.
-    m_errorString = translated("The file “%1” cannot be saved: its folder “%2” does not accept "
-                               "new files (%3).")
-                        .arg(m_path, folder, errorText(error));
+    m_errorString =
+        translated("its folder “%1” does not accept new files (%2)").arg(folder, errorText(error));
     return false;
 }
 
@@ -246,9 +244,8 @@ bool FileReplacement::makeOutputAlias()
         m_exifToolOutputPath = link % u'/' % QFileInfo(m_temporaryPath).fileName();
         return true;
     }
-    m_errorString = translated("The file “%1” cannot be saved: no temporary folder could be made "
-                               "for ExifTool (%2).")
-                        .arg(m_path, errorText(error));
+    m_errorString =
+        translated("no temporary folder could be made for ExifTool (%1)").arg(errorText(error));
     return false;
 }
 

@@ -36,7 +36,7 @@ public:
 
     // Makes the scratch folder (removing ones left by crashed runs in the same folder) and
     // chooses the temporary name "exiftool_<counter>_<random>". False when no scratch place
-    // could be made; errorString() says why.
+    // could be made; errorString() says why, as a phrase to follow "could not be saved: ".
     bool prepare();
 
     // The file that gets the new content: the path itself, or a symbolic link's final target.
