@@ -1,0 +1,67 @@
+#pragma once
+
+#include "editors/dateeditorpopupcontroller.h"
+#include "editors/fieldeditor.h"
+
+#include "controls/attachedwindow.h"
+#include "values/datecomponents.h"
+
+#include <QLabel>
+#include <QPointer>
+
+class ExifBackgroundRunner;
+struct ExifFilesUpdate;
+
+// The row of a date field over the selected files: the common value as a label; a click opens
+// the date panel in a popup beside it. The popup is built on the first click only, so the form's
+// many date rows stay cheap to create and to point at other files.
+class DateEditor : public FieldEditor
+{
+    Q_OBJECT
+
+public:
+    explicit DateEditor(ExifFieldPtr field, QObject *parent = nullptr);
+    ~DateEditor() override;
+
+    DateEditorType dateEditorType() const { return m_dateEditorType; }
+    void setDateEditorType(DateEditorType type) { m_dateEditorType = type; }
+    // Not owned; handed to the popup's panel, which then also writes the files to disk.
+    void setBackgroundRunner(ExifBackgroundRunner *runner);
+
+    QLabel *currentDateLabel() const { return m_currentDateLabel; }
+    DateEditorPopupController *popupController() const { return m_popupController; }
+    AttachedWindow *popupWindow() const { return m_popupWindow; }
+
+    // Label text of a stored value: a pending shift reads "+1y 2m 3d", a date in the long style.
+    QString formatDateStringForLabel(const QString &value) const;
+    void refreshView();
+
+    void clearEditor() override;
+    void setExifFiles(const QList<ExifFileInfoPtr> &files) override;
+    void updateExifFileValue(const ExifFileInfoPtr &file) override;
+    bool isModified() const override;
+    void setExifConfiguration(const ExifConfiguration *configuration) override;
+    bool copyToConfiguration(ExifConfiguration &configuration) override;
+    int createEditorContent(QWidget *parent, QRect frame) override;
+    int showEditor(int top) override;
+    int hideEditor(int top) override;
+    void focusControl() override;
+
+    void controlMouseDown();
+    void showPopupController(bool show);
+    void destroyPopupWindow();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void createPopupController();
+    void receiveFilesUpdateNotification(const ExifFilesUpdate &update);
+
+    bool m_mouseDown = false;
+    QPointer<QLabel> m_currentDateLabel;
+    QPointer<AttachedWindow> m_popupWindow;
+    QPointer<DateEditorPopupController> m_popupController;
+    DateEditorType m_dateEditorType = DateEditorTypeDateTime;
+    QPointer<ExifBackgroundRunner> m_runner;
+};
