@@ -59,5 +59,45 @@
         <source>GPS_LATITUDE_FORMAT_DESC</source>
         <translation>The latitude is not valid. Type it as degrees, minutes and seconds (33°52'7.68"S), degrees and decimal minutes (33°52.128'S) or decimal degrees (33.8688 or +33.8688 for north, -33.8688 for south).</translation>
     </message>
+    <message>
+        <source>Empty Date Value:</source>
+        <translation>Empty Date Value:</translation>
+    </message>
+    <message>
+        <source>New Time:</source>
+        <translation>New Time:</translation>
+    </message>
+    <message>
+        <source>Time Offset:</source>
+        <translation>Time Offset:</translation>
+    </message>
+    <message>
+        <source>Original Time:</source>
+        <translation>Original Time:</translation>
+    </message>
+    <message>
+        <source>Click to change the time</source>
+        <translation>Click to change the time</translation>
+    </message>
+    <message>
+        <source>Click to change the date</source>
+        <translation>Click to change the date</translation>
+    </message>
+    <message>
+        <source>Multiple values. Click to edit</source>
+        <translation>Multiple values. Click to edit</translation>
+    </message>
+    <message>
+        <source>N/A</source>
+        <translation>N/A</translation>
+    </message>
+    <message>
+        <source>Date/Time Editor</source>
+        <translation>Date/Time Editor</translation>
+    </message>
+    <message>
+        <source>Date/Time Configuration</source>
+        <translation>Date/Time Configuration</translation>
+    </message>
 </context>
 </TS>

@@ -104,10 +104,7 @@ void DateEditorView::buildRows()
     grid->addWidget(m_emptyTitle, 0, 0, Qt::AlignRight);
     grid->addWidget(m_emptyBox, 0, 1);
 
-    m_newTitle =
-        new QLabel(localized(m_type == DateEditorTypeDateTime ? QStringLiteral("New Time:")
-                                                              : QStringLiteral("New Date:")),
-                   this);
+    m_newTitle = new QLabel(localized(QStringLiteral("New Time:")), this);
     m_datePicker = new QDateTimeEdit(this);
     m_datePicker->setTimeSpec(Qt::UTC);
     m_datePicker->setCalendarPopup(true);
