@@ -101,11 +101,12 @@ void StringsEditor::setExifFiles(const QList<ExifFileInfoPtr> &files)
 void StringsEditor::controlTextDidChange()
 {
     m_textChanged = true;
+    // Checked first: an unchecked row would put the originals back instead of the typed list.
+    setRemoveButtonChecked(true);
     const QString text = m_editor->text();
     copyToExifFiles(exifFiles());
     updateModifiedLabel();
     sendChangeNotification(text.isEmpty() ? std::nullopt : std::optional<QString>(text));
-    setRemoveButtonChecked(true);
 }
 
 void StringsEditor::updateExifFileValue(const ExifFileInfoPtr &file)
