@@ -8,35 +8,23 @@
 
 namespace {
 
-class PaintCounter : public QObject
+// Counts the list's paints, and notes the count when told of a preview after the cell was.
+class PaintWatcher : public QObject, public QuickLookImageCacheListener
 {
 public:
-    int count = 0;
+    void imageLoaded(const QImage &, const QString &, QuickLookImageCache *) override
+    {
+        paintsWhenTold = paints;
+    }
+    int paints = 0;
+    int paintsWhenTold = -1;
 
 protected:
     bool eventFilter(QObject *, QEvent *event) override
     {
-        if (event->type() == QEvent::Paint)
-            ++count;
+        paints += event->type() == QEvent::Paint ? 1 : 0;
         return false;
     }
-};
-
-class PaintsWhenTold : public QuickLookImageCacheListener
-{
-public:
-    explicit PaintsWhenTold(const PaintCounter &paints)
-        : m_paints(paints)
-    {
-    }
-    void imageLoaded(const QImage &, const QString &, QuickLookImageCache *) override
-    {
-        paintsWhenTold = m_paints.count;
-    }
-    int paintsWhenTold = -1;
-
-private:
-    const PaintCounter &m_paints;
 };
 
 bool hasColourIn(const QImage &image, const QRect &area, const std::function<bool(QColor)> &test)
@@ -124,19 +112,18 @@ void TestFileInfoCell::rowShowsThePreviewOnceItIsMade()
     QListView view;
     view.setModel(&model);
     view.setItemDelegate(new FileInfoCell(&cache, &view));
-    PaintCounter paints;
-    view.viewport()->installEventFilter(&paints);
     // Told after the cell: by then the cell has asked for the repaint that shows the preview.
-    PaintsWhenTold later(paints);
-    cache.addListener(&later);
+    PaintWatcher watcher;
+    view.viewport()->installEventFilter(&watcher);
+    cache.addListener(&watcher);
     view.resize(420, 130);
     view.show();
     QVERIFY(QTest::qWaitForWindowExposed(&view));
 
     const QRect row = view.visualRect(model.index(0, 0));
     QCOMPARE(row.height(), FileInfoCell::rowHeight);
-    QTRY_VERIFY_WITH_TIMEOUT(later.paintsWhenTold >= 0, 30000);
-    QTRY_VERIFY(paints.count > later.paintsWhenTold);
+    QTRY_VERIFY_WITH_TIMEOUT(watcher.paintsWhenTold >= 0, 30000);
+    QTRY_VERIFY(watcher.paints > watcher.paintsWhenTold);
     const QRect imageFrame =
         FileInfoCell::frames(row, 16).image.toRect().adjusted(20, 20, -20, -20);
     QVERIFY(hasColourIn(view.viewport()->grab().toImage(), imageFrame, isRed));

@@ -4,10 +4,10 @@
 
 #include "../support/fixtures.h"
 
-#include <QBuffer>
 #include <QDataStream>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFileInfo>
 #include <QImageReader>
 #include <QPainter>
 #include <QTemporaryDir>
@@ -19,7 +19,7 @@
 
 namespace {
 
-constexpr int previewTimeoutMs = 30000;
+constexpr int timeoutMs = 30000;
 
 class RecordingListener : public QuickLookImageCacheListener
 {
@@ -30,21 +30,17 @@ public:
         QImage image;
         bool isOnMainThread = false;
     };
-
     void imageLoaded(const QImage &image, const QString &path, QuickLookImageCache *) override
     {
-        calls.append(
-            {path, image, QThread::currentThread() == QCoreApplication::instance()->thread()});
+        calls.append({path, image, QThread::currentThread() == qApp->thread()});
         if (onCall)
             onCall();
     }
-
     int count(const QString &path) const
     {
         return int(std::count_if(calls.cbegin(), calls.cend(),
                                  [&path](const Call &call) { return call.path == path; }));
     }
-
     QList<Call> calls;
     std::function<void()> onCall;
 };
@@ -54,54 +50,71 @@ QImage halves(int width, int height)
 {
     QImage image(width, height, QImage::Format_RGB32);
     image.fill(Qt::blue);
-    QPainter painter(&image);
-    painter.fillRect(0, 0, width / 2, height, Qt::red);
+    QPainter(&image).fillRect(0, 0, width / 2, height, Qt::red);
     return image;
 }
 
 bool isNear(QColor actual, QColor expected)
 {
-    return qAbs(actual.red() - expected.red()) < 60 &&
-           qAbs(actual.green() - expected.green()) < 60 &&
-           qAbs(actual.blue() - expected.blue()) < 60;
+    return qAbs(actual.red() - expected.red()) + qAbs(actual.green() - expected.green()) +
+               qAbs(actual.blue() - expected.blue()) <
+           120;
 }
 
-// The smallest Photoshop file: one grey channel, no resources. Qt has no reader for it.
+bool writeFile(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+}
+
+// The smallest Photoshop file: 4x3, one grey channel, no resources. Qt has no reader for it.
 bool writePsd(const QString &path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    QDataStream out(&file);
-    const quint32 width = 4, height = 3;
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
     out.writeRawData("8BPS", 4);
-    out << quint16(1) << quint32(0) << quint16(0) << quint16(1) << height << width << quint16(8)
-        << quint16(1) << quint32(0) << quint32(0) << quint32(0) << quint16(0);
-    for (quint32 i = 0; i < width * height; ++i)
-        out << quint8(128);
-    return out.status() == QDataStream::Ok;
+    out << quint16(1) << quint32(0) << quint16(0) << quint16(1) << quint32(3) << quint32(4)
+        << quint16(8) << quint16(1) << quint32(0) << quint32(0) << quint32(0) << quint16(0);
+    return writeFile(path, bytes + QByteArray(12, char(128)));
 }
 
-QString writeFile(const QString &path, const QByteArray &bytes)
+bool runExifTool(const QStringList &arguments)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        return QStringLiteral("could not write ") + path;
-    return {};
-}
-
-// A Photoshop file carrying `thumbnail` as its embedded preview.
-QString makePsdWithThumbnail(const QString &path, const QString &thumbnail, int orientation)
-{
-    if (!writePsd(path))
-        return QStringLiteral("could not write ") + path;
-    QStringList arguments{QStringLiteral("-overwrite_original"),
-                          QStringLiteral("-PhotoshopThumbnail<=") + thumbnail};
-    if (orientation != 0)
-        arguments << QStringLiteral("-Orientation#=%1").arg(orientation);
-    arguments << QStringLiteral("--") << path;
     const Fixtures::ToolRun run = Fixtures::runExifTool(arguments);
-    return run.ok() ? QString() : QString::fromUtf8(run.err);
+    if (!run.ok())
+        qWarning("%s", run.err.constData());
+    return run.ok();
+}
+
+// Photoshop files carry the halves picture as their preview; ExifTool writes one only into a
+// file with the Photoshop suffix, so it is renamed afterwards.
+bool makeFixture(const QString &file, const QString &kind, const QString &halvesJpeg)
+{
+    const QByteArray format = QFileInfo(file).suffix().toLower().toLatin1();
+    const QString psd = file + QStringLiteral(".psd");
+    const QString overwrite = QStringLiteral("-overwrite_original");
+    if (kind == u"qt")
+        return halves(60, 40).save(file, format.constData(), 95);
+    if (kind == u"jpg6")
+        return halves(60, 40).save(file, "jpg", 95) &&
+               runExifTool({overwrite, QStringLiteral("-Orientation#=6"), file});
+    if (kind == u"gif") // Qt writes no GIF: this is halves at 4x2
+        return writeFile(file,
+                         QByteArray::fromHex("47494638396104000200f00000ff00000000ff21f904"
+                                             "00000000002c000000000400020000020404128605003b"));
+    if (kind.startsWith(u"psd"))
+        return writePsd(psd) &&
+               runExifTool({overwrite, QStringLiteral("-PhotoshopThumbnail<=") + halvesJpeg,
+                            QStringLiteral("-Orientation#=%1").arg(kind == u"psd6" ? 6 : 1),
+                            psd}) &&
+               QFile::rename(psd, file);
+    if (kind == u"barepsd")
+        return writePsd(file);
+    if (kind == u"text")
+        return writeFile(file, "hello\n");
+    if (kind == u"empty")
+        return writeFile(file, {});
+    return kind == u"missing";
 }
 
 } // namespace
@@ -112,21 +125,14 @@ class TestQuickLookImageCache : public QObject
 
 private Q_SLOTS:
     void initTestCase();
-    void previewOfEachReadableFormat_data();
-    void previewOfEachReadableFormat();
+    void previewOfEachKindOfFile_data();
+    void previewOfEachKindOfFile();
     void bigJpegIsReadAtReducedSize();
-    void orientationTurnsThePreview_data();
-    void orientationTurnsThePreview();
     void orientationsMatchQtReading_data();
     void orientationsMatchQtReading();
-    void embeddedPreviewOfFilesQtCannotRead_data();
-    void embeddedPreviewOfFilesQtCannotRead();
-    void filesWithoutPreviewGetPlaceholder_data();
-    void filesWithoutPreviewGetPlaceholder();
     void eachFileIsMadeOnce();
     void listenerExceptionIsLoggedAndOthersAreTold_data();
     void listenerExceptionIsLoggedAndOthersAreTold();
-    void destroyedListenerIsNoLongerTold();
     void removedPreviewsAreMadeAgain();
     void memoryBudgetDropsLeastRecentlyUsed();
     void manyRequestsNeverBlockAndNewestComeFirst();
@@ -139,98 +145,98 @@ private:
 
 void TestQuickLookImageCache::initTestCase()
 {
-    QVERIFY(m_dir.isValid());
-    QCOMPARE(halves(60, 40).save(path(QStringLiteral("halves.jpg")), "jpg", 95), true);
+    QVERIFY(makeFixture(path(QStringLiteral("halves.jpg")), QStringLiteral("qt"), {}));
 }
 
-void TestQuickLookImageCache::previewOfEachReadableFormat_data()
+void TestQuickLookImageCache::previewOfEachKindOfFile_data()
 {
     QTest::addColumn<QString>("name");
-    QTest::newRow("jpeg") << QStringLiteral("a.jpg");
-    QTest::newRow("png") << QStringLiteral("a.png");
-    QTest::newRow("tiff") << QStringLiteral("a.tif");
-    QTest::newRow("gif") << QStringLiteral("a.gif");
-    QTest::newRow("upper-case suffix") << QStringLiteral("B.JPG");
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<QSize>("box");
+    QTest::addColumn<QSize>("size"); // invalid: the placeholder, at the box's size
+    QTest::addColumn<bool>("isTurned");
+    const QSize box(100, 100);
+    const QSize natural(60, 40);
+    QTest::newRow("jpeg") << "a.jpg"
+                          << "qt" << box << natural << false;
+    QTest::newRow("upper-case suffix") << "B.JPG"
+                                       << "qt" << box << natural << false;
+    QTest::newRow("png") << "a.png"
+                         << "qt" << box << natural << false;
+    QTest::newRow("tiff") << "a.tif"
+                          << "qt" << box << natural << false;
+    QTest::newRow("gif") << "a.gif"
+                         << "gif" << box << QSize(4, 2) << false;
+    QTest::newRow("jpeg turned") << "t.jpg"
+                                 << "jpg6" << box << QSize(40, 60) << true;
+    QTest::newRow("turned into a wide box") << "w.jpg"
+                                            << "jpg6" << QSize(60, 30) << QSize(20, 30) << true;
+    QTest::newRow("photoshop preview") << "p.psd"
+                                       << "psd" << box << natural << false;
+    QTest::newRow("photoshop named TIFF") << "p.tif"
+                                          << "psd" << box << natural << false;
+    QTest::newRow("photoshop preview turned") << "t.psd"
+                                              << "psd6" << box << QSize(40, 60) << true;
+    QTest::newRow("text named JPEG") << "n.jpg"
+                                     << "text" << box << QSize() << false;
+    QTest::newRow("text named raw") << "n.nef"
+                                    << "text" << box << QSize() << false;
+    QTest::newRow("empty PNG") << "e.png"
+                               << "empty" << box << QSize() << false;
+    QTest::newRow("photoshop without preview") << "b.psd"
+                                               << "barepsd" << box << QSize() << false;
+    QTest::newRow("missing file") << "gone.jpg"
+                                  << "missing" << box << QSize() << false;
 }
 
-void TestQuickLookImageCache::previewOfEachReadableFormat()
+void TestQuickLookImageCache::previewOfEachKindOfFile()
 {
     QFETCH(QString, name);
+    QFETCH(QString, kind);
+    QFETCH(QSize, box);
+    QFETCH(QSize, size);
+    QFETCH(bool, isTurned);
     const QString file = path(name);
-    if (name.endsWith(QStringLiteral(".gif"))) {
-        // Qt writes no GIF: an 8x6 picture of one colour, #2060c0.
-        QCOMPARE(writeFile(file, QByteArray::fromHex("47494638396108000600f000002060c0000000"
-                                                     "21f90400000000002c000000000800060000"
-                                                     "0206848fa9cb7d05003b")),
-                 QString());
-    } else {
-        QCOMPARE(Fixtures::makeImage(file), QString());
-    }
-    const QSize expectedSize = name.endsWith(QStringLiteral(".gif")) ? QSize(8, 6) : QSize(64, 48);
+    QVERIFY(makeFixture(file, kind, path(QStringLiteral("halves.jpg"))));
 
     QuickLookImageCache cache;
     RecordingListener listener;
     cache.addListener(&listener);
-    QVERIFY(cache.loadImage(file, 100, 100).isNull());
-    QTRY_COMPARE_WITH_TIMEOUT(listener.calls.size(), 1, previewTimeoutMs);
-
+    QVERIFY(cache.loadImage(file, box.width(), box.height()).isNull());
+    QTRY_COMPARE_WITH_TIMEOUT(listener.calls.size(), 1, timeoutMs);
     const RecordingListener::Call call = listener.calls.first();
     QCOMPARE(call.path, file);
     QVERIFY(call.isOnMainThread);
-    QVERIFY(!QuickLookImageCache::isPlaceholder(call.image));
-    QCOMPARE(call.image.size(), expectedSize); // small pictures are not blown up
-    QVERIFY(isNear(call.image.pixelColor(2, 2), QColor(0x20, 0x60, 0xc0)) ||
-            isNear(call.image.pixelColor(2, 2), QColor(40, 90, 160)));
-    QCOMPARE(cache.loadImage(file, 100, 100).cacheKey(), call.image.cacheKey());
+    QCOMPARE(QuickLookImageCache::isPlaceholder(call.image), !size.isValid());
+    QCOMPARE(call.image.size(), size.isValid() ? size : box); // small pictures are not blown up
+    if (size.isValid()) {
+        // A quarter turn clockwise brings the left (red) half to the top.
+        const QImage &image = call.image;
+        const int w = image.width(), h = image.height();
+        QVERIFY(isNear(image.pixelColor(isTurned ? QPoint(w / 2, h / 4) : QPoint(w / 4, h / 2)),
+                       Qt::red));
+        QVERIFY(
+            isNear(image.pixelColor(isTurned ? QPoint(w / 2, 3 * h / 4) : QPoint(3 * w / 4, h / 2)),
+                   Qt::blue));
+    }
+    // Kept, also when there is no preview, so a list that repaints does not ask again.
+    QCOMPARE(cache.loadImage(file, box.width(), box.height()).cacheKey(), call.image.cacheKey());
+    QCOMPARE(cache.pendingCount(), 0);
 }
 
 void TestQuickLookImageCache::bigJpegIsReadAtReducedSize()
 {
     const QString file = path(QStringLiteral("big.jpg"));
     QVERIFY(halves(6000, 4000).save(file, "jpg", 90));
-
-    ThumbnailMaker maker;
     QElapsedTimer timer;
     timer.start();
-    const QImage preview = maker.make(file, QSize(100, 100));
+    const QImage preview = ThumbnailMaker().make(file, QSize(100, 100));
     const qint64 reducedMs = timer.restart();
-    const QImage full(file);
-    const qint64 fullMs = timer.elapsed();
-    qInfo("24-megapixel JPEG: preview in %lld ms, full decode in %lld ms", reducedMs, fullMs);
-
+    QVERIFY(!QImage(file).isNull());
+    qInfo("24-megapixel JPEG: preview in %lld ms, full decode in %lld ms", reducedMs,
+          timer.elapsed());
     QCOMPARE(preview.width(), 100);
-    QVERIFY2(preview.height() == 66 || preview.height() == 67,
-             qPrintable(QString::number(preview.height())));
-    QVERIFY(isNear(preview.pixelColor(10, 30), Qt::red));
-    QVERIFY(isNear(preview.pixelColor(90, 30), Qt::blue));
-}
-
-void TestQuickLookImageCache::orientationTurnsThePreview_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::newRow("jpeg read by Qt") << QStringLiteral("turned.jpg");
-    QTest::newRow("photoshop preview through ExifTool") << QStringLiteral("turned.psd");
-}
-
-void TestQuickLookImageCache::orientationTurnsThePreview()
-{
-    QFETCH(QString, name);
-    const QString file = path(name);
-    if (name.endsWith(QStringLiteral(".psd"))) {
-        QCOMPARE(makePsdWithThumbnail(file, path(QStringLiteral("halves.jpg")), 6), QString());
-    } else {
-        QVERIFY(QFile::copy(path(QStringLiteral("halves.jpg")), file));
-        const Fixtures::ToolRun run = Fixtures::runExifTool(
-            {QStringLiteral("-overwrite_original"), QStringLiteral("-Orientation#=6"), file});
-        QVERIFY2(run.ok(), run.err.constData());
-    }
-
-    // A box wider than high: the turned picture must still fit in it.
-    const QImage preview = ThumbnailMaker().make(file, QSize(60, 30));
-    QCOMPARE(preview.size(), QSize(20, 30));
-    // A quarter turn clockwise brings the left (red) half to the top.
-    QVERIFY(isNear(preview.pixelColor(10, 4), Qt::red));
-    QVERIFY(isNear(preview.pixelColor(10, 26), Qt::blue));
+    QVERIFY(preview.height() == 66 || preview.height() == 67);
 }
 
 void TestQuickLookImageCache::orientationsMatchQtReading_data()
@@ -251,80 +257,12 @@ void TestQuickLookImageCache::orientationsMatchQtReading()
         pixels.setPixel(i % 3, i / 3, colours[i]);
     const QString file = path(QStringLiteral("pixels%1.tif").arg(orientation));
     QVERIFY(pixels.save(file, "tif"));
-    const Fixtures::ToolRun run =
-        Fixtures::runExifTool({QStringLiteral("-overwrite_original"),
-                               QStringLiteral("-Orientation#=%1").arg(orientation), file});
-    QVERIFY2(run.ok(), run.err.constData());
-
+    QVERIFY(runExifTool({QStringLiteral("-overwrite_original"),
+                         QStringLiteral("-Orientation#=%1").arg(orientation), file}));
     QImageReader reader(file);
     reader.setAutoTransform(true);
-    const QImage expected = reader.read().convertToFormat(QImage::Format_RGB32);
     QCOMPARE(ThumbnailMaker::oriented(pixels, orientation).convertToFormat(QImage::Format_RGB32),
-             expected);
-}
-
-void TestQuickLookImageCache::embeddedPreviewOfFilesQtCannotRead_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::newRow("photoshop") << QStringLiteral("embedded.psd");
-    QTest::newRow("photoshop named as TIFF") << QStringLiteral("embedded-psd.tif");
-}
-
-void TestQuickLookImageCache::embeddedPreviewOfFilesQtCannotRead()
-{
-    QFETCH(QString, name);
-    const QString file = path(name);
-    // ExifTool writes into a Photoshop file only under its own suffix.
-    const QString written = file + QStringLiteral(".psd");
-    QCOMPARE(makePsdWithThumbnail(written, path(QStringLiteral("halves.jpg")), 0), QString());
-    QVERIFY(QFile::rename(written, file));
-    QVERIFY(QImageReader(file).read().isNull());
-
-    QuickLookImageCache cache;
-    RecordingListener listener;
-    cache.addListener(&listener);
-    QVERIFY(cache.loadImage(file, 100, 100).isNull());
-    QTRY_COMPARE_WITH_TIMEOUT(listener.calls.size(), 1, previewTimeoutMs);
-
-    const QImage preview = listener.calls.first().image;
-    QVERIFY(!QuickLookImageCache::isPlaceholder(preview));
-    QCOMPARE(preview.size(), QSize(60, 40));
-    QVERIFY(isNear(preview.pixelColor(10, 20), Qt::red));
-    QVERIFY(isNear(preview.pixelColor(50, 20), Qt::blue));
-}
-
-void TestQuickLookImageCache::filesWithoutPreviewGetPlaceholder_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QByteArray>("content");
-    QTest::newRow("text named as JPEG") << QStringLiteral("notes.jpg") << QByteArray("hello\n");
-    QTest::newRow("empty PNG") << QStringLiteral("empty.png") << QByteArray();
-    QTest::newRow("text named as raw") << QStringLiteral("notes.nef") << QByteArray("hello\n");
-    QTest::newRow("photoshop without preview") << QStringLiteral("bare.psd") << QByteArray();
-    QTest::newRow("missing file") << QStringLiteral("gone.jpg") << QByteArray();
-}
-
-void TestQuickLookImageCache::filesWithoutPreviewGetPlaceholder()
-{
-    QFETCH(QString, name);
-    QFETCH(QByteArray, content);
-    const QString file = path(name);
-    if (name == QStringLiteral("bare.psd"))
-        QVERIFY(writePsd(file));
-    else if (name != QStringLiteral("gone.jpg"))
-        QCOMPARE(writeFile(file, content), QString());
-
-    QuickLookImageCache cache;
-    RecordingListener listener;
-    cache.addListener(&listener);
-    QVERIFY(cache.loadImage(file, 135, 84).isNull());
-    QTRY_COMPARE_WITH_TIMEOUT(listener.calls.size(), 1, previewTimeoutMs);
-    QVERIFY(QuickLookImageCache::isPlaceholder(listener.calls.first().image));
-    QCOMPARE(listener.calls.first().image.size(), QSize(135, 84));
-
-    // Remembered, so a list that repaints does not ask again and again.
-    QVERIFY(QuickLookImageCache::isPlaceholder(cache.loadImage(file, 135, 84)));
-    QCOMPARE(cache.pendingCount(), 0);
+             reader.read().convertToFormat(QImage::Format_RGB32));
 }
 
 void TestQuickLookImageCache::eachFileIsMadeOnce()
@@ -338,11 +276,10 @@ void TestQuickLookImageCache::eachFileIsMadeOnce()
         QVERIFY(cache.loadImage(file, 100, 100).isNull());
         QCoreApplication::processEvents(); // later paints ask again while it is being made
     }
-    QTRY_COMPARE_WITH_TIMEOUT(listener.calls.size(), 1, previewTimeoutMs);
+    QTRY_COMPARE_WITH_TIMEOUT(listener.calls.size(), 1, timeoutMs);
     QTRY_COMPARE(cache.pendingCount(), 0);
     QTest::qWait(200);
     QCOMPARE(listener.calls.size(), 1);
-    QVERIFY(!cache.loadImage(file, 100, 100).isNull());
 }
 
 void TestQuickLookImageCache::listenerExceptionIsLoggedAndOthersAreTold_data()
@@ -358,6 +295,7 @@ void TestQuickLookImageCache::listenerExceptionIsLoggedAndOthersAreTold()
     QFETCH(bool, isTagsmithException);
     QFETCH(QString, message);
     QuickLookImageCache cache;
+    auto gone = std::make_unique<RecordingListener>();
     RecordingListener failing;
     RecordingListener next;
     failing.onCall = [isTagsmithException] {
@@ -365,66 +303,44 @@ void TestQuickLookImageCache::listenerExceptionIsLoggedAndOthersAreTold()
             throw TagsmithException(TagsmithException::Invalid, QStringLiteral("listener broke"));
         throw std::runtime_error("boom");
     };
-    cache.addListener(&failing);
-    cache.addListener(&next);
+    for (RecordingListener *listener : {gone.get(), &failing, &next})
+        cache.addListener(listener);
+    gone.reset(); // a listener that went away is skipped, not called
 
     QTest::ignoreMessage(QtWarningMsg, message.toUtf8().constData());
-    const QString file = path(QStringLiteral("halves.jpg"));
-    cache.loadImage(file, 100, 100);
-    QTRY_COMPARE_WITH_TIMEOUT(next.calls.size(), 1, previewTimeoutMs);
-    QCOMPARE(failing.calls.size(), 1);
-    QCOMPARE(next.calls.first().path, file);
-}
-
-void TestQuickLookImageCache::destroyedListenerIsNoLongerTold()
-{
-    QuickLookImageCache cache;
-    auto gone = std::make_unique<RecordingListener>();
-    RecordingListener staying;
-    cache.addListener(gone.get());
-    cache.addListener(&staying);
-    gone.reset();
-
     cache.loadImage(path(QStringLiteral("halves.jpg")), 100, 100);
-    QTRY_COMPARE_WITH_TIMEOUT(staying.calls.size(), 1, previewTimeoutMs);
+    QTRY_COMPARE_WITH_TIMEOUT(next.calls.size(), 1, timeoutMs);
+    QCOMPARE(failing.calls.size(), 1);
 }
 
 void TestQuickLookImageCache::removedPreviewsAreMadeAgain()
 {
-    const QString first = path(QStringLiteral("halves.jpg"));
-    const QString second = path(QStringLiteral("again.png"));
-    QCOMPARE(Fixtures::makeImage(second), QString());
+    const QString file = path(QStringLiteral("halves.jpg"));
     QuickLookImageCache cache;
     RecordingListener listener;
     cache.addListener(&listener);
-    cache.loadImage(first, 100, 100);
-    cache.loadImage(second, 100, 100);
-    QTRY_COMPARE_WITH_TIMEOUT(listener.calls.size(), 2, previewTimeoutMs);
-
-    cache.removeImage(first);
-    QVERIFY(cache.loadImage(first, 100, 100).isNull());
-    QVERIFY(!cache.loadImage(second, 100, 100).isNull());
-    QTRY_COMPARE_WITH_TIMEOUT(listener.count(first), 2, previewTimeoutMs);
-
+    cache.loadImage(file, 100, 100);
+    QTRY_COMPARE_WITH_TIMEOUT(listener.calls.size(), 1, timeoutMs);
+    cache.removeImage(file);
+    QVERIFY(cache.loadImage(file, 100, 100).isNull());
+    QTRY_COMPARE_WITH_TIMEOUT(listener.calls.size(), 2, timeoutMs);
     cache.removeAll();
-    QVERIFY(cache.loadImage(first, 100, 100).isNull());
-    QVERIFY(cache.loadImage(second, 100, 100).isNull());
-    QTRY_COMPARE_WITH_TIMEOUT(listener.count(second), 2, previewTimeoutMs);
-    QTRY_COMPARE_WITH_TIMEOUT(listener.count(first), 3, previewTimeoutMs);
+    QVERIFY(cache.loadImage(file, 100, 100).isNull());
+    QTRY_COMPARE_WITH_TIMEOUT(listener.calls.size(), 3, timeoutMs);
 }
 
 void TestQuickLookImageCache::memoryBudgetDropsLeastRecentlyUsed()
 {
-    // 64x48 previews take 12 KB each: a 30 KB budget holds two.
-    QuickLookImageCache cache(nullptr, 30 * 1024);
+    // 60x40 previews take 9 KB each: a 20 KB budget holds two.
+    QuickLookImageCache cache(nullptr, 20 * 1024);
     RecordingListener listener;
     cache.addListener(&listener);
     QStringList files;
     for (int i = 0; i < 3; ++i) {
         files << path(QStringLiteral("budget%1.png").arg(i));
-        QCOMPARE(Fixtures::makeImage(files.last()), QString());
+        QVERIFY(makeFixture(files.last(), QStringLiteral("qt"), {}));
         cache.loadImage(files.last(), 100, 100);
-        QTRY_COMPARE_WITH_TIMEOUT(listener.calls.size(), i + 1, previewTimeoutMs);
+        QTRY_COMPARE_WITH_TIMEOUT(listener.calls.size(), i + 1, timeoutMs);
         if (i == 1)
             QVERIFY(!cache.loadImage(files.first(), 100, 100).isNull()); // used again: kept
     }
@@ -438,12 +354,11 @@ void TestQuickLookImageCache::manyRequestsNeverBlockAndNewestComeFirst()
     const QString source = path(QStringLiteral("many.jpg"));
     QVERIFY(halves(1600, 1200).save(source, "jpg"));
     QStringList files;
-    for (int i = 0; i < 400; ++i) {
+    for (int i = 0; i <= 400; ++i) {
         files << path(QStringLiteral("many%1.jpg").arg(i));
         QVERIFY(QFile::copy(source, files.last()));
     }
-    const QString late = path(QStringLiteral("late.jpg"));
-    QVERIFY(QFile::copy(source, late));
+    const QString late = files.takeLast();
 
     QuickLookImageCache cache;
     RecordingListener listener;
@@ -452,21 +367,19 @@ void TestQuickLookImageCache::manyRequestsNeverBlockAndNewestComeFirst()
     timer.start();
     for (const QString &file : std::as_const(files))
         QVERIFY(cache.loadImage(file, 100, 100).isNull());
-    const qint64 requestMs = timer.elapsed();
-    qInfo("400 requests queued in %lld ms", requestMs);
-    QVERIFY2(requestMs < 1000, "queueing previews must not wait for them");
-    // Rows scrolled past long ago are dropped rather than made first.
-    QVERIFY(cache.pendingCount() < 300);
+    qInfo("400 requests queued in %lld ms", timer.elapsed());
+    QVERIFY2(timer.elapsed() < 1000, "queueing previews must not wait for them");
+    QVERIFY(cache.pendingCount() < 300); // rows scrolled past long ago are dropped
 
     QCoreApplication::processEvents(); // the next paint: a later batch
     cache.loadImage(late, 100, 100);
-    QTRY_VERIFY_WITH_TIMEOUT(listener.count(late) == 1, previewTimeoutMs);
+    QTRY_COMPARE_WITH_TIMEOUT(listener.count(late), 1, timeoutMs);
     int position = 0;
     while (listener.calls.at(position).path != late)
         ++position;
     // Served in order of asking, it would come after the 256 still waiting.
     qInfo("the latest request came out after %d others", position);
-    QVERIFY2(position < 100, qPrintable(QString::number(position)));
+    QVERIFY(position < 100);
 }
 
 QTEST_MAIN(TestQuickLookImageCache)
