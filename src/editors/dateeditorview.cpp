@@ -361,7 +361,6 @@ void DateEditorView::disableEnableButtonPressed()
     if (m_emptyBox->isChecked()) {
         hideEditorsForEmptyValue();
     } else {
-        const QString key = m_field->xmlName();
         for (const ExifFileInfoPtr &file : std::as_const(m_files)) {
             if (originalValue(file).isEmpty()) {
                 m_focus = FocusDate;
