@@ -39,7 +39,9 @@ private:
 class QuickLookImageCache : public QObject
 {
 public:
-    // A budget of memory for finished previews: the least recently shown leave first.
+    // Finished previews share this budget, the least recently shown leaving first. A row's
+    // preview takes about 45 KB (180 KB on a double-density screen), so 64 MB holds many
+    // screens of rows, while keeping every preview of 10,000 files would take 450 MB or more.
     static constexpr qint64 defaultMemoryBudget = 64 * 1024 * 1024;
 
     explicit QuickLookImageCache(QObject *parent = nullptr,
