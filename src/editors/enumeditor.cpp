@@ -182,16 +182,14 @@ void EnumEditor::updateExifFileValue(const ExifFileInfoPtr &file)
 
 bool EnumEditor::isModified() const
 {
-    const QString &key = field()->xmlName();
-    for (const ExifFileInfoPtr &file : exifFiles()) {
-        const QString current = file->exifValue(key);
-        const QString original = file->originalExifData().value(key);
-        if (current.isEmpty() && original.isEmpty())
-            continue;
-        if (current != original)
-            return true;
-    }
-    return false;
+    bool modified = false;
+    visitValues(
+        exifFiles(), true,
+        [&modified](const ExifFileInfoPtr &, const QString &current, const QString &original) {
+            modified = !(current.isEmpty() && original.isEmpty()) && current != original;
+            return !modified;
+        });
+    return modified;
 }
 
 void EnumEditor::clearEditor()

@@ -40,6 +40,39 @@ constexpr int RemoveButtonSize = 20;
 
 } // namespace
 
+namespace {
+
+const ExifFilesSnapshot *s_activeSnapshot = nullptr;
+
+} // namespace
+
+ExifFilesSnapshot::ExifFilesSnapshot(const QList<ExifFileInfoPtr> &files)
+    : m_files(files)
+    , m_previous(s_activeSnapshot)
+{
+    m_current.reserve(files.size());
+    m_original.reserve(files.size());
+    for (const ExifFileInfoPtr &file : files) {
+        m_current.append(file->exifData());
+        m_original.append(file->originalExifData());
+    }
+    s_activeSnapshot = this;
+}
+
+ExifFilesSnapshot::~ExifFilesSnapshot()
+{
+    s_activeSnapshot = m_previous;
+}
+
+const ExifFilesSnapshot *ExifFilesSnapshot::forFiles(const QList<ExifFileInfoPtr> &files)
+{
+    for (const ExifFilesSnapshot *s = s_activeSnapshot; s; s = s->m_previous) {
+        if (s->m_files.constData() == files.constData() && s->m_files.size() == files.size())
+            return s;
+    }
+    return nullptr;
+}
+
 FieldEditor::FieldEditor(ExifFieldPtr field, QObject *parent)
     : QObject(parent)
     , m_field(std::move(field))
@@ -78,25 +111,42 @@ void FieldEditor::setRemoveButtonChecked(bool on)
         m_removeButton->setChecked(on);
 }
 
+void FieldEditor::visitValues(const QList<ExifFileInfoPtr> &files, bool withOriginal,
+                              const ValueVisitor &visit) const
+{
+    const QString &key = m_field->xmlName();
+    if (const ExifFilesSnapshot *snapshot = ExifFilesSnapshot::forFiles(files)) {
+        for (qsizetype i = 0; i < files.size(); ++i) {
+            const QString original = withOriginal ? snapshot->original(i).value(key) : QString();
+            if (!visit(files.at(i), snapshot->current(i).value(key), original))
+                return;
+        }
+        return;
+    }
+    for (const ExifFileInfoPtr &file : files) {
+        const QString original = withOriginal ? file->originalExifData().value(key) : QString();
+        if (!visit(file, file->exifValue(key), original))
+            return;
+    }
+}
+
 QSet<QString> FieldEditor::gatherExifFilesValues(const QList<ExifFileInfoPtr> &files) const
 {
     QSet<QString> values;
-    const QString &key = m_field->xmlName();
-    for (const ExifFileInfoPtr &file : files) {
-        const QString value = file->exifValue(key);
+    visitValues(files, false, [&values](const ExifFileInfoPtr &, const QString &value, auto &) {
         values.insert(value.isNull() ? QString(u""_qs) : value);
-    }
+        return true;
+    });
     return values;
 }
 
 QSet<QString> FieldEditor::gatherExifFilesOriginalValues(const QList<ExifFileInfoPtr> &files) const
 {
     QSet<QString> values;
-    const QString &key = m_field->xmlName();
-    for (const ExifFileInfoPtr &file : files) {
-        const QString value = file->originalExifData().value(key);
+    visitValues(files, true, [&values](const ExifFileInfoPtr &, auto &, const QString &value) {
         values.insert(value.isNull() ? QString(u""_qs) : value);
-    }
+        return true;
+    });
     return values;
 }
 

@@ -12,10 +12,35 @@
 
 #include <optional>
 
+#include <functional>
+
 class ExifConfiguration;
 class QCheckBox;
 class QLabel;
 class QWidget;
+
+// Reads every file's two dictionaries once for a whole form: while one is alive, rows given
+// this very list look values up in it instead of locking each file for each row. Only for a
+// pass that reads (setExifFiles over all rows); nothing may write the files meanwhile.
+class ExifFilesSnapshot
+{
+public:
+    explicit ExifFilesSnapshot(const QList<ExifFileInfoPtr> &files);
+    ~ExifFilesSnapshot();
+    ExifFilesSnapshot(const ExifFilesSnapshot &) = delete;
+    ExifFilesSnapshot &operator=(const ExifFilesSnapshot &) = delete;
+
+    // The live snapshot of exactly this list (same shared data), or null.
+    static const ExifFilesSnapshot *forFiles(const QList<ExifFileInfoPtr> &files);
+    const TagDictionary &current(qsizetype index) const { return m_current.at(index); }
+    const TagDictionary &original(qsizetype index) const { return m_original.at(index); }
+
+private:
+    QList<ExifFileInfoPtr> m_files;
+    QList<TagDictionary> m_current;
+    QList<TagDictionary> m_original;
+    const ExifFilesSnapshot *m_previous = nullptr;
+};
 
 // One row of the form: a right-aligned label, the editing control of a subclass and, for presets,
 // a check box saying whether the preset touches the tag. The row edits one catalogue field over
@@ -93,6 +118,13 @@ protected:
     // Puts the file's original value back (or removes the tag): a preset row that is off.
     void restoreOriginalValue(const ExifFileInfoPtr &file) const;
     void setRemoveButtonChecked(bool on);
+    // Calls visit(file, current, original) for each file with the field's values (null when
+    // absent); original stays null unless asked for.
+    using ValueVisitor =
+        std::function<bool(const ExifFileInfoPtr &, const QString &, const QString &)>;
+    // Stops when visit returns false.
+    void visitValues(const QList<ExifFileInfoPtr> &files, bool withOriginal,
+                     const ValueVisitor &visit) const;
     static QString localized(const QString &key);
     static QString multipleValuesText();
 

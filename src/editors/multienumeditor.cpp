@@ -97,12 +97,13 @@ void MultiEnumEditor::setExifFiles(const QList<ExifFileInfoPtr> &files)
     m_prevValues.clear();
     QSet<QString> on;
     QSet<QString> off;
-    for (const ExifFileInfoPtr &file : files) {
-        const QSet<QString> held = valuesForExifFile(*file);
+    visitValues(files, false, [&](const ExifFileInfoPtr &file, const QString &current, auto &) {
+        const QSet<QString> held = splitComponents(current);
         m_prevValues.insert(file.get(), held);
         for (const QString &value : std::as_const(m_values))
             (held.contains(value) ? on : off).insert(value);
-    }
+        return true;
+    });
     const bool enabled = isFieldEnabledForFiles(files);
     for (int i = 0; i < m_editors.size(); ++i) {
         QCheckBox *box = m_editors.at(i);
@@ -171,11 +172,14 @@ void MultiEnumEditor::updateExifFileValue(const ExifFileInfoPtr &file)
 
 bool MultiEnumEditor::isModified() const
 {
-    for (const ExifFileInfoPtr &file : exifFiles()) {
-        if (valuesForExifFile(*file) != valuesForOriginalExifFile(*file))
-            return true;
-    }
-    return false;
+    bool modified = false;
+    visitValues(
+        exifFiles(), true,
+        [&modified](const ExifFileInfoPtr &, const QString &current, const QString &original) {
+            modified = current != original && splitComponents(current) != splitComponents(original);
+            return !modified;
+        });
+    return modified;
 }
 
 void MultiEnumEditor::clearEditor()

@@ -127,18 +127,18 @@ void StringsEditor::updateExifFileValue(const ExifFileInfoPtr &file)
 
 bool StringsEditor::isModified() const
 {
-    const QString &key = field()->xmlName();
-    for (const ExifFileInfoPtr &file : exifFiles()) {
-        const QString current = file->exifValue(key);
-        const QString original = file->originalExifData().value(key);
-        if (original.isEmpty()) {
-            if (!current.isEmpty())
+    bool modified = false;
+    visitValues(
+        exifFiles(), true,
+        [&modified](const ExifFileInfoPtr &, const QString &current, const QString &original) {
+            if (current == original)
                 return true;
-        } else if (splitStringsValue(current) != splitStringsValue(original)) {
-            return true;
-        }
-    }
-    return false;
+            modified = original.isEmpty()
+                           ? !current.isEmpty()
+                           : splitStringsValue(current) != splitStringsValue(original);
+            return !modified;
+        });
+    return modified;
 }
 
 void StringsEditor::setExifConfiguration(const ExifConfiguration *configuration)

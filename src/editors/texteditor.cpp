@@ -321,25 +321,27 @@ bool TextEditor::isModified() const
 {
     if (!hasExifFiles())
         return false;
-    const QString &key = field()->xmlName();
     const auto representation = field()->dataRepresentation();
     double tolerance = -1;
     if (representation == FieldDataRepresentation::Fraction)
         tolerance = 0.0001;
     else if (isCoordinate())
         tolerance = 1e-7;
-    for (const ExifFileInfoPtr &file : exifFiles()) {
-        const QString current = file->exifValue(key);
-        const QString original = file->originalExifData().value(key);
-        if (current.isEmpty() && original.isEmpty())
-            continue;
-        if (current.isEmpty() != original.isEmpty())
-            return true;
-        if (tolerance < 0 ? current != original
-                          : std::abs(leadingDouble(current) - leadingDouble(original)) > tolerance)
-            return true;
-    }
-    return false;
+    bool modified = false;
+    visitValues(exifFiles(), true,
+                [&](const ExifFileInfoPtr &, const QString &current, const QString &original) {
+                    if (current.isEmpty() && original.isEmpty())
+                        return true;
+                    if (current.isEmpty() != original.isEmpty())
+                        modified = true;
+                    else if (tolerance < 0)
+                        modified = current != original;
+                    else
+                        modified =
+                            std::abs(leadingDouble(current) - leadingDouble(original)) > tolerance;
+                    return !modified;
+                });
+    return modified;
 }
 
 void TextEditor::setExifConfiguration(const ExifConfiguration *configuration)
