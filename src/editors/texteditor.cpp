@@ -282,8 +282,10 @@ bool TextEditor::copyToExifFiles(const QList<ExifFileInfoPtr> &files)
     // The hemisphere goes first so its row shows it before the coordinate's receivers look.
     if (!m_pendingReference.isEmpty())
         sendChangeNotification(m_pendingReference, referenceKey());
-    const QString text = currentText();
-    sendChangeNotification(text.isEmpty() ? std::nullopt : std::optional<QString>(text));
+    // What was stored, not what was typed: "-33.8688" is stored as 33.8688 with its "S".
+    const QString stored =
+        files.isEmpty() ? QString() : files.constFirst()->exifValue(field()->xmlName());
+    sendChangeNotification(stored.isEmpty() ? std::nullopt : std::optional<QString>(stored));
     return changed;
 }
 

@@ -92,6 +92,7 @@ private Q_SLOTS:
         QCOMPARE(spy.size(), reference == u"old" ? 1 : 2);
         const ExifFilesUpdate last = updateAt(spy, spy.size() - 1);
         QCOMPARE(last.xmlName, key);
+        QCOMPARE(last.newValue, std::optional<QString>(stored));
         if (reference != u"old")
             QCOMPARE(updateAt(spy, 0).newValue, std::optional<QString>(reference));
     }
