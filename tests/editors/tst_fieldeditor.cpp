@@ -8,7 +8,6 @@
 #include "editors/readonlyeditor.h"
 #include "editors/stringseditor.h"
 #include "editors/texteditor.h"
-#include "values/tagsmithexception.h"
 
 #include <QCheckBox>
 #include <QElapsedTimer>
@@ -133,21 +132,6 @@ private Q_SLOTS:
         row.editor.sendChangeNotification(u"x"_qs);
         QCOMPARE(spy.size(), 0);
         QVERIFY(row.editor.editor()->isReadOnly());
-    }
-
-    void abstractOperationsThrow()
-    {
-        FieldEditor editor(makeField(Key, FieldDataRepresentation::None));
-        QWidget parent;
-        try {
-            editor.createEditor(&parent, 0);
-            QFAIL("no exception");
-        } catch (const TagsmithException &e) {
-            QCOMPARE(e.name(), u"NotImplemented"_qs);
-        }
-        QVERIFY_THROWS_EXCEPTION(TagsmithException, editor.setExifConfiguration(nullptr));
-        QVERIFY_THROWS_EXCEPTION(TagsmithException,
-                                 editor.copyToExifFiles(makeFiles(Key, {u"A"_qs})));
     }
 
     void rowGeometry_data()
