@@ -6,6 +6,7 @@
 #include "catalogue/stringtables.h"
 #include "controls/aperturetheme.h"
 #include "engine/exiftoolversion.h"
+#include "values/debugmode.h"
 #include "values/logging.h"
 
 #include <QAction>
@@ -99,6 +100,7 @@ bool TagsmithAppDelegate::hasArgument(const QString &argument, const QStringList
 void TagsmithAppDelegate::applicationWillFinishLaunching(const QStringList &arguments)
 {
     m_debug = hasArgument(QStringLiteral("-debug"), arguments);
+    DebugMode::setEnabled(m_debug);
     if (m_debug) {
         const ExifToolVersion tool = exifToolVersion();
         qCInfo(lcTagsmith).noquote()
