@@ -365,3 +365,16 @@ QString FieldEditor::multipleValuesText()
     static const QString text = localized(u"Multiple values"_qs);
     return text;
 }
+
+QStringList FieldEditor::valuesInTitleOrder(const ExifField &field)
+{
+    const auto &map = field.values();
+    if (!map)
+        return {};
+    QStringList values = map->keys();
+    std::sort(values.begin(), values.end(), [&map](const QString &a, const QString &b) {
+        const int order = map->value(a).compare(map->value(b), Qt::CaseInsensitive);
+        return order != 0 ? order < 0 : a < b;
+    });
+    return values;
+}

@@ -9,6 +9,7 @@
 #include <QRect>
 #include <QSet>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -127,6 +128,8 @@ protected:
                      const ValueVisitor &visit) const;
     static QString localized(const QString &key);
     static QString multipleValuesText();
+    // The raw values of an enumerated field, ordered as the user reads them: by their titles.
+    static QStringList valuesInTitleOrder(const ExifField &field);
 
 private:
     void layoutToParentWidth(int width);

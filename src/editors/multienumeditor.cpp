@@ -19,15 +19,8 @@ constexpr int BoxHeight = 20;
 
 MultiEnumEditor::MultiEnumEditor(ExifFieldPtr field, QObject *parent)
     : FieldEditor(std::move(field), parent)
+    , m_values(valuesInTitleOrder(*this->field()))
 {
-    const auto &map = this->field()->values();
-    if (!map)
-        return;
-    m_values = map->keys();
-    std::sort(m_values.begin(), m_values.end(), [&map](const QString &a, const QString &b) {
-        const int order = map->value(a).compare(map->value(b), Qt::CaseInsensitive);
-        return order != 0 ? order < 0 : a < b;
-    });
 }
 
 MultiEnumEditor::~MultiEnumEditor() = default;
