@@ -40,6 +40,7 @@ int DateEditor::createEditorContent(QWidget *parent, QRect frame)
     m_currentDateLabel->setFont(font);
     m_currentDateLabel->setCursor(Qt::PointingHandCursor);
     m_currentDateLabel->installEventFilter(this);
+    setContentControl(m_currentDateLabel, 2);
     m_currentDateLabel->show();
     stretchWithRow(m_currentDateLabel);
     connect(&ExifFilesUpdateCenter::instance(), &ExifFilesUpdateCenter::exifFilesUpdated, this,
@@ -47,21 +48,10 @@ int DateEditor::createEditorContent(QWidget *parent, QRect frame)
     return frame.height();
 }
 
-int DateEditor::showEditor(int top)
-{
-    const int next = FieldEditor::showEditor(top);
-    if (m_currentDateLabel) {
-        m_currentDateLabel->move(m_currentDateLabel->x(), top + 2);
-        m_currentDateLabel->show();
-    }
-    return next;
-}
 
 int DateEditor::hideEditor(int top)
 {
     FieldEditor::hideEditor(top);
-    if (m_currentDateLabel)
-        m_currentDateLabel->hide();
     showPopupController(false);
     return top;
 }

@@ -15,27 +15,12 @@ int DateOffsetEditor::createEditorContent(QWidget *parent, QRect frame)
                           size.height());
     connect(m_editor, &DateOffsetField::dateOffsetChanged, this,
             &DateOffsetEditor::controlDateOffsetDidChange);
+    setContentControl(m_editor);
     m_editor->show();
     return size.height();
 }
 
-int DateOffsetEditor::showEditor(int top)
-{
-    const int next = FieldEditor::showEditor(top);
-    if (m_editor) {
-        m_editor->move(m_editor->x(), top);
-        m_editor->show();
-    }
-    return next;
-}
 
-int DateOffsetEditor::hideEditor(int top)
-{
-    FieldEditor::hideEditor(top);
-    if (m_editor)
-        m_editor->hide();
-    return top;
-}
 
 void DateOffsetEditor::focusControl()
 {

@@ -24,8 +24,6 @@ public:
     bool copyToConfiguration(ExifConfiguration &configuration) override;
     void setEnabled(bool enabled) override;
     int createEditorContent(QWidget *parent, QRect frame) override;
-    int showEditor(int top) override;
-    int hideEditor(int top) override;
     void focusControl() override;
 
     void controlDateOffsetDidChange();

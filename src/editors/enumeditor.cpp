@@ -47,28 +47,13 @@ int EnumEditor::createEditorContent(QWidget *parent, QRect frame)
         connect(&ExifFilesUpdateCenter::instance(), &ExifFilesUpdateCenter::exifFilesUpdated, this,
                 &EnumEditor::receiveFilesUpdateNotification);
     }
+    setContentControl(m_popupButton);
     m_popupButton->show();
     stretchWithRow(m_popupButton);
     return 22;
 }
 
-int EnumEditor::showEditor(int top)
-{
-    const int next = FieldEditor::showEditor(top);
-    if (m_popupButton) {
-        m_popupButton->move(m_popupButton->x(), top);
-        m_popupButton->show();
-    }
-    return next;
-}
 
-int EnumEditor::hideEditor(int top)
-{
-    FieldEditor::hideEditor(top);
-    if (m_popupButton)
-        m_popupButton->hide();
-    return top;
-}
 
 bool EnumEditor::menuHasItemWithTag(int tag) const
 {

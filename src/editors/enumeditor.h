@@ -41,8 +41,6 @@ public:
     void setExifConfiguration(const ExifConfiguration *configuration) override;
     bool copyToConfiguration(ExifConfiguration &configuration) override;
     int createEditorContent(QWidget *parent, QRect frame) override;
-    int showEditor(int top) override;
-    int hideEditor(int top) override;
     void focusControl() override;
     void setEnabled(bool enabled) override;
 

@@ -219,6 +219,10 @@ int FieldEditor::showEditor(int top)
         m_removeButton->move(m_removeButton->x(), top);
         m_removeButton->show();
     }
+    if (m_content) {
+        m_content->move(m_content->x(), top + m_contentOffset);
+        m_content->show();
+    }
     return top + MinimumRowHeight;
 }
 
@@ -228,7 +232,15 @@ int FieldEditor::hideEditor(int top)
         m_label->hide();
     if (m_removeButton)
         m_removeButton->hide();
+    if (m_content)
+        m_content->hide();
     return top;
+}
+
+void FieldEditor::setContentControl(QWidget *control, int topOffset)
+{
+    m_content = control;
+    m_contentOffset = topOffset;
 }
 
 int FieldEditor::createEditorContent(QWidget *, QRect)

@@ -114,6 +114,10 @@ protected:
 
     // Keeps a control's right edge at a fixed distance from the parent's right edge.
     void stretchWithRow(QWidget *widget);
+    // The row's editing control, moved, shown and hidden with the label; topOffset is its
+    // distance below the row's top.
+    void setContentControl(QWidget *control, int topOffset = 0);
+    QWidget *contentControl() const { return m_content; }
     // Common rule of text-like rows: maker-note tags of Nikon only for a selection with a NEF.
     bool isFieldEnabledForFiles(const QList<ExifFileInfoPtr> &files) const;
     // Puts the file's original value back (or removes the tag): a preset row that is off.
@@ -144,6 +148,8 @@ private:
     QList<ExifFileInfoPtr> m_exifFiles;
     QString m_theme;
     QPointer<QWidget> m_parent;
+    QPointer<QWidget> m_content;
+    int m_contentOffset = 0;
     // Widgets with the distance of their right edge from the parent's right edge.
     QList<QPair<QPointer<QWidget>, int>> m_stretching;
     bool m_labelIsBold = false;

@@ -60,6 +60,7 @@ int MultiEnumEditor::createEditorContent(QWidget *parent, QRect frame)
         layout->addWidget(box, i / Columns, i % Columns);
         m_editors.append(box);
     }
+    setContentControl(m_container);
     m_container->show();
     stretchWithRow(m_container);
     return height;
@@ -68,20 +69,9 @@ int MultiEnumEditor::createEditorContent(QWidget *parent, QRect frame)
 int MultiEnumEditor::showEditor(int top)
 {
     const int next = FieldEditor::showEditor(top);
-    if (!m_container)
-        return next;
-    m_container->move(m_container->x(), top);
-    m_container->show();
-    return std::max(next, top + m_container->height() + 3);
+    return m_container ? std::max(next, top + m_container->height() + 3) : next;
 }
 
-int MultiEnumEditor::hideEditor(int top)
-{
-    FieldEditor::hideEditor(top);
-    if (m_container)
-        m_container->hide();
-    return top;
-}
 
 void MultiEnumEditor::setExifFiles(const QList<ExifFileInfoPtr> &files)
 {

@@ -36,7 +36,6 @@ public:
     bool copyToConfiguration(ExifConfiguration &configuration) override;
     int createEditorContent(QWidget *parent, QRect frame) override;
     int showEditor(int top) override;
-    int hideEditor(int top) override;
     void focusControl() override;
     void setEnabled(bool enabled) override;
 

@@ -57,28 +57,13 @@ int ReadonlyEditor::createEditorContent(QWidget *parent, QRect frame)
     QFont font = m_editor->font();
     font.setPointSize(11);
     m_editor->setFont(font);
+    setContentControl(m_editor);
     m_editor->show();
     stretchWithRow(m_editor);
     return 20;
 }
 
-int ReadonlyEditor::showEditor(int top)
-{
-    const int next = FieldEditor::showEditor(top);
-    if (m_editor) {
-        m_editor->move(m_editor->x(), top);
-        m_editor->show();
-    }
-    return next;
-}
 
-int ReadonlyEditor::hideEditor(int top)
-{
-    FieldEditor::hideEditor(top);
-    if (m_editor)
-        m_editor->hide();
-    return top;
-}
 
 bool ReadonlyEditor::isModified() const
 {

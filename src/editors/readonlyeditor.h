@@ -25,8 +25,6 @@ public:
     void setExifFiles(const QList<ExifFileInfoPtr> &files) override;
     void setExifConfiguration(const ExifConfiguration *configuration) override;
     int createEditorContent(QWidget *parent, QRect frame) override;
-    int showEditor(int top) override;
-    int hideEditor(int top) override;
 
     // A number field's value in the user's locale with the field's decimals; other text as is.
     QString displayText(const QString &value) const;

@@ -35,6 +35,7 @@ int StringsEditor::createEditorContent(QWidget *parent, QRect frame)
     m_editor->setPalette(palette);
     m_editor->setReadOnly(!hasExifFiles());
     connect(m_editor, &TokenField::textEdited, this, &StringsEditor::controlTextDidChange);
+    setContentControl(m_editor);
     m_editor->show();
     stretchWithRow(m_editor);
     return FieldHeight;
@@ -43,20 +44,9 @@ int StringsEditor::createEditorContent(QWidget *parent, QRect frame)
 int StringsEditor::showEditor(int top)
 {
     const int next = FieldEditor::showEditor(top);
-    if (!m_editor)
-        return next;
-    m_editor->move(m_editor->x(), top);
-    m_editor->show();
-    return std::max(top + m_editor->height() + 3, next);
+    return m_editor ? std::max(next, top + m_editor->height() + 3) : next;
 }
 
-int StringsEditor::hideEditor(int top)
-{
-    FieldEditor::hideEditor(top);
-    if (m_editor)
-        m_editor->hide();
-    return top;
-}
 
 void StringsEditor::setEnabled(bool enabled)
 {

@@ -28,7 +28,6 @@ public:
     void setEnabled(bool enabled) override;
     int createEditorContent(QWidget *parent, QRect frame) override;
     int showEditor(int top) override;
-    int hideEditor(int top) override;
     void focusControl() override;
 
 private:

@@ -105,26 +105,16 @@ int TextEditor::createEditorContent(QWidget *parent, QRect frame)
         connect(&ExifFilesUpdateCenter::instance(), &ExifFilesUpdateCenter::exifFilesUpdated, this,
                 &TextEditor::receiveFilesUpdateNotification);
     }
+    setContentControl(m_editor);
     m_editor->show();
     stretchWithRow(m_editor);
     return 20;
 }
 
-int TextEditor::showEditor(int top)
-{
-    const int next = FieldEditor::showEditor(top);
-    if (m_editor) {
-        m_editor->move(m_editor->x(), top);
-        m_editor->show();
-    }
-    return next;
-}
 
 int TextEditor::hideEditor(int top)
 {
     FieldEditor::hideEditor(top);
-    if (m_editor)
-        m_editor->hide();
     showErrorPopup(QString());
     return top;
 }

@@ -28,7 +28,6 @@ public:
     AttachedWindow *errorMessageWindow() const;
 
     void clearEditor() override;
-    int showEditor(int top) override;
     int hideEditor(int top) override;
     void setExifFiles(const QList<ExifFileInfoPtr> &files) override;
     void updateExifFileValue(const ExifFileInfoPtr &file) override;
