@@ -1,8 +1,7 @@
-// Saves the title "new" into every *.jpg of a folder through the background runner, so that a
-// test can kill it at any moment:
-//   savekillchild loop FOLDER SETTINGS   saves the files over and over until killed
-//   savekillchild once FOLDER SETTINGS   saves each file once; exits 0 when all were saved
-// It prints "ready" once the files are read, then "saved NAME" as each file is done.
+// Saves the title "new" into every *.jpg of a folder through the background runner so that a
+// test can kill it at any moment: "loop FOLDER SETTINGS" saves over and over until killed,
+// "once FOLDER SETTINGS" saves once and exits 0 when all were saved. Prints "ready" after
+// reading, then one "saved NAME" line per file.
 #include "catalogue/exiffieldscontroller.h"
 #include "engine/errormessages.h"
 #include "engine/exifbackgroundrunner.h"
@@ -43,36 +42,31 @@ int main(int argc, char **argv)
     QCoreApplication application(argc, argv);
     if (argc != 4)
         return 2;
-    const bool loop = qstrcmp(argv[1], "loop") == 0;
     const QDir folder(QString::fromLocal8Bit(argv[2]));
     UserSettings::setStoreFile(QString::fromLocal8Bit(argv[3]));
     ExifFieldsController::defaultInstance()->initializeConfigurations();
-
-    const QStringList names = folder.entryList({QStringLiteral("*.jpg")}, QDir::Files, QDir::Name);
     QList<ExifFileInfoPtr> files;
-    ExifRunner reader;
-    for (const QString &name : names)
+    for (const QString &name : folder.entryList({QStringLiteral("*.jpg")}, QDir::Files, QDir::Name))
         files << std::make_shared<ExifFileInfo>(folder.filePath(name));
-    if (files.isEmpty() || !reader.loadExifInformations(files).ok())
+    if (files.isEmpty() || !ExifRunner().loadExifInformations(files).ok())
         return 3;
-
-    const QString key = QStringLiteral("XMP-dc:Title");
     std::printf("ready\n");
     std::fflush(stdout);
+
     Listener listener;
     ExifBackgroundRunner runner;
     runner.setListener(&listener);
     do {
-        // Every round starts from what was read first, so each one rewrites every file.
+        // Each round starts from what was read, so every file is rewritten.
         for (const ExifFileInfoPtr &file : std::as_const(files)) {
             file->setExifData(file->originalExifData());
-            file->setExifValue(key, QStringLiteral("new"));
+            file->setExifValue(QStringLiteral("XMP-dc:Title"), QStringLiteral("new"));
         }
         listener.finished = false;
         runner.saveFiles(files, 0);
         while (!listener.finished)
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    } while (loop && listener.failures == 0);
+    } while (qstrcmp(argv[1], "loop") == 0 && listener.failures == 0);
     runner.setListener(nullptr);
     return listener.failures == 0 ? 0 : 1;
 }
