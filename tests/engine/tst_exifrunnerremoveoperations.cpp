@@ -241,9 +241,7 @@ void TestExifRunnerRemoveOperations::stripRemovesUserTagsAndKeepsThePicture()
     QCOMPARE(op->errors()->messages().size(), warnings);
     QCOMPARE(op->errors()->warnsCount(), quint64(warnings));
     QCOMPARE(keysStartingWith(loaded(path)->exifData(), userGroups), QStringList());
-    // The record holds what is on disk now, with nothing of the old tags pending.
-    QCOMPARE(file->exifData(), file->originalExifData());
-    QCOMPARE(keysStartingWith(file->exifData(), userGroups), QStringList());
+    QCOMPARE(file->exifData(), file->originalExifData()); // nothing of the old tags pending
     if (suffix == u"psd"_qs)
         QVERIFY(fileBytes(path).endsWith(photoshopFile(16, 8).right(3 * 16 * 8)));
     else

@@ -22,8 +22,8 @@ public:
     void fileProcessed(const ExifFileInfoPtr &, const ExifOperationStatus &status) override
     {
         if (status.errors() && status.errors()->errorsCount() > 0) {
-            for (const ErrorMessage &message : status.errors()->messages())
-                std::fprintf(stderr, "%s\n", qPrintable(message.message()));
+            std::fprintf(stderr, "%s\n",
+                         qPrintable(status.errors()->messages().constFirst().message()));
             ++failures;
         }
         std::printf("saved %s\n", qPrintable(QFileInfo(status.fileName()).fileName()));
