@@ -1,19 +1,22 @@
 #pragma once
 
+#include "catalogue/exifconfiguration.h"
 #include "catalogue/exiffield.h"
 #include "editors/exiffilesupdate.h"
 #include "editors/fieldeditor.h"
 #include "engine/exiffileinfo.h"
 
+#include <QLineEdit>
 #include <QList>
 #include <QSignalSpy>
 #include <QString>
+#include <QTest>
 #include <QWidget>
 
 #include <memory>
 #include <optional>
 
-// Files and rows for the editor tests: files live in memory only, the row in a real widget.
+// Files live in memory only; the row is a real widget.
 namespace EditorFixtures {
 
 inline ExifFieldPtr makeField(const QString &key, FieldDataRepresentation representation,
@@ -30,8 +33,8 @@ inline ExifFieldPtr makeField(const QString &key, FieldDataRepresentation repres
     return field;
 }
 
-// One file per value; a null value is a file without the tag. Other tags of the file are kept in
-// extra so a test can see they are left alone.
+// One file per value; a null value is a file without the tag. IFD0:Make lets a test see that
+// other tags are left alone.
 inline QList<ExifFileInfoPtr> makeFiles(const QString &key, const QList<QString> &values,
                                         const QString &suffix = u".jpg"_qs)
 {
@@ -55,7 +58,6 @@ inline QStringList currentValues(const QList<ExifFileInfoPtr> &files, const QStr
     return values;
 }
 
-// A parent wide enough for the row; the editor is built into it at top 0.
 template <typename Editor> struct Row
 {
     explicit Row(ExifFieldPtr field, bool showRemoveButton = false)
@@ -66,13 +68,30 @@ template <typename Editor> struct Row
         editor.setBoldFontOnChange(true);
         editor.setShowRemoveButton(showRemoveButton);
         editor.setTheme(u"ApertureTheme"_qs);
-        bottom = editor.createEditor(&parent, 0);
+        editor.createEditor(&parent, 0);
         parent.show();
     }
     QWidget parent;
     Editor editor;
-    int bottom = 0;
 };
+
+inline void typeAndCommit(QLineEdit *edit, const QString &text)
+{
+    edit->setFocus();
+    edit->selectAll();
+    QTest::keyClick(edit, Qt::Key_Backspace);
+    QTest::keyClicks(edit, text);
+    QTest::keyClick(edit, Qt::Key_Return);
+}
+
+// What a row leaves in a preset: the value, "<removed>", or "" when it leaves the tag alone.
+inline QString presetEntry(FieldEditor &editor, ExifConfiguration &preset, const QString &key)
+{
+    if (!editor.copyToConfiguration(preset))
+        return u"<refused>"_qs;
+    return preset.changedValues().value(key) +
+           (preset.removedValues().contains(key) ? u"<removed>"_qs : QString());
+}
 
 inline QSignalSpy updateSpy()
 {

@@ -1,11 +1,15 @@
+#include "editors/dateeditor.h"
 #include "editors/dateeditorview.h"
+#include "editors/dateoffseteditor.h"
 
+#include "../support/fixtures.h"
+#include "editorfixtures.h"
+#include "catalogue/exifconfiguration.h"
 #include "catalogue/exiffieldscontroller.h"
 #include "controls/dateoffsetfield.h"
 #include "editors/exiffilesupdate.h"
 #include "engine/exifbackgroundrunner.h"
 #include "engine/exifrunner.h"
-#include "../support/fixtures.h"
 #include "values/tagsmithexception.h"
 
 #include <QCheckBox>
@@ -17,36 +21,86 @@
 
 namespace {
 
-// Cell of the offset field, then the key typed into it.
-using Typing = QList<QPair<int, char>>;
+// Cell of the offset field, then the key pressed there.
+using Keys = QList<QPair<int, int>>;
 
-const QString DateTimeOriginal = QStringLiteral("ExifIFD:DateTimeOriginal");
+const QString DateTimeOriginal = u"ExifIFD:DateTimeOriginal"_qs;
+const QString Original = u"2010:05:01 10:00:00"_qs;
 
-// A listener standing for the main window: it must keep hearing of every file.
-class RecordingListener : public ExifBackgroundRunnerListener
+ExifFieldPtr fieldFor(const QString &key)
+{
+    return ExifFieldsController::defaultInstance()->field(key);
+}
+
+void press(DateOffsetField *field, const Keys &keys)
+{
+    for (const auto &[cell, key] : keys) {
+        field->setSelectedCell(cell);
+        QTest::keyClick(field, Qt::Key(key));
+    }
+}
+
+// In-memory files read with `Original`, then given a current value ("" removes the tag).
+QList<ExifFileInfoPtr> filesHolding(const QStringList &currents)
+{
+    QList<ExifFileInfoPtr> files;
+    for (int i = 0; i < currents.size(); ++i) {
+        auto file = std::make_shared<ExifFileInfo>(u"/nowhere/%1.jpg"_qs.arg(i));
+        file->setReadData({{DateTimeOriginal, Original}});
+        if (currents[i].isEmpty())
+            file->removeExifValue(DateTimeOriginal);
+        else
+            file->setExifValue(DateTimeOriginal, currents[i]);
+        files << file;
+    }
+    return files;
+}
+
+// Real JPEGs, one per date ("" for none), dated in a single ExifTool run and read back.
+QList<ExifFileInfoPtr> realFiles(const QTemporaryDir &dir, const QString &tag,
+                                 const QStringList &dates)
+{
+    QList<ExifFileInfoPtr> files;
+    QStringList args;
+    for (int i = 0; i < dates.size(); ++i) {
+        const QString path = dir.filePath(u"img%1.jpg"_qs.arg(i));
+        if (const QString failure = Fixtures::makeImage(path); !failure.isEmpty())
+            qFatal("fixture: %s", qPrintable(failure));
+        if (!dates[i].isEmpty())
+            args << u"-overwrite_original"_qs << u'-' + tag + u'=' + dates[i] << path
+                 << u"-execute"_qs;
+        files << std::make_shared<ExifFileInfo>(path);
+    }
+    if (!args.isEmpty() && !Fixtures::runExifTool(args).ok())
+        qFatal("fixture: cannot date the files");
+    ExifRunner().loadExifInformations(files);
+    return files;
+}
+
+// What ExifTool reads on disk, "-" for a missing tag.
+QStringList diskValues(const QList<ExifFileInfoPtr> &files, const QString &tag)
+{
+    QStringList args{u"-T"_qs, u'-' + tag, u"--"_qs};
+    for (const auto &file : files)
+        args << file->fileName();
+    return QString::fromUtf8(Fixtures::runExifTool(args).out).trimmed().split(u'\n');
+}
+
+class Listener : public ExifBackgroundRunnerListener
 {
 public:
-    void fileToBeProcessed(const ExifFileInfoPtr &, const ExifOperationStatus &s) override
+    void fileToBeProcessed(const ExifFileInfoPtr &, const ExifOperationStatus &) override
     {
-        before << s.fileName();
+        ++before;
     }
     void fileProcessed(const ExifFileInfoPtr &, const ExifOperationStatus &s) override
     {
-        after << s.fileName();
+        ++after;
+        errors += s.errors() ? s.errors()->errorsCount() : 0;
     }
     void finishProcessing(const QHash<QString, ErrorMessagesPtr> &) override { ++finished; }
-
-    QStringList before;
-    QStringList after;
-    int finished = 0;
+    int before = 0, after = 0, errors = 0, finished = 0;
 };
-
-QString diskValue(const QString &path, const QString &tag = QStringLiteral("DateTimeOriginal"))
-{
-    const Fixtures::ToolRun run =
-        Fixtures::runExifTool({QStringLiteral("-s3"), u'-' + tag, QStringLiteral("--"), path});
-    return QString::fromUtf8(run.out).trimmed();
-}
 
 } // namespace
 
@@ -55,280 +109,260 @@ class TstDatePanel : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void shiftTypedIntoOffsetFieldIsWrittenPerFile_data();
-    void shiftTypedIntoOffsetFieldIsWrittenPerFile();
-    void absoluteDateOverMixedOriginals();
-    void emptyBoxRemovesTagFromEveryFile();
-    void pendingValuesReopen_data();
-    void pendingValuesReopen();
-    void editsWithoutRunnerStayInMemory();
-    void invalidFocusThrowsAndTracesPairUp();
+    void initTestCase()
+    {
+        ExifFieldsController::defaultInstance()->initializeConfigurations();
+        QVERIFY(fieldFor(DateTimeOriginal));
+    }
 
-private:
-    // Makes one JPEG per date ("" for none) and reads it as the main window would.
-    QList<ExifFileInfoPtr> makeFiles(const QStringList &dates, const QString &tag);
-    // Waits until `batches` batches of the panel have reached the listener.
-    void waitForBatches(QSignalSpy &finished, int batches);
+    void panelSavesEachFile_data()
+    {
+        QTest::addColumn<QString>("tag");
+        QTest::addColumn<QStringList>("originals");
+        QTest::addColumn<Keys>("keys");      // typed into the offset field
+        QTest::addColumn<QString>("picked"); // else set in the picker, else the empty box
+        QTest::addColumn<QStringList>("expected");
 
-    std::unique_ptr<QTemporaryDir> m_dir;
-    int m_fileCount = 0;
+        // Under TZ=Europe/Berlin the last two land in and cross the skipped hour of 2013-03-31:
+        // metadata holds wall-clock readings, so 02:30 that night is a value like any other.
+        QTest::newRow("+1d2h over differing dates")
+            << DateTimeOriginal
+            << QStringList{Original, u"2011:12:31 23:30:00"_qs, u"2013:03:30 00:30:00"_qs,
+                           u"2013:03:30 23:30:00"_qs}
+            << Keys{{3, Qt::Key_1}, {4, Qt::Key_2}} << QString()
+            << QStringList{u"2010:05:02 12:00:00"_qs, u"2012:01:02 01:30:00"_qs,
+                           u"2013:03:31 02:30:00"_qs, u"2013:04:01 01:30:00"_qs};
+        QTest::newRow("absolute date over mixed originals")
+            << DateTimeOriginal << QStringList{Original, QString(), u"1999:12:31 23:59:59"_qs}
+            << Keys{} << u"2021:07:04 08:09:10"_qs << QStringList(3, u"2021:07:04 08:09:10"_qs);
+        QTest::newRow("empty box removes the tag")
+            << u"IPTC:DateCreated"_qs << QStringList{u"2010:05:01"_qs, u"2011:01:02"_qs} << Keys{}
+            << QString() << QStringList(2, u"-"_qs);
+    }
+
+    void panelSavesEachFile()
+    {
+        QFETCH(QString, tag);
+        QFETCH(QStringList, originals);
+        QFETCH(Keys, keys);
+        QFETCH(QString, picked);
+        QFETCH(QStringList, expected);
+
+        QTemporaryDir dir;
+        const QList<ExifFileInfoPtr> files = realFiles(dir, tag, originals);
+        ExifBackgroundRunner runner;
+        Listener window;
+        runner.setListener(&window);
+        DateEditorView panel(fieldFor(tag),
+                             tag == DateTimeOriginal ? DateEditorTypeDateTime : DateEditorTypeDate);
+        panel.setBackgroundRunner(&runner);
+        QSignalSpy finished(&panel, &DateEditorView::savingFinished);
+        panel.setExifFiles(files);
+
+        if (!keys.isEmpty()) {
+            panel.controlMouseUp(panel.offsetLabel());
+            QCOMPARE(panel.editorFocus(), int(DateEditorView::FocusOffset));
+            press(panel.offsetField(), keys); // every key saves, replacing the previous shift
+        } else if (!picked.isEmpty()) {
+            const QDateTime at = QDateTime::fromString(picked, u"yyyy:MM:dd HH:mm:ss"_qs);
+            panel.datePicker()->setDateTime(QDateTime(at.date(), at.time(), Qt::UTC));
+        } else {
+            panel.controlMouseUp(panel.emptyTitle());
+            QVERIFY(!panel.datePicker()->isVisibleTo(&panel));
+        }
+        const qsizetype batches = qMax(qsizetype(1), keys.size());
+        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), batches, 60000);
+
+        QCOMPARE(diskValues(files, tag), expected);
+        for (int i = 0; i < files.size(); ++i) {
+            const QString inMemory =
+                files[i]->hasExifValue(tag) ? files[i]->exifValue(tag) : u"-"_qs;
+            QCOMPARE(inMemory, expected[i]);
+            QCOMPARE(files[i]->originalExifData().value(tag, u"-"_qs), expected[i]);
+        }
+        // The main window must still hear of every file.
+        QVERIFY(window.after >= files.size());
+        QCOMPARE(window.before, window.after);
+        QCOMPARE(window.finished, batches);
+    }
+
+    void pendingValuesReopen_data()
+    {
+        QTest::addColumn<QStringList>("currents");
+        QTest::addColumn<QString>("picker");
+        QTest::addColumn<QString>("offsetLabel");
+
+        QTest::newRow("pending shift") << QStringList(2, u"+1d2h"_qs) << "2010:05:02 12:00:00"
+                                       << "+1d 2h";
+        QTest::newRow("earlier date")
+            << QStringList{u"2010:04:30 09:00:00"_qs} << "2010:04:30 09:00:00"
+            << "-1d 1h";
+        QTest::newRow("different shifts")
+            << QStringList{u"+1d"_qs, u"+2h"_qs} << QString() << "Multiple values. Click to edit";
+        QTest::newRow("tag removed") << QStringList{QString()} << QString() << QString();
+    }
+
+    void pendingValuesReopen()
+    {
+        QFETCH(QStringList, currents);
+        QFETCH(QString, picker);
+        QFETCH(QString, offsetLabel);
+
+        const QList<ExifFileInfoPtr> files = filesHolding(currents);
+        DateEditorView panel(fieldFor(DateTimeOriginal), DateEditorTypeDateTime);
+        QSignalSpy posts(&ExifFilesUpdateCenter::instance(),
+                         &ExifFilesUpdateCenter::exifFilesUpdated);
+        panel.setExifFiles(files);
+
+        QCOMPARE(panel.emptyBox()->isChecked(), currents[0].isEmpty());
+        QCOMPARE(panel.offsetLabel()->text().trimmed(), offsetLabel);
+        if (!picker.isEmpty())
+            QCOMPARE(panel.datePicker()->dateTime().toString(u"yyyy:MM:dd HH:mm:ss"_qs), picker);
+        QCOMPARE(posts.count(), 0); // showing files never writes them
+        QCOMPARE(files[0]->exifValue(DateTimeOriginal), currents[0]);
+    }
+
+    void tracesPairUpAndBadFocusThrows()
+    {
+        static QStringList lines;
+        lines.clear();
+        const QtMessageHandler previous = qInstallMessageHandler(
+            [](QtMsgType, const QMessageLogContext &, const QString &line) { lines << line; });
+        DateEditorView panel(fieldFor(DateTimeOriginal), DateEditorTypeDateTime);
+        panel.setExifFiles(filesHolding({Original}));
+        panel.saveValue();
+        QVERIFY_THROWS_EXCEPTION(TagsmithException, panel.setEditorFocus(2));
+        qInstallMessageHandler(previous);
+
+        QVERIFY(lines.contains(u"(E) SAVING VALUE: 2010:05:01 10:00:00"_qs));
+        QVERIFY(lines.contains(u"(X) SAVING VALUE"_qs));
+        int depth = 0;
+        for (const QString &line : std::as_const(lines)) {
+            depth += line.startsWith(u"(E) ") ? 1 : line.startsWith(u"(X) ") ? -1 : 0;
+            QVERIFY2(depth >= 0, qPrintable(line));
+        }
+        QCOMPARE(depth, 0);
+    }
+
+    void dateRowLabelAndModified_data()
+    {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<QStringList>("currents");
+        QTest::addColumn<QString>("labelPart"); // "" means the label is empty
+        QTest::addColumn<bool>("modified");
+
+        const int dt = DateEditorTypeDateTime;
+        QTest::newRow("shift, months and minutes both m")
+            << dt << QStringList(2, u"+1y2M3d4m"_qs) << "+1y 2m 3d 4m" << true;
+        QTest::newRow("date and a shift: not judged")
+            << dt << QStringList{Original, u"+1h"_qs} << "Multiple values" << false;
+        QTest::newRow("date-only row, date-time text")
+            << int(DateEditorTypeDate) << QStringList{Original} << "" << false;
+        QTest::newRow("same date written differently")
+            << dt << QStringList{u"2010:5:1 10:0:0"_qs} << "10:00:00" << false;
+        QTest::newRow("removed") << dt << QStringList{QString()} << "" << true;
+    }
+
+    void dateRowLabelAndModified()
+    {
+        QFETCH(int, type);
+        QFETCH(QStringList, currents);
+        QFETCH(QString, labelPart);
+        QFETCH(bool, modified);
+
+        QWidget form;
+        DateEditor editor(fieldFor(DateTimeOriginal));
+        editor.setDateEditorType(DateEditorType(type));
+        editor.createEditor(&form, 0);
+        editor.setExifFiles(filesHolding(currents));
+        const QString text = editor.currentDateLabel()->text();
+        QVERIFY2(labelPart.isEmpty() ? text.isEmpty() : text.contains(labelPart), qPrintable(text));
+        QCOMPARE(editor.isModified(), modified);
+    }
+
+    void popupShiftReachesEveryFileAndTheLabel()
+    {
+        const QList<ExifFileInfoPtr> files =
+            filesHolding({u"2010:05:02 10:00:00"_qs, u"2011:01:01 00:00:00"_qs, Original});
+        QWidget form;
+        form.resize(600, 400);
+        DateEditor editor(fieldFor(DateTimeOriginal));
+        editor.createEditor(&form, 0);
+        editor.setExifFiles(files);
+        QTest::mousePress(editor.currentDateLabel(), Qt::LeftButton);
+        QVERIFY(editor.popupWindow()->isVisible());
+        DateEditorView *view = editor.popupController()->view();
+        view->controlMouseUp(view->offsetLabel());
+        press(view->offsetField(), {{4, Qt::Key_Up}});
+
+        QCOMPARE(editor.currentDateLabel()->text(), u"+1h"_qs);
+        editor.showPopupController(false); // closing writes nothing more
+        for (const ExifFileInfoPtr &file : files)
+            QCOMPARE(file->exifValue(DateTimeOriginal), u"+1h"_qs);
+        editor.setExifFiles(filesHolding({Original}));
+        QVERIFY(!editor.popupController()); // a new selection gets a fresh popup
+    }
+
+    void presetRowStoresShiftOrRemoval_data()
+    {
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<Keys>("keys");
+        QTest::addColumn<QString>("entry");
+        const Keys upDown{{4, Qt::Key_Up}, {4, Qt::Key_Down}};
+        QTest::newRow("typed shift ticks the box")
+            << "" << Keys{{3, Qt::Key_Up}, {4, Qt::Key_Up}, {4, Qt::Key_Up}} << "+1d2h";
+        QTest::newRow("ticked zero shift removes") << "" << upDown << "<removed>";
+        QTest::newRow("stored shift round-trips") << "-1y3s" << Keys{} << "-1y3s";
+        QTest::newRow("stored removal stays") << "<removed>" << Keys{} << "<removed>";
+        QTest::newRow("untouched writes nothing") << "" << Keys{} << "";
+    }
+
+    void presetRowStoresShiftOrRemoval()
+    {
+        QFETCH(QString, stored);
+        QFETCH(Keys, keys);
+        QFETCH(QString, entry);
+
+        ExifConfiguration preset(u"configuration-1"_qs, u"Trip"_qs);
+        if (stored == u"<removed>")
+            preset.removedValues().insert(DateTimeOriginal);
+        else if (!stored.isEmpty())
+            preset.changedValues().insert(DateTimeOriginal, stored);
+        QWidget form;
+        DateOffsetEditor editor(fieldFor(DateTimeOriginal));
+        editor.setShowRemoveButton(true);
+        editor.createEditor(&form, 0);
+        editor.setExifConfiguration(&preset);
+        press(editor.editor(), keys);
+        QCOMPARE(EditorFixtures::presetEntry(editor, preset, DateTimeOriginal), entry);
+    }
+
+    void presetShiftAppliedToRealFiles()
+    {
+        QTemporaryDir dir;
+        const QList<ExifFileInfoPtr> files =
+            realFiles(dir, DateTimeOriginal,
+                      {Original, u"2011:12:31 23:30:00"_qs, u"2016:02:28 22:00:00"_qs});
+        ExifConfiguration preset(u"configuration-1"_qs, u"Shift"_qs);
+        preset.changedValues().insert(DateTimeOriginal, u"+1d2h"_qs);
+
+        // Applying a preset: its values into every file, then one save of all of them.
+        for (const ExifFileInfoPtr &file : files)
+            file->setExifValue(DateTimeOriginal, preset.changedValues().value(DateTimeOriginal));
+        ExifBackgroundRunner runner;
+        Listener listener;
+        runner.setListener(&listener);
+        QCOMPARE(runner.saveFiles(files, 1), files.size());
+        QTRY_COMPARE_WITH_TIMEOUT(listener.finished, 1, 60000);
+        QCOMPARE(listener.errors, 0);
+
+        const QStringList expected{u"2010:05:02 12:00:00"_qs, u"2012:01:02 01:30:00"_qs,
+                                   u"2016:03:01 00:00:00"_qs};
+        QCOMPARE(diskValues(files, DateTimeOriginal), expected);
+        for (int i = 0; i < files.size(); ++i) // used up once written: never applied twice
+            QCOMPARE(files[i]->exifValue(DateTimeOriginal), expected[i]);
+    }
 };
-
-void TstDatePanel::initTestCase()
-{
-    ExifFieldsController::defaultInstance()->initializeConfigurations();
-    QVERIFY(ExifFieldsController::defaultInstance()->field(DateTimeOriginal));
-}
-
-QList<ExifFileInfoPtr> TstDatePanel::makeFiles(const QStringList &dates, const QString &tag)
-{
-    m_dir = std::make_unique<QTemporaryDir>();
-    QList<ExifFileInfoPtr> files;
-    for (const QString &date : dates) {
-        const QString path = m_dir->filePath(QStringLiteral("img%1.jpg").arg(++m_fileCount));
-        QStringList args;
-        if (!date.isEmpty())
-            args << u'-' + tag + u'=' + date;
-        const QString failure = Fixtures::makeImage(path, args);
-        if (!failure.isEmpty())
-            qFatal("fixture: %s", qPrintable(failure));
-        files << std::make_shared<ExifFileInfo>(path);
-    }
-    ExifRunner().loadExifInformations(files);
-    return files;
-}
-
-void TstDatePanel::waitForBatches(QSignalSpy &finished, int batches)
-{
-    QTRY_COMPARE_WITH_TIMEOUT(finished.count(), batches, 60000);
-}
-
-void TstDatePanel::shiftTypedIntoOffsetFieldIsWrittenPerFile_data()
-{
-    QTest::addColumn<QStringList>("originals");
-    QTest::addColumn<Typing>("typing");
-    QTest::addColumn<QStringList>("expected");
-
-    QTest::newRow("+1d2h over three different dates")
-        << QStringList{QStringLiteral("2010:05:01 10:00:00"), QStringLiteral("2011:12:31 23:30:00"),
-                       QStringLiteral("2012:02:28 22:00:00")}
-        << Typing{{3, '1'}, {4, '2'}}
-        << QStringList{QStringLiteral("2010:05:02 12:00:00"), QStringLiteral("2012:01:02 01:30:00"),
-                       QStringLiteral("2012:03:01 00:00:00")};
-    // Under TZ=Europe/Berlin these cross the spring-forward night of 2013-03-31: metadata holds
-    // wall-clock readings, so 02:30 that night is a value like any other.
-    QTest::newRow("+1d onto the skipped hour")
-        << QStringList{QStringLiteral("2013:03:30 02:30:00")} << Typing{{3, '1'}}
-        << QStringList{QStringLiteral("2013:03:31 02:30:00")};
-    QTest::newRow("+2h across the change")
-        << QStringList{QStringLiteral("2013:03:31 01:30:00")} << Typing{{4, '2'}}
-        << QStringList{QStringLiteral("2013:03:31 03:30:00")};
-    QTest::newRow("-1M clamps to the shorter month")
-        << QStringList{QStringLiteral("2013:03:31 12:00:00")} << Typing{{0, '-'}, {2, '1'}}
-        << QStringList{QStringLiteral("2013:02:28 12:00:00")};
-}
-
-void TstDatePanel::shiftTypedIntoOffsetFieldIsWrittenPerFile()
-{
-    QFETCH(QStringList, originals);
-    QFETCH(Typing, typing);
-    QFETCH(QStringList, expected);
-
-    const QList<ExifFileInfoPtr> files = makeFiles(originals, QStringLiteral("DateTimeOriginal"));
-    ExifBackgroundRunner runner;
-    RecordingListener window;
-    runner.setListener(&window);
-    DateEditorView panel(ExifFieldsController::defaultInstance()->field(DateTimeOriginal),
-                         DateEditorTypeDateTime);
-    panel.setBackgroundRunner(&runner);
-    QSignalSpy finished(&panel, &DateEditorView::savingFinished);
-
-    panel.setExifFiles(files);
-    QCOMPARE(panel.editorFocus(), int(DateEditorView::FocusDate));
-    panel.controlMouseUp(panel.offsetLabel());
-    QCOMPARE(panel.editorFocus(), int(DateEditorView::FocusOffset));
-
-    // Every keystroke saves; each save must replace the previous shift, not add to it.
-    int batches = 0;
-    for (const auto &[cell, key] : typing) {
-        panel.offsetField()->setSelectedCell(cell);
-        QTest::keyClick(panel.offsetField(), key);
-        ++batches;
-    }
-    waitForBatches(finished, batches);
-
-    for (int i = 0; i < files.size(); ++i) {
-        QCOMPARE(diskValue(files[i]->fileName()), expected[i]);
-        QCOMPARE(files[i]->exifValue(DateTimeOriginal), expected[i]);
-        QCOMPARE(files[i]->originalExifData().value(DateTimeOriginal), expected[i]);
-    }
-    QVERIFY(window.after.size() >= files.size());
-    QCOMPARE(window.after.size(), window.before.size());
-    QCOMPARE(window.finished, batches);
-    QCOMPARE(runner.listener(), &window);
-}
-
-void TstDatePanel::absoluteDateOverMixedOriginals()
-{
-    const QList<ExifFileInfoPtr> files = makeFiles(
-        {QStringLiteral("2010:05:01 10:00:00"), QString(), QStringLiteral("1999:12:31 23:59:59")},
-        QStringLiteral("DateTimeOriginal"));
-    ExifBackgroundRunner runner;
-    DateEditorView panel(ExifFieldsController::defaultInstance()->field(DateTimeOriginal),
-                         DateEditorTypeDateTime);
-    panel.setBackgroundRunner(&runner);
-    QSignalSpy finished(&panel, &DateEditorView::savingFinished);
-    panel.setExifFiles(files);
-
-    // The picker opens on the first file's own date.
-    QCOMPARE(panel.datePicker()->dateTime(), QDateTime(QDate(2010, 5, 1), QTime(10, 0), Qt::UTC));
-    QVERIFY(!panel.emptyBox()->isChecked());
-
-    panel.datePicker()->setDateTime(QDateTime(QDate(2021, 7, 4), QTime(8, 9, 10), Qt::UTC));
-    waitForBatches(finished, 1);
-    for (const ExifFileInfoPtr &file : files)
-        QCOMPARE(diskValue(file->fileName()), QStringLiteral("2021:07:04 08:09:10"));
-}
-
-void TstDatePanel::emptyBoxRemovesTagFromEveryFile()
-{
-    const QList<ExifFileInfoPtr> files =
-        makeFiles({QStringLiteral("2010:05:01"), QStringLiteral("2011:01:02")},
-                  QStringLiteral("IPTC:DateCreated"));
-    const QString key = QStringLiteral("IPTC:DateCreated");
-    QCOMPARE(files[0]->exifValue(key), QStringLiteral("2010:05:01"));
-    ExifBackgroundRunner runner;
-    DateEditorView panel(ExifFieldsController::defaultInstance()->field(key), DateEditorTypeDate);
-    panel.setBackgroundRunner(&runner);
-    QSignalSpy finished(&panel, &DateEditorView::savingFinished);
-    panel.setExifFiles(files);
-
-    panel.controlMouseUp(panel.emptyTitle());
-    QVERIFY(panel.emptyBox()->isChecked());
-    QVERIFY(!panel.datePicker()->isVisibleTo(&panel));
-    QVERIFY(!panel.offsetField()->isVisibleTo(&panel));
-    waitForBatches(finished, 1);
-    for (const ExifFileInfoPtr &file : files) {
-        QCOMPARE(diskValue(file->fileName(), key), QString());
-        QVERIFY(!file->hasExifValue(key));
-    }
-}
-
-void TstDatePanel::pendingValuesReopen_data()
-{
-    QTest::addColumn<QStringList>("currents");
-    QTest::addColumn<QString>("expectedPicker");
-    QTest::addColumn<QString>("expectedOffsetLabel");
-    QTest::addColumn<bool>("empty");
-
-    // All files hold 2010:05:01 10:00:00 on disk; the rows are unsaved edits over it.
-    QTest::newRow("pending shift")
-        << QStringList{QStringLiteral("+1d2h"), QStringLiteral("+1d2h")} << "2010:05:02 12:00:00"
-        << "+1d 2h" << false;
-    QTest::newRow("date moved earlier reopens at that date")
-        << QStringList{QStringLiteral("2010:04:30 09:00:00")} << "2010:04:30 09:00:00"
-        << "-1d 1h" << false;
-    QTest::newRow("same shift typed and as a date")
-        << QStringList{QStringLiteral("+1M"), QStringLiteral("2010:06:01 10:00:00")}
-        << "2010:06:01 10:00:00"
-        << "+1M" << false;
-    QTest::newRow("different shifts") << QStringList{QStringLiteral("+1d"), QStringLiteral("+2h")}
-                                      << QString() << "Multiple values. Click to edit" << false;
-    QTest::newRow("tag removed") << QStringList{QString()} << QString() << QString() << true;
-}
-
-void TstDatePanel::pendingValuesReopen()
-{
-    QFETCH(QStringList, currents);
-    QFETCH(QString, expectedPicker);
-    QFETCH(QString, expectedOffsetLabel);
-    QFETCH(bool, empty);
-
-    QList<ExifFileInfoPtr> files;
-    for (int i = 0; i < currents.size(); ++i) {
-        auto file = std::make_shared<ExifFileInfo>(QStringLiteral("/nowhere/%1.jpg").arg(i));
-        file->setReadData({{DateTimeOriginal, QStringLiteral("2010:05:01 10:00:00")}});
-        if (currents[i].isEmpty())
-            file->removeExifValue(DateTimeOriginal);
-        else
-            file->setExifValue(DateTimeOriginal, currents[i]);
-        files << file;
-    }
-    DateEditorView panel(ExifFieldsController::defaultInstance()->field(DateTimeOriginal),
-                         DateEditorTypeDateTime);
-    int posts = 0;
-    const auto connection =
-        connect(&ExifFilesUpdateCenter::instance(), &ExifFilesUpdateCenter::exifFilesUpdated, this,
-                [&posts](const ExifFilesUpdate &) { ++posts; });
-    panel.setExifFiles(files);
-    disconnect(connection);
-
-    QCOMPARE(panel.emptyBox()->isChecked(), empty);
-    QCOMPARE(panel.offsetLabel()->text().trimmed(), expectedOffsetLabel);
-    if (!expectedPicker.isEmpty())
-        QCOMPARE(panel.datePicker()->dateTime().toString(QStringLiteral("yyyy:MM:dd HH:mm:ss")),
-                 expectedPicker);
-    // Showing files never writes them.
-    QCOMPARE(posts, 0);
-    QCOMPARE(files[0]->exifValue(DateTimeOriginal), currents[0]);
-}
-
-void TstDatePanel::editsWithoutRunnerStayInMemory()
-{
-    QList<ExifFileInfoPtr> files;
-    for (const QString &date :
-         {QStringLiteral("2010:05:01 10:00:00"), QStringLiteral("2012:01:01 00:00:00")}) {
-        auto file = std::make_shared<ExifFileInfo>(u"/nowhere/" + date);
-        file->setReadData({{DateTimeOriginal, date}});
-        files << file;
-    }
-    DateEditorView panel(ExifFieldsController::defaultInstance()->field(DateTimeOriginal),
-                         DateEditorTypeDateTime);
-    QList<ExifFilesUpdate> posts;
-    connect(&ExifFilesUpdateCenter::instance(), &ExifFilesUpdateCenter::exifFilesUpdated, &panel,
-            [&posts](const ExifFilesUpdate &u) { posts << u; });
-    panel.setExifFiles(files);
-    panel.controlMouseUp(panel.offsetTitle());
-    panel.offsetField()->setSelectedCell(4);
-    QTest::keyClick(panel.offsetField(), Qt::Key_Up);
-
-    // The shift itself is kept, to be resolved against each file's own date when saved.
-    for (const ExifFileInfoPtr &file : files)
-        QCOMPARE(file->exifValue(DateTimeOriginal), QStringLiteral("+1h"));
-    QCOMPARE(posts.size(), 1);
-    QCOMPARE(posts[0].xmlName, DateTimeOriginal);
-    QCOMPARE(posts[0].newValue, std::optional<QString>(QStringLiteral("+1h")));
-    QCOMPARE(posts[0].changedFiles, files);
-    QCOMPARE(posts[0].exifFiles, files);
-    QCOMPARE(posts[0].source, nullptr);
-}
-
-void TstDatePanel::invalidFocusThrowsAndTracesPairUp()
-{
-    static QStringList lines;
-    lines.clear();
-    const QtMessageHandler previous = qInstallMessageHandler(
-        [](QtMsgType, const QMessageLogContext &, const QString &message) { lines << message; });
-    DateEditorView panel(ExifFieldsController::defaultInstance()->field(DateTimeOriginal),
-                         DateEditorTypeDateTime);
-    auto file = std::make_shared<ExifFileInfo>(QStringLiteral("/nowhere/a.jpg"));
-    file->setReadData({{DateTimeOriginal, QStringLiteral("2010:05:01 10:00:00")}});
-    panel.setExifFiles({file});
-    panel.saveValue();
-    QVERIFY_THROWS_EXCEPTION(TagsmithException, panel.setEditorFocus(2));
-    qInstallMessageHandler(previous);
-
-    QVERIFY(lines.contains(QStringLiteral("(E) SAVING VALUE: 2010:05:01 10:00:00")));
-    QVERIFY(lines.contains(QStringLiteral("(X) SAVING VALUE")));
-    int depth = 0;
-    for (const QString &line : std::as_const(lines)) {
-        depth += line.startsWith(QLatin1String("(E) ")) ? 1 : 0;
-        depth -= line.startsWith(QLatin1String("(X) ")) ? 1 : 0;
-        QVERIFY2(depth >= 0, qPrintable(line));
-    }
-    QCOMPARE(depth, 0);
-}
 
 QTEST_MAIN(TstDatePanel)
 #include "tst_datepanel.moc"

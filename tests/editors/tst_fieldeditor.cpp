@@ -9,10 +9,8 @@
 #include "editors/stringseditor.h"
 #include "editors/texteditor.h"
 
-#include <QCheckBox>
 #include <QElapsedTimer>
 #include <QLabel>
-#include <QLineEdit>
 #include <QtTest>
 
 using namespace EditorFixtures;
@@ -40,15 +38,6 @@ std::unique_ptr<FieldEditor> editorFor(const ExifFieldPtr &field)
     }
 }
 
-void typeAndCommit(QLineEdit *edit, const QString &text)
-{
-    edit->setFocus();
-    edit->selectAll();
-    QTest::keyClick(edit, Qt::Key_Backspace);
-    QTest::keyClicks(edit, text);
-    QTest::keyClick(edit, Qt::Key_Return);
-}
-
 } // namespace
 
 class TstFieldEditor : public QObject
@@ -56,15 +45,6 @@ class TstFieldEditor : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void absentTagCountsAsEmptyValue()
-    {
-        TextEditor editor(makeField(Key, FieldDataRepresentation::None));
-        const auto files = makeFiles(Key, {u"A"_qs, u"A"_qs, QString()});
-        QCOMPARE(editor.gatherExifFilesValues(files), (QSet<QString>{u"A"_qs, u""_qs}));
-        files.first()->setExifValue(Key, u"B"_qs);
-        QCOMPARE(editor.gatherExifFilesOriginalValues(files), (QSet<QString>{u"A"_qs, u""_qs}));
-    }
-
     void editOverMixedFilesWritesAllAndPostsOnce()
     {
         Row<TextEditor> row(makeField(Key, FieldDataRepresentation::None));
@@ -83,8 +63,7 @@ private Q_SLOTS:
         typeAndCommit(row.editor.editor(), u"Harbour at dusk"_qs);
 
         QCOMPARE(currentValues(files, Key), QStringList(3, u"Harbour at dusk"_qs));
-        for (const auto &file : files)
-            QCOMPARE(file->exifValue(u"IFD0:Make"_qs), u"Canon"_qs);
+        QCOMPARE(currentValues(files, u"IFD0:Make"_qs), QStringList(3, u"Canon"_qs));
         QCOMPARE(spy.size(), 1);
         const ExifFilesUpdate update = updateAt(spy, 0);
         QCOMPARE(update.xmlName, Key);
@@ -100,11 +79,10 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("originals");
         QTest::addColumn<QString>("typed");
         QTest::addColumn<bool>("changed");
-        QTest::newRow("all equal originals") << QStringList(3, u"A"_qs) << u"A"_qs << false;
-        QTest::newRow("one differs") << QStringList{u"A"_qs, u"A"_qs, u"B"_qs} << u"A"_qs << true;
-        QTest::newRow("one gains the tag") << QStringList{u"A"_qs, QString()} << u"A"_qs << true;
-        QTest::newRow("removal of absent tags")
-            << QStringList{QString(), QString()} << u"  "_qs << false;
+        QTest::newRow("all equal originals") << QStringList(3, u"A"_qs) << "A" << false;
+        QTest::newRow("one differs") << QStringList{u"A"_qs, u"A"_qs, u"B"_qs} << "A" << true;
+        QTest::newRow("one gains the tag") << QStringList{u"A"_qs, QString()} << "A" << true;
+        QTest::newRow("removing absent tags") << QStringList(2, QString()) << "  " << false;
     }
 
     void copyReportsDifferenceFromOriginals()
@@ -134,67 +112,14 @@ private Q_SLOTS:
         QVERIFY(row.editor.editor()->isReadOnly());
     }
 
-    void rowGeometry_data()
-    {
-        QTest::addColumn<int>("representation");
-        QTest::addColumn<bool>("removeButton");
-        QTest::addColumn<int>("rowHeight");
-        QTest::addColumn<int>("contentWidth");
-        const int text = static_cast<int>(FieldDataRepresentation::None);
-        const int strings = static_cast<int>(FieldDataRepresentation::Strings);
-        // Parent 600 wide, labels 120: content at 130, 600 - 5 - 125 - 10 = 460 wide.
-        QTest::newRow("text") << text << false << 25 << 460;
-        QTest::newRow("text in a preset") << text << true << 25 << 440;
-        QTest::newRow("tokens") << strings << false << 80 << 460;
-    }
-
-    void rowGeometry()
-    {
-        QFETCH(int, representation);
-        QFETCH(bool, removeButton);
-        QFETCH(int, rowHeight);
-        QFETCH(int, contentWidth);
-
-        auto field = makeField(Key, static_cast<FieldDataRepresentation>(representation));
-        QWidget parent;
-        parent.resize(600, 300);
-        auto editor = editorFor(field);
-        editor->setMaxLabelWidth(120);
-        editor->setShowRemoveButton(removeButton);
-        QCOMPARE(editor->createEditor(&parent, 40), 40 + rowHeight);
-        QCOMPARE(editor->label()->geometry(), QRect(5, 42, 120, 20));
-        QCOMPARE(editor->label()->text(), u"Title:"_qs);
-        QWidget *content = parent.childAt(140, 45);
-        QVERIFY(content);
-        while (content->parentWidget() != &parent)
-            content = content->parentWidget();
-        QCOMPARE(content->geometry().left(), 130);
-        QCOMPARE(content->width(), contentWidth);
-        QCOMPARE(static_cast<bool>(editor->removeButton()), removeButton);
-
-        // The control follows the row's width; the check box stays at the right edge.
-        parent.show();
-        parent.resize(800, 300);
-        QCOMPARE(content->width(), contentWidth + 200);
-        if (removeButton) {
-            QCOMPARE(editor->removeButton()->geometry(), QRect(775, 40, 20, 20));
-            QCOMPARE(editor->removeButton()->focusPolicy(), Qt::NoFocus);
-        }
-        QCOMPARE(editor->hideEditor(100), 100);
-        QVERIFY(editor->label()->isHidden());
-        QVERIFY(editor->showEditor(100) >= 125);
-        QCOMPARE(editor->label()->y(), 102);
-    }
-
     void nikonMakerNotesNeedANefFile_data()
     {
         QTest::addColumn<QString>("key");
         QTest::addColumn<QStringList>("suffixes");
         QTest::addColumn<bool>("enabled");
-        QTest::newRow("jpeg only") << u"Nikon:Lens"_qs << QStringList{u".jpg"_qs} << false;
-        QTest::newRow("one upper-case NEF")
-            << u"Nikon:Lens"_qs << QStringList{u".jpg"_qs, u".NEF"_qs} << true;
-        QTest::newRow("other makers always") << u"Canon:Lens"_qs << QStringList{u".jpg"_qs} << true;
+        QTest::newRow("jpeg only") << "Nikon:Lens" << QStringList{u".jpg"_qs} << false;
+        QTest::newRow("one NEF") << "Nikon:Lens" << QStringList{u".jpg"_qs, u".NEF"_qs} << true;
+        QTest::newRow("other makers") << "Canon:Lens" << QStringList{u".jpg"_qs} << true;
     }
 
     void nikonMakerNotesNeedANefFile()
@@ -214,35 +139,30 @@ private Q_SLOTS:
         QCOMPARE(strings.editor.editor()->isEnabled(), enabled);
     }
 
-    void wholeCatalogueTiming()
+    // Every editor of the catalogue over a large selection: must not crash, and prints its cost.
+    void wholeCatalogueOverManyFiles()
     {
         ExifFieldsController *catalogue = ExifFieldsController::defaultInstance();
         catalogue->initializeConfigurations();
-        const auto &fields = catalogue->configurations();
-        QVERIFY(!fields.isEmpty());
-
+        QVERIFY(!catalogue->configurations().isEmpty());
         QWidget parent;
         parent.resize(700, 400);
         QElapsedTimer timer;
         timer.start();
         std::vector<std::unique_ptr<FieldEditor>> editors;
         int top = 0;
-        for (const ExifFieldPtr &field : fields) {
+        for (const ExifFieldPtr &field : catalogue->configurations()) {
             editors.push_back(editorFor(field));
             editors.back()->setMaxLabelWidth(180);
-            editors.back()->setBoldFontOnChange(true);
             top = editors.back()->createEditor(&parent, top);
         }
         const qint64 created = timer.restart();
 
         QList<ExifFileInfoPtr> files;
         for (int i = 0; i < 1000; ++i) {
-            auto file = std::make_shared<ExifFileInfo>(u"/photos/IMG_%1.jpg"_qs.arg(i));
-            file->setReadData({{u"IFD0:Make"_qs, u"Canon"_qs},
-                               {u"IFD0:Model"_qs, u"EOS %1"_qs.arg(i % 3)},
-                               {u"ExifIFD:ISO"_qs, u"100"_qs},
-                               {u"IPTC:Keywords"_qs, u"a,b"_qs}});
-            files.append(file);
+            files << std::make_shared<ExifFileInfo>(u"/photos/IMG_%1.jpg"_qs.arg(i));
+            files.last()->setReadData(
+                {{u"IFD0:Model"_qs, u"EOS %1"_qs.arg(i % 3)}, {u"IPTC:Keywords"_qs, u"a,b"_qs}});
         }
         timer.restart();
         {
@@ -250,10 +170,9 @@ private Q_SLOTS:
             for (const auto &editor : editors)
                 editor->setExifFiles(files);
         }
-        const qint64 filled = timer.elapsed();
-        qDebug("%lld editors created in %lld ms; setExifFiles over %lld files in %lld ms",
-               static_cast<long long>(editors.size()), static_cast<long long>(created),
-               static_cast<long long>(files.size()), static_cast<long long>(filled));
+        qDebug("%zu editors created in %lld ms, shown over %lld files in %lld ms", editors.size(),
+               static_cast<long long>(created), static_cast<long long>(files.size()),
+               static_cast<long long>(timer.elapsed()));
     }
 };
 
