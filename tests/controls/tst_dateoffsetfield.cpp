@@ -18,30 +18,27 @@ private Q_SLOTS:
         QTest::addColumn<int>("changes");
 
         const int dt = DateEditorTypeDateTime;
-        QTest::newRow("pause starts a new number") << dt << "+" << 3 << "1|2"
-                                                   << "+2d" << 2;
-        QTest::newRow("three quick digits keep two") << dt << "+" << 4 << "123"
-                                                     << "+23h" << 3;
-        QTest::newRow("backspace ends the number") << dt << "+5d" << 3 << "1~7"
-                                                   << "+7d" << 2;
-        QTest::newRow("minus on the sign cell") << dt << "+1d2h" << 0 << "-"
-                                                << "-1d2h" << 1;
-        QTest::newRow("sign flipped by arrows") << dt << "+1d" << 0 << "v^v"
-                                                << "-1d" << 3;
-        QTest::newRow("up stops at 99") << dt << "+98s" << 6 << "^^^"
-                                        << "+99s" << 1;
-        QTest::newRow("down stops at 0") << dt << "+1m" << 5 << "vv"
-                                         << "+" << 1;
-        QTest::newRow("arrow step ends the number") << dt << "+" << 1 << "4^2"
-                                                    << "+2y" << 3;
-        QTest::newRow("right walks the units") << dt << "+" << 1 << "1>2>3"
-                                               << "+1y2M3d" << 3;
-        QTest::newRow("left stops at the sign") << dt << "+" << 1 << "<<-"
-                                                << "-" << 1;
-        QTest::newRow("date field stops at days") << int(DateEditorTypeDate) << "+" << 2 << ">>9"
-                                                  << "+9d" << 1;
-        QTest::newRow("no cell takes no digit") << dt << "+1d" << -1 << "5"
-                                                << "+1d" << 0;
+        QTest::newRow("pause starts a new number")
+            << dt << u"+"_qs << 3 << u"1|2"_qs << u"+2d"_qs << 2;
+        QTest::newRow("three quick digits keep two")
+            << dt << u"+"_qs << 4 << u"123"_qs << u"+23h"_qs << 3;
+        QTest::newRow("backspace ends the number")
+            << dt << u"+5d"_qs << 3 << u"1~7"_qs << u"+7d"_qs << 2;
+        QTest::newRow("minus on the sign cell")
+            << dt << u"+1d2h"_qs << 0 << u"-"_qs << u"-1d2h"_qs << 1;
+        QTest::newRow("sign flipped by arrows")
+            << dt << u"+1d"_qs << 0 << u"v^v"_qs << u"-1d"_qs << 3;
+        QTest::newRow("up stops at 99") << dt << u"+98s"_qs << 6 << u"^^^"_qs << u"+99s"_qs << 1;
+        QTest::newRow("down stops at 0") << dt << u"+1m"_qs << 5 << u"vv"_qs << u"+"_qs << 1;
+        QTest::newRow("arrow step ends the number")
+            << dt << u"+"_qs << 1 << u"4^2"_qs << u"+2y"_qs << 3;
+        QTest::newRow("right walks the units")
+            << dt << u"+"_qs << 1 << u"1>2>3"_qs << u"+1y2M3d"_qs << 3;
+        QTest::newRow("left stops at the sign") << dt << u"+"_qs << 1 << u"<<-"_qs << u"-"_qs << 1;
+        QTest::newRow("date field stops at days")
+            << int(DateEditorTypeDate) << u"+"_qs << 2 << u">>9"_qs << u"+9d"_qs << 1;
+        QTest::newRow("no cell takes no digit")
+            << dt << u"+1d"_qs << -1 << u"5"_qs << u"+1d"_qs << 0;
     }
 
     void typingSequences()

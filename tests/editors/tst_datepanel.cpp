@@ -192,13 +192,12 @@ private Q_SLOTS:
         QTest::addColumn<QString>("picker");
         QTest::addColumn<QString>("offsetLabel");
 
-        QTest::newRow("pending shift") << QStringList(2, u"+1d2h"_qs) << "2010:05:02 12:00:00"
-                                       << "+1d 2h";
+        QTest::newRow("pending shift")
+            << QStringList(2, u"+1d2h"_qs) << u"2010:05:02 12:00:00"_qs << u"+1d 2h"_qs;
         QTest::newRow("earlier date")
-            << QStringList{u"2010:04:30 09:00:00"_qs} << "2010:04:30 09:00:00"
-            << "-1d 1h";
-        QTest::newRow("different shifts")
-            << QStringList{u"+1d"_qs, u"+2h"_qs} << QString() << "Multiple values. Click to edit";
+            << QStringList{u"2010:04:30 09:00:00"_qs} << u"2010:04:30 09:00:00"_qs << u"-1d 1h"_qs;
+        QTest::newRow("different shifts") << QStringList{u"+1d"_qs, u"+2h"_qs} << QString()
+                                          << u"Multiple values. Click to edit"_qs;
         QTest::newRow("tag removed") << QStringList{QString()} << QString() << QString();
     }
 
@@ -253,14 +252,14 @@ private Q_SLOTS:
 
         const int dt = DateEditorTypeDateTime;
         QTest::newRow("shift, months and minutes both m")
-            << dt << QStringList(2, u"+1y2M3d4m"_qs) << "+1y 2m 3d 4m" << true;
+            << dt << QStringList(2, u"+1y2M3d4m"_qs) << u"+1y 2m 3d 4m"_qs << true;
         QTest::newRow("date and a shift: not judged")
-            << dt << QStringList{Original, u"+1h"_qs} << "Multiple values" << false;
+            << dt << QStringList{Original, u"+1h"_qs} << u"Multiple values"_qs << false;
         QTest::newRow("date-only row, date-time text")
-            << int(DateEditorTypeDate) << QStringList{Original} << "" << false;
+            << int(DateEditorTypeDate) << QStringList{Original} << u""_qs << false;
         QTest::newRow("same date written differently")
-            << dt << QStringList{u"2010:5:1 10:0:0"_qs} << "10:00:00" << false;
-        QTest::newRow("removed") << dt << QStringList{QString()} << "" << true;
+            << dt << QStringList{u"2010:5:1 10:0:0"_qs} << u"10:00:00"_qs << false;
+        QTest::newRow("removed") << dt << QStringList{QString()} << u""_qs << true;
     }
 
     void dateRowLabelAndModified()
@@ -310,11 +309,11 @@ private Q_SLOTS:
         QTest::addColumn<QString>("entry");
         const Keys upDown{{4, Qt::Key_Up}, {4, Qt::Key_Down}};
         QTest::newRow("typed shift ticks the box")
-            << "" << Keys{{3, Qt::Key_Up}, {4, Qt::Key_Up}, {4, Qt::Key_Up}} << "+1d2h";
-        QTest::newRow("ticked zero shift removes") << "" << upDown << "<removed>";
-        QTest::newRow("stored shift round-trips") << "-1y3s" << Keys{} << "-1y3s";
-        QTest::newRow("stored removal stays") << "<removed>" << Keys{} << "<removed>";
-        QTest::newRow("untouched writes nothing") << "" << Keys{} << "";
+            << u""_qs << Keys{{3, Qt::Key_Up}, {4, Qt::Key_Up}, {4, Qt::Key_Up}} << u"+1d2h"_qs;
+        QTest::newRow("ticked zero shift removes") << u""_qs << upDown << u"<removed>"_qs;
+        QTest::newRow("stored shift round-trips") << u"-1y3s"_qs << Keys{} << u"-1y3s"_qs;
+        QTest::newRow("stored removal stays") << u"<removed>"_qs << Keys{} << u"<removed>"_qs;
+        QTest::newRow("untouched writes nothing") << u""_qs << Keys{} << u""_qs;
     }
 
     void presetRowStoresShiftOrRemoval()

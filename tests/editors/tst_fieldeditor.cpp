@@ -79,10 +79,10 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("originals");
         QTest::addColumn<QString>("typed");
         QTest::addColumn<bool>("changed");
-        QTest::newRow("all equal originals") << QStringList(3, u"A"_qs) << "A" << false;
-        QTest::newRow("one differs") << QStringList{u"A"_qs, u"A"_qs, u"B"_qs} << "A" << true;
-        QTest::newRow("one gains the tag") << QStringList{u"A"_qs, QString()} << "A" << true;
-        QTest::newRow("removing absent tags") << QStringList(2, QString()) << "  " << false;
+        QTest::newRow("all equal originals") << QStringList(3, u"A"_qs) << u"A"_qs << false;
+        QTest::newRow("one differs") << QStringList{u"A"_qs, u"A"_qs, u"B"_qs} << u"A"_qs << true;
+        QTest::newRow("one gains the tag") << QStringList{u"A"_qs, QString()} << u"A"_qs << true;
+        QTest::newRow("removing absent tags") << QStringList(2, QString()) << u"  "_qs << false;
     }
 
     void copyReportsDifferenceFromOriginals()
@@ -117,9 +117,9 @@ private Q_SLOTS:
         QTest::addColumn<QString>("key");
         QTest::addColumn<QStringList>("suffixes");
         QTest::addColumn<bool>("enabled");
-        QTest::newRow("jpeg only") << "Nikon:Lens" << QStringList{u".jpg"_qs} << false;
-        QTest::newRow("one NEF") << "Nikon:Lens" << QStringList{u".jpg"_qs, u".NEF"_qs} << true;
-        QTest::newRow("other makers") << "Canon:Lens" << QStringList{u".jpg"_qs} << true;
+        QTest::newRow("jpeg only") << u"Nikon:Lens"_qs << QStringList{u".jpg"_qs} << false;
+        QTest::newRow("one NEF") << u"Nikon:Lens"_qs << QStringList{u".jpg"_qs, u".NEF"_qs} << true;
+        QTest::newRow("other makers") << u"Canon:Lens"_qs << QStringList{u".jpg"_qs} << true;
     }
 
     void nikonMakerNotesNeedANefFile()
