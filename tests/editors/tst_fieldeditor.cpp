@@ -1,44 +1,15 @@
 #include "editorfixtures.h"
 
-#include "catalogue/exiffieldscontroller.h"
 #include "controls/tokenfield.h"
-#include "editors/dateeditor.h"
-#include "editors/enumeditor.h"
-#include "editors/multienumeditor.h"
-#include "editors/readonlyeditor.h"
 #include "editors/stringseditor.h"
 #include "editors/texteditor.h"
 
-#include <QElapsedTimer>
 #include <QLabel>
 #include <QtTest>
 
 using namespace EditorFixtures;
 
-namespace {
-
-const QString Key = u"XMP-dc:Title"_qs;
-
-std::unique_ptr<FieldEditor> editorFor(const ExifFieldPtr &field)
-{
-    if (!field->writable())
-        return std::make_unique<ReadonlyEditor>(field);
-    switch (field->dataRepresentation()) {
-    case FieldDataRepresentation::Date:
-    case FieldDataRepresentation::DateTime:
-        return std::make_unique<DateEditor>(field);
-    case FieldDataRepresentation::Enum:
-        return std::make_unique<EnumEditor>(field);
-    case FieldDataRepresentation::MultiEnum:
-        return std::make_unique<MultiEnumEditor>(field);
-    case FieldDataRepresentation::Strings:
-        return std::make_unique<StringsEditor>(field);
-    default:
-        return std::make_unique<TextEditor>(field);
-    }
-}
-
-} // namespace
+static const QString Key = u"XMP-dc:Title"_qs;
 
 class TstFieldEditor : public QObject
 {
@@ -137,42 +108,6 @@ private Q_SLOTS:
         strings.editor.setExifFiles(files);
         QCOMPARE(text.editor.editor()->isEnabled(), enabled);
         QCOMPARE(strings.editor.editor()->isEnabled(), enabled);
-    }
-
-    // Every editor of the catalogue over a large selection: must not crash, and prints its cost.
-    void wholeCatalogueOverManyFiles()
-    {
-        ExifFieldsController *catalogue = ExifFieldsController::defaultInstance();
-        catalogue->initializeConfigurations();
-        QVERIFY(!catalogue->configurations().isEmpty());
-        QWidget parent;
-        parent.resize(700, 400);
-        QElapsedTimer timer;
-        timer.start();
-        std::vector<std::unique_ptr<FieldEditor>> editors;
-        int top = 0;
-        for (const ExifFieldPtr &field : catalogue->configurations()) {
-            editors.push_back(editorFor(field));
-            editors.back()->setMaxLabelWidth(180);
-            top = editors.back()->createEditor(&parent, top);
-        }
-        const qint64 created = timer.restart();
-
-        QList<ExifFileInfoPtr> files;
-        for (int i = 0; i < 1000; ++i) {
-            files << std::make_shared<ExifFileInfo>(u"/photos/IMG_%1.jpg"_qs.arg(i));
-            files.last()->setReadData(
-                {{u"IFD0:Model"_qs, u"EOS %1"_qs.arg(i % 3)}, {u"IPTC:Keywords"_qs, u"a,b"_qs}});
-        }
-        timer.restart();
-        {
-            const ExifFilesSnapshot snapshot(files);
-            for (const auto &editor : editors)
-                editor->setExifFiles(files);
-        }
-        qDebug("%zu editors created in %lld ms, shown over %lld files in %lld ms", editors.size(),
-               static_cast<long long>(created), static_cast<long long>(files.size()),
-               static_cast<long long>(timer.elapsed()));
     }
 };
 
