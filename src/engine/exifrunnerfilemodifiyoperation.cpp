@@ -133,7 +133,15 @@ void ExifRunnerFileModifiyOperation::postProcessInMainThread()
     const std::optional<TagDictionary> data = oldData();
     if (!reReads() || !data)
         return;
+    const TagDictionary before = m_efi->originalExifData();
     m_efi->setOriginalExifData(*data);
+    // Tags the write itself created (ExifTool adds GPS:GPSVersionID with a first position, for
+    // instance) are not edits: without them in the current values they would count as removed,
+    // and the next save would delete them.
+    for (auto it = data->cbegin(); it != data->cend(); ++it) {
+        if (!before.contains(it.key()) && !m_efi->hasExifValue(it.key()))
+            m_efi->setExifValue(it.key(), it.value());
+    }
     replaceDateTimeOffsets();
 }
 

@@ -207,6 +207,20 @@ private Q_SLOTS:
         QCOMPARE(readWithExifTool(file->fileName())[u"IFD0:Artist"_qs].toString(), u"kept"_qs);
     }
 
+    // A first position makes ExifTool add GPS:GPSVersionID: not an edit for the next save to undo.
+    void tagsTheWriteAddsAreNotPendingRemovals()
+    {
+        const QString path = m_dir.filePath(u"nogps.jpg"_qs);
+        QCOMPARE(Fixtures::makeImage(path), QString());
+        const ExifFileInfoPtr file = load(path);
+        file->setExifValue(u"GPS:GPSLatitude"_qs, u"33.8688"_qs);
+        file->setExifValue(u"GPS:GPSLatitudeRef"_qs, u"S"_qs);
+        QCOMPARE(save({file})->messages(file), QStringList());
+        QVERIFY(file->originalExifData().contains(u"GPS:GPSVersionID"_qs));
+        QCOMPARE(ExifUtil::removedFieldsSet(*file), QSet<QString>());
+        QVERIFY(!isExifFileModified(*file));
+    }
+
     void fileDatesFollowTheSettings_data()
     {
         QTest::addColumn<int>("mode");
