@@ -162,6 +162,37 @@ private Q_SLOTS:
         QCOMPARE(currentValues(files, key), QStringList(2, stored));
     }
 
+    // Numbers are typed in the user's own locale and stored as a read would show them.
+    void numberTypedInTheUsersLocale_data()
+    {
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("stored");
+        QTest::newRow("en_US point") << u"en_US"_qs << u"3.14159"_qs << u"3.14"_qs;
+        QTest::newRow("en_US grouping") << u"en_US"_qs << u"1,234.5"_qs << u"1,234.5"_qs;
+        QTest::newRow("de_DE comma") << u"de_DE"_qs << u"3,14159"_qs << u"3,14"_qs;
+        QTest::newRow("de_DE grouping") << u"de_DE"_qs << u"1.234,5"_qs << u"1.234,5"_qs;
+    }
+
+    void numberTypedInTheUsersLocale()
+    {
+        QFETCH(QString, locale);
+        QFETCH(QString, typed);
+        QFETCH(QString, stored);
+        const QLocale saved;
+        QLocale::setDefault(QLocale(locale));
+        const QString key = u"ExifIFD:Test"_qs;
+        auto field = makeField(key, FieldDataRepresentation::Number, std::nullopt,
+                               FieldDataType::UDouble);
+        field->setDecimals(2);
+        Row<TextEditor> row(field);
+        const auto files = makeFiles(key, {u"1"_qs, u"2"_qs});
+        row.editor.setExifFiles(files);
+        typeAndCommit(row.editor.editor(), typed);
+        QLocale::setDefault(saved);
+        QCOMPARE(currentValues(files, key), QStringList(2, stored));
+    }
+
     void presetRoundTrip_data()
     {
         QTest::addColumn<FieldDataRepresentation>("representation");
