@@ -382,3 +382,19 @@ void ExifRunnerFileModifiyOperation::debugPrintArguments(const QStringList &argu
         text += argument + u'\n';
     qCInfo(lcTagsmith).noquote() << text;
 }
+
+std::optional<TagDictionary>
+ExifRunnerFileModifiyOperation::adoptRewrittenFile(const WriteResult &result)
+{
+    QMutexLocker locker(&m_lock);
+    std::optional<TagDictionary> reRead;
+    if (reReads() && result.reRead) {
+        reRead = result.reRead;
+        m_efi->setExifData(*reRead);
+        m_efi->setOriginalExifData(*reRead);
+    }
+    // An original kept after a failed check is left exactly as it was, dates included.
+    if (result.replaced)
+        updateFileDates();
+    return reRead;
+}

@@ -69,6 +69,11 @@ protected:
     virtual QString createTempFilePathForPath(const QString &path);
     virtual void debugPrintArguments(const QStringList &arguments) const;
 
+    // After a removal nothing may stay pending as an edit: the record takes what the file now
+    // holds as both its current and its as-read values, at once on this thread. Dates are set
+    // only for a file that was really replaced. Gives the re-read, if any.
+    std::optional<TagDictionary> adoptRewrittenFile(const WriteResult &result);
+
     // Hands the run's results over to readers on other threads.
     void storeResults(ErrorMessagesPtr errors, std::optional<TagDictionary> oldData);
 

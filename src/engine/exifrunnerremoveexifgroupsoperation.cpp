@@ -34,18 +34,7 @@ void ExifRunnerRemoveExifGroupsOperation::run()
 void ExifRunnerRemoveExifGroupsOperation::finish(const WriteResult &result,
                                                  const ErrorMessagesPtr &errors)
 {
-    QMutexLocker locker(&m_lock);
-    std::optional<TagDictionary> reRead;
-    if (reReads() && result.reRead) {
-        reRead = result.reRead;
-        efi()->setExifData(*reRead);
-        efi()->setOriginalExifData(*reRead);
-    }
-    // An original kept after a failed check is left exactly as it was, dates included.
-    if (result.replaced)
-        updateFileDates();
-    locker.unlock();
-    if (reRead)
+    if (const std::optional<TagDictionary> reRead = adoptRewrittenFile(result))
         storeResults(errors, reRead);
 }
 

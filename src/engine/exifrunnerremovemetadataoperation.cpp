@@ -1,6 +1,5 @@
 #include "engine/exifrunnerremovemetadataoperation.h"
 
-#include <QMutexLocker>
 
 #include <array>
 
@@ -88,21 +87,7 @@ void ExifRunnerRemoveMetadataOperation::run()
     if (mimeType != Jpeg && hasIFD0MinorWarning(*errors))
         removeIFD0MinorWarning(*errors);
 
-    QMutexLocker locker(&m_lock);
-    std::optional<TagDictionary> reRead;
-    if (reReads() && result.reRead) {
-        reRead = result.reRead;
-        // Set on this thread at once, so nothing of the removed metadata stays pending as an
-        // edit.
-        efi()->setExifData(*reRead);
-        efi()->setOriginalExifData(*reRead);
-    }
-    // Only a file that was really replaced gets its dates set: an original kept after a
-    // failed check is left exactly as it was.
-    if (result.replaced)
-        updateFileDates();
-    locker.unlock();
-    storeResults(errors, reRead);
+    storeResults(errors, adoptRewrittenFile(result));
 }
 
 bool ExifRunnerRemoveMetadataOperation::hasIFD0MinorWarning(const ErrorMessages &errors)
