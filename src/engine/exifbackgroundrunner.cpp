@@ -11,14 +11,54 @@
 #include <QMutex>
 #include <QMutexLocker>
 #include <QPointer>
+#include <QSet>
 #include <QThread>
 #include <QWaitCondition>
 
+#include <algorithm>
+#include <atomic>
 #include <deque>
 #include <exception>
+#include <vector>
 
-// The runner's thread and its FIFO of batches. The ExifTool session is made and ended on that
-// thread, as its process must be.
+namespace {
+
+// One batch as its workers share it. Files are claimed in batch order and reported in batch
+// order, whichever worker finishes first.
+struct BatchRun
+{
+    enum class State { Waiting, Running, Done };
+
+    explicit BatchRun(QList<ExifRunnerOperationPtr> batch)
+        : operations(std::move(batch))
+        , states(size_t(operations.size()), State::Waiting)
+        , errors(size_t(operations.size()))
+    {
+    }
+
+    qsizetype size() const { return operations.size(); }
+    bool allReported() const { return nextReport >= size(); }
+
+    const QList<ExifRunnerOperationPtr> operations;
+    QStringList fileNames;
+    std::vector<State> states;
+    std::vector<ErrorMessagesPtr> errors;
+    qsizetype nextClaim = 0;
+    qsizetype nextReport = 0;
+    bool announced = false; // fileToBeProcessed of nextReport is posted
+    QSet<QString> inFlight;
+
+    QMutex mutex;
+    QWaitCondition changed;
+};
+
+using BatchRunPtr = std::shared_ptr<BatchRun>;
+
+} // namespace
+
+// The runner's threads and its FIFO of batches. The first thread takes the batches one after
+// another; while it runs one, a second thread may help with its files. Each thread makes and
+// ends its own ExifTool session, as a process must stay with the thread that started it.
 class ExifBackgroundRunner::Worker
 {
 public:
@@ -30,6 +70,9 @@ public:
         m_thread.reset(QThread::create([this] { loop(); }));
         m_thread->setObjectName(ThreadName);
         m_thread->start();
+        m_helper.reset(QThread::create([this] { helperLoop(); }));
+        m_helper->setObjectName(ThreadName + QStringLiteral(" 2"));
+        m_helper->start();
     }
 
     ~Worker()
@@ -40,6 +83,12 @@ public:
             m_wake.wakeAll();
         }
         m_thread->wait();
+        {
+            QMutexLocker locker(&m_mutex);
+            m_helperStopping = true;
+            m_helperWake.wakeAll();
+        }
+        m_helper->wait();
     }
 
     void enqueue(QList<ExifRunnerOperationPtr> batch)
@@ -72,6 +121,9 @@ public:
         m_listener = listener;
     }
 
+    void setMaximumConcurrentOperations(int count) { m_concurrency = std::clamp(count, 1, 2); }
+    int maximumConcurrentOperations() const { return m_concurrency; }
+
 private:
     void loop()
     {
@@ -89,59 +141,130 @@ private:
                 m_batches.pop_front();
                 m_busy = true;
             }
-            processOperations(batch, *session);
+            processOperations(std::move(batch), *session);
             QMutexLocker locker(&m_mutex);
             m_busy = false;
             m_idle.wakeAll();
         }
     }
 
-    void processOperations(const QList<ExifRunnerOperationPtr> &operations,
-                           ExifToolSession &session)
+    // The session is made at the first batch it helps with, so a serial runner starts one
+    // ExifTool only.
+    void helperLoop()
     {
-        QHash<QString, ErrorMessagesPtr> results;
-        const quint64 total = quint64(operations.size());
-        for (qsizetype i = 0; i < operations.size(); ++i) {
-            const ExifRunnerOperationPtr &operation = operations.at(i);
-            const quint64 position = quint64(i) + 1;
+        std::unique_ptr<ExifToolSession> session;
+        for (;;) {
+            BatchRunPtr run;
+            {
+                QMutexLocker locker(&m_mutex);
+                while (!m_helperRun && !m_helperStopping)
+                    m_helperWake.wait(&m_mutex);
+                if (!m_helperRun)
+                    return;
+                run = std::move(m_helperRun);
+                m_helperRun.reset();
+            }
+            if (!session)
+                session = makeExifToolSession(m_kind, m_program);
+            work(*run, *session);
+        }
+    }
+
+    void processOperations(QList<ExifRunnerOperationPtr> operations, ExifToolSession &session)
+    {
+        const auto run = std::make_shared<BatchRun>(std::move(operations));
+        for (const ExifRunnerOperationPtr &operation : run->operations) {
             QString fileName;
-            ErrorMessagesPtr errors;
             try {
                 fileName = operation->fileName();
             } catch (const std::exception &exception) {
                 qCWarning(lcTagsmith).noquote() << QString::fromUtf8(exception.what());
             }
-            post([fileName, position, total](ExifBackgroundRunnerListener *listener) {
-                listener->fileToBeProcessed(
-                    nullptr, ExifOperationStatus(0, fileName, position, total, nullptr));
-            });
+            run->fileNames.append(fileName);
+        }
 
-            operation->setExifToolSession(&session);
-            std::exception_ptr caught;
-            try {
-                operation->run();
-            } catch (...) {
-                caught = std::current_exception();
-            }
-            try {
-                errors = operation->errors();
-            } catch (...) {
-                if (!caught)
-                    caught = std::current_exception();
-            }
-            if (caught) {
-                // Whatever went wrong, the file's results say so, even when the operation had
-                // not yet made its messages.
-                if (!errors)
-                    errors = std::make_shared<ErrorMessages>(fileName);
-                addException(*errors, caught);
-            }
-            if (errors)
-                results.insert(fileName, errors);
+        if (m_concurrency > 1 && run->size() > 1) {
+            QMutexLocker locker(&m_mutex);
+            m_helperRun = run;
+            m_helperWake.wakeAll();
+        }
+        work(*run, session);
+        {
+            // The helper may still be on its last file.
+            QMutexLocker locker(&run->mutex);
+            while (!run->allReported())
+                run->changed.wait(&run->mutex);
+        }
 
+        // In batch order, so that of a file given twice the later result wins.
+        QHash<QString, ErrorMessagesPtr> results;
+        for (qsizetype i = 0; i < run->size(); ++i) {
+            if (run->errors[size_t(i)])
+                results.insert(run->fileNames.at(i), run->errors[size_t(i)]);
+        }
+        post([results](ExifBackgroundRunnerListener *listener) {
+            listener->finishProcessing(results);
+        });
+    }
+
+    void work(BatchRun &run, ExifToolSession &session)
+    {
+        for (qsizetype i = claim(run); i >= 0; i = claim(run)) {
+            ErrorMessagesPtr errors =
+                runOperation(*run.operations.at(i), run.fileNames.at(i), session);
+            QMutexLocker locker(&run.mutex);
+            run.errors[size_t(i)] = std::move(errors);
+            run.states[size_t(i)] = BatchRun::State::Done;
+            run.inFlight.remove(run.fileNames.at(i));
+            report(run);
+            run.changed.wakeAll();
+        }
+    }
+
+    // The next file of the batch, or -1 when none is left. Two operations on one file never run
+    // at once: the second waits for the first.
+    qsizetype claim(BatchRun &run)
+    {
+        QMutexLocker locker(&run.mutex);
+        for (;;) {
+            if (run.nextClaim >= run.size())
+                return -1;
+            if (!run.inFlight.contains(run.fileNames.at(run.nextClaim)))
+                break;
+            run.changed.wait(&run.mutex);
+        }
+        const qsizetype index = run.nextClaim++;
+        run.inFlight.insert(run.fileNames.at(index));
+        run.states[size_t(index)] = BatchRun::State::Running;
+        report(run);
+        return index;
+    }
+
+    // Posts, under the batch's lock so that the two threads' posts keep their order, what the
+    // listener may hear now: a file is announced once it started and the one before it is
+    // done, and reported done only after all before it.
+    void report(BatchRun &run)
+    {
+        const quint64 total = quint64(run.size());
+        while (!run.allReported()) {
+            const qsizetype index = run.nextReport;
+            const BatchRun::State state = run.states[size_t(index)];
+            const QString fileName = run.fileNames.at(index);
+            const quint64 position = quint64(index) + 1;
+            if (!run.announced) {
+                if (state == BatchRun::State::Waiting)
+                    return;
+                post([fileName, position, total](ExifBackgroundRunnerListener *listener) {
+                    listener->fileToBeProcessed(
+                        nullptr, ExifOperationStatus(0, fileName, position, total, nullptr));
+                });
+                run.announced = true;
+            }
+            if (state != BatchRun::State::Done)
+                return;
             post(
-                [operation, fileName, position, total,
-                 errors](ExifBackgroundRunnerListener *listener) {
+                [operation = run.operations.at(index), fileName, position, total,
+                 errors = run.errors[size_t(index)]](ExifBackgroundRunnerListener *listener) {
                     try {
                         operation->postProcessInMainThread();
                     } catch (const std::exception &exception) {
@@ -151,10 +274,36 @@ private:
                         nullptr, ExifOperationStatus(0, fileName, position, total, errors));
                 },
                 true);
+            ++run.nextReport;
+            run.announced = false;
         }
-        post([results](ExifBackgroundRunnerListener *listener) {
-            listener->finishProcessing(results);
-        });
+    }
+
+    static ErrorMessagesPtr runOperation(ExifRunnerOperation &operation, const QString &fileName,
+                                         ExifToolSession &session)
+    {
+        ErrorMessagesPtr errors;
+        operation.setExifToolSession(&session);
+        std::exception_ptr caught;
+        try {
+            operation.run();
+        } catch (...) {
+            caught = std::current_exception();
+        }
+        try {
+            errors = operation.errors();
+        } catch (...) {
+            if (!caught)
+                caught = std::current_exception();
+        }
+        if (caught) {
+            // Whatever went wrong, the file's results say so, even when the operation had not
+            // yet made its messages.
+            if (!errors)
+                errors = std::make_shared<ErrorMessages>(fileName);
+            addException(*errors, caught);
+        }
+        return errors;
     }
 
     static void addException(ErrorMessages &errors, const std::exception_ptr &caught)
@@ -200,13 +349,18 @@ private:
     const ExifToolSessionKind m_kind;
     const QString m_program;
     std::unique_ptr<QThread> m_thread;
+    std::unique_ptr<QThread> m_helper;
 
     mutable QMutex m_mutex;
     QWaitCondition m_wake;
     QWaitCondition m_idle;
+    QWaitCondition m_helperWake;
     std::deque<QList<ExifRunnerOperationPtr>> m_batches;
     bool m_busy = false;
     bool m_stopping = false;
+    BatchRunPtr m_helperRun;
+    bool m_helperStopping = false;
+    std::atomic<int> m_concurrency{2};
     ExifBackgroundRunnerListener *m_listener = nullptr;
 };
 
@@ -286,6 +440,16 @@ qsizetype ExifBackgroundRunner::queueOperations(QList<ExifRunnerOperationPtr> op
     const qsizetype count = operations.size();
     m_worker->enqueue(std::move(operations));
     return count;
+}
+
+void ExifBackgroundRunner::setMaximumConcurrentOperations(int count)
+{
+    m_worker->setMaximumConcurrentOperations(count);
+}
+
+int ExifBackgroundRunner::maximumConcurrentOperations() const
+{
+    return m_worker->maximumConcurrentOperations();
 }
 
 bool ExifBackgroundRunner::waitForIdle(int timeoutMs)

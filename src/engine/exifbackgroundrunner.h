@@ -13,10 +13,11 @@
 
 class QThread;
 
-// Runs the batches of file operations, one operation at a time in submission order, on its own
-// thread named "Exif Operations Background Runner", and tells the listener of every step on the
-// main thread. Keeps one ExifTool session on that thread for all of its operations. Lives in
-// the thread that made it, which must run an event loop for the listener to hear anything.
+// Runs the batches of file operations one after another in submission order on its own thread
+// named "Exif Operations Background Runner", which a second thread helps with up to two files of
+// a batch at once, and tells the listener of every step on the main thread, files in batch
+// order. Each thread keeps one ExifTool session for all of its operations. Lives in the thread
+// that made it, which must run an event loop for the listener to hear anything.
 class ExifBackgroundRunner : public QObject
 {
     Q_OBJECT
@@ -48,6 +49,11 @@ public:
 
     // Queues any prepared batch; the three calls above end here.
     qsizetype queueOperations(QList<ExifRunnerOperationPtr> operations);
+
+    // How many files of a batch may be worked on at once: 1 or 2 (the default). Each file still
+    // goes through one operation on one ExifTool session. Applies from the next batch.
+    void setMaximumConcurrentOperations(int count);
+    int maximumConcurrentOperations() const;
 
     // Blocks until every queued batch has run (its listener calls may still be on their way to
     // the main thread). For tests and for quitting.
