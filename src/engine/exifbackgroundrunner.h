@@ -51,7 +51,7 @@ public:
     qsizetype queueOperations(QList<ExifRunnerOperationPtr> operations);
 
     // How many files of a batch may be worked on at once: 1 or 2 (the default). Each file still
-    // goes through one operation on one ExifTool session. Applies from the next batch.
+    // goes through one operation on one ExifTool session. Applies to batches not yet started.
     void setMaximumConcurrentOperations(int count);
     int maximumConcurrentOperations() const;
 
