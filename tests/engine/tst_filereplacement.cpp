@@ -90,6 +90,13 @@ class TestFileReplacement : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // A temp folder of our own: tests running beside this one make and remove alias folders
+    // in the shared one.
+    void initTestCase()
+    {
+        QVERIFY(m_temp.isValid());
+        qputenv("TMPDIR", QFile::encodeName(m_temp.path()));
+    }
     void percentNamesSaveInPlace();
     void keepsIdentity_data();
     void keepsIdentity();
@@ -98,6 +105,9 @@ private Q_SLOTS:
     void refusesWhenOwnerCannotBeKept();
     void removesOnlyLeftoversOfStoppedRuns();
     void fullDiskKeepsOriginal();
+
+private:
+    QTemporaryDir m_temp;
 };
 
 void TestFileReplacement::percentNamesSaveInPlace()
