@@ -180,6 +180,8 @@ ExifRunnerFileModifiyOperation::writeFile(const QStringList &arguments, ErrorMes
             debugPrintArguments(all);
         result.exitStatus = runExifToolWithArgs(all, errors);
         if (result.exitStatus == 0) {
+            // The disk works on the new file while ExifTool reads it back.
+            m_replacement->startFlush();
             bool typeDiffers = false;
             std::optional<TagDictionary> written = checkNewFile(errors, typeDiffers);
             if (written) {

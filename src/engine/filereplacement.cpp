@@ -413,3 +413,14 @@ bool setFileModificationTime(const QString &path, const timespec &time, QString 
     }
     return false;
 }
+
+void FileReplacement::startFlush() const
+{
+    if (m_temporaryPath.isEmpty())
+        return;
+    const int fd = ::open(encoded(m_temporaryPath).constData(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC);
+    if (fd < 0)
+        return;
+    ::sync_file_range(fd, 0, 0, SYNC_FILE_RANGE_WRITE);
+    ::close(fd);
+}

@@ -52,6 +52,9 @@ public:
     // when the rename fails; the original is then untouched and the temporary file removed.
     // A target with other hard links is replaced all the same, with a warning.
     bool commit(ErrorMessages &errors);
+    // Starts writing the new file to disk without waiting, so that the flush commit() must
+    // make is mostly done by then. Only a hint: nothing is promised until commit().
+    void startFlush() const;
     // Removes the temporary file and the scratch folder.
     void discard();
 
