@@ -6,6 +6,7 @@
 #include "controls/attachedwindow.h"
 #include "controls/numberformattervalidator.h"
 #include "values/gpslocation.h"
+#include "values/leadingnumber.h"
 #include "values/numberformatter.h"
 #include "values/usersettings.h"
 
@@ -35,12 +36,6 @@ QString formatGpsDegrees(double degrees)
             text.chop(1);
     }
     return text == u"-0" ? QString(u"0"_qs) : text;
-}
-
-// Leading number of a text as C's atof reads it; 0 when there is none.
-double leadingDouble(const QString &text)
-{
-    return std::atof(text.trimmed().toUtf8().constData());
 }
 
 std::optional<GPSLocation> parseCoordinate(const QString &text, FieldDataRepresentation r)
@@ -143,7 +138,7 @@ void TextEditor::displayValue(const QString &value)
 {
     switch (field()->dataRepresentation()) {
     case FieldDataRepresentation::Fraction: {
-        const double number = leadingDouble(value);
+        const double number = leadingNumber(value);
         // Every value below one, zero and negatives included, shows as its reciprocal.
         m_editor->setText(!value.isEmpty() && number < 1 ? QString::asprintf("1/%.0f", 1.0 / number)
                                                          : value);
@@ -151,7 +146,7 @@ void TextEditor::displayValue(const QString &value)
     }
     case FieldDataRepresentation::Longitude:
     case FieldDataRepresentation::Latitude:
-        m_editor->setText(value.isEmpty() ? QString() : formatLocation(leadingDouble(value)));
+        m_editor->setText(value.isEmpty() ? QString() : formatLocation(leadingNumber(value)));
         break;
     default:
         m_editor->setText(value);
@@ -209,8 +204,8 @@ void TextEditor::updateExifFileValue(const ExifFileInfoPtr &file)
         if (value.contains(u'/')) {
             const QStringList parts = value.split(u'/');
             if (parts.size() == 2) {
-                file->setExifValue(key, QString::asprintf("%f", leadingDouble(parts.at(0)) /
-                                                                    leadingDouble(parts.at(1))));
+                file->setExifValue(key, QString::asprintf("%f", leadingNumber(parts.at(0)) /
+                                                                    leadingNumber(parts.at(1))));
             }
         } else {
             file->setExifValue(key, value);
@@ -330,7 +325,7 @@ bool TextEditor::isModified() const
                         modified = current != original;
                     else
                         modified =
-                            std::abs(leadingDouble(current) - leadingDouble(original)) > tolerance;
+                            std::abs(leadingNumber(current) - leadingNumber(original)) > tolerance;
                     return !modified;
                 });
     return modified;
@@ -385,7 +380,7 @@ bool TextEditor::copyToConfiguration(ExifConfiguration &configuration)
         } else if (const QStringList parts = text.split(u'/'); parts.size() == 2) {
             configuration.changedValues().insert(
                 key,
-                QString::asprintf("%f", leadingDouble(parts.at(0)) / leadingDouble(parts.at(1))));
+                QString::asprintf("%f", leadingNumber(parts.at(0)) / leadingNumber(parts.at(1))));
         }
         break;
     case FieldDataRepresentation::Longitude:

@@ -58,10 +58,6 @@ public:
     // Copies the file to its first free backup name. Failures go to errors.
     static bool backupExifFile(const ExifFileInfo &file, ErrorMessages &errors);
 
-    // The leading decimal number of an ExifTool value, read with a full stop whatever the
-    // locale; trailing text is ignored and no number gives 0.
-    static double leadingNumber(const QString &value);
-
 private:
     struct Report
     {

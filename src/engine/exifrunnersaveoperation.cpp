@@ -6,6 +6,7 @@
 #include "engine/exifutil.h"
 #include "values/dateoffset.h"
 #include "values/datevalue.h"
+#include "values/leadingnumber.h"
 #include "values/numberformatter.h"
 #include "values/taglist.h"
 #include "values/usersettings.h"
@@ -283,13 +284,13 @@ bool ExifRunnerSaveOperation::readsBackAsWritten(const QString &key, const QStri
                      : std::nullopt;
         std::optional<double> gotNumber = field->createFormatter()->numberFromString(got);
         if (!gotNumber)
-            gotNumber = ExifRunner::leadingNumber(got);
+            gotNumber = leadingNumber(got);
         return expectedNumber && numbersMatch(*gotNumber, *expectedNumber, field->decimals());
     }
     case FieldDataRepresentation::Latitude:
     case FieldDataRepresentation::Longitude:
         // Stored as degrees, minutes and seconds: the decimal comes back rounded.
-        return std::fabs(ExifRunner::leadingNumber(got) - ExifRunner::leadingNumber(value)) <= 1e-6;
+        return std::fabs(leadingNumber(got) - leadingNumber(value)) <= 1e-6;
     default:
         break;
     }

@@ -2,6 +2,7 @@
 
 #include "catalogue/exiffieldscontroller.h"
 #include "values/datevalue.h"
+#include "values/leadingnumber.h"
 #include "values/taglist.h"
 
 #include <QRegularExpression>
@@ -17,19 +18,6 @@ const QSet<QString> &automaticallyGeneratedKeys()
     static const QSet<QString> keys{u"System:FileModifyDate"_qs, u"IFD1:ThumbnailOffset"_qs,
                                     u"System:FileSize"_qs};
     return keys;
-}
-
-// A text that is no number reads as 0; a number followed by other text reads as the number.
-double leadingNumber(const QString &text)
-{
-    static const QRegularExpression number(
-        QStringLiteral("^\\s*([+-]?(?:\\d+\\.?\\d*|\\.\\d+)(?:[eE][+-]?\\d+)?)"));
-    const QRegularExpressionMatch match = number.match(text);
-    if (!match.hasMatch())
-        return 0;
-    bool ok = false;
-    const double value = match.captured(1).toDouble(&ok);
-    return ok && std::isfinite(value) ? value : 0;
 }
 
 bool sameSets(const QSet<QString> &newSet, const QSet<QString> &oldSet)
