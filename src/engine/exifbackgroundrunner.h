@@ -36,9 +36,10 @@ public:
     ExifBackgroundRunnerListener *listener() const;
 
     // Each queues one batch (also when it is empty) and returns how many operations it holds.
-    qsizetype saveFiles(const QList<ExifFileInfoPtr> &files, quint32 options);
-    qsizetype removeAllMetadata(const QList<ExifFileInfoPtr> &files, quint32 options);
-    qsizetype removeMakerNotesFromFiles(const QList<ExifFileInfoPtr> &files, quint32 options);
+    virtual qsizetype saveFiles(const QList<ExifFileInfoPtr> &files, quint32 options);
+    virtual qsizetype removeAllMetadata(const QList<ExifFileInfoPtr> &files, quint32 options);
+    virtual qsizetype removeMakerNotesFromFiles(const QList<ExifFileInfoPtr> &files,
+                                                quint32 options);
 
     QList<ExifRunnerOperationPtr> createSaveOperations(const QList<ExifFileInfoPtr> &files,
                                                        quint32 options) const;

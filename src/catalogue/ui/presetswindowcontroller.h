@@ -1,0 +1,45 @@
+#pragma once
+
+#include "catalogue/exifsettings.h"
+
+#include <QString>
+#include <QStringList>
+#include <QWidget>
+
+class ConfigurationViewController;
+class QTableView;
+
+// The window where presets are created, named, edited and deleted: the list of presets on the
+// left, the form of every field for the selected preset on the right. The store stays the source
+// of truth; the preset being edited is saved whenever the user leaves it.
+class PresetsWindowController : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PresetsWindowController(QWidget *parent = nullptr,
+                                     ExifSettings &store = ExifSettings::instance());
+    ~PresetsWindowController() override;
+
+    // Brings the window to the front.
+    void showWindow();
+
+    void reloadConfigurations();
+    void selectFirstPreset();
+    void addConfiguration();
+    void removeConfiguration();
+    void renameConfiguration();
+    void saveConfiguration();
+
+    const QStringList &configNames() const { return m_configNames; }
+    const QString &currentConfigName() const { return m_currentConfigName; }
+    ConfigurationViewController *configController() const { return m_configController; }
+    QTableView *configurationsTable() const { return m_configurationsTable; }
+
+private:
+    ExifSettings &m_store;
+    ConfigurationViewController *m_configController = nullptr;
+    QTableView *m_configurationsTable = nullptr;
+    QStringList m_configNames;
+    QString m_currentConfigName;
+};

@@ -1,0 +1,84 @@
+#pragma once
+
+#include "catalogue/exiffield.h"
+#include "engine/exiffileinfo.h"
+
+#include <QList>
+#include <QObject>
+#include <QPointer>
+#include <QString>
+
+#include <functional>
+#include <optional>
+
+class ExifConfiguration;
+class ExifFieldsController;
+class FieldEditor;
+class GroupEditor;
+class QScrollArea;
+class QWidget;
+
+// The scrolling form of every catalogue field: group headings, section headings and one row
+// editor per field, built once and then only shown, hidden, moved, filled and cleared. Serves the
+// main window (the selected files) and the presets window (one preset, with remove buttons and
+// date-offset rows).
+class ConfigurationViewController : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit ConfigurationViewController(QObject *parent = nullptr,
+                                         const ExifFieldsController *catalogue = nullptr);
+    ~ConfigurationViewController() override;
+
+    // The form inside its scroll area; the owner puts scrollArea() in its layout.
+    QScrollArea *scrollArea() const;
+    QWidget *view() const;
+
+    // Set before createUserInterface.
+    bool showRemove() const { return m_showRemove; }
+    void setShowRemove(bool on) { m_showRemove = on; }
+    // What the "GPS" section's "Show Map" button does.
+    void setShowMapAction(std::function<void()> action) { m_showMapAction = std::move(action); }
+
+    void createUserInterface();
+    static double calculateMaxLabelWidth(const QList<GroupPtr> &groups);
+    double maxLabelWidth() const { return m_maxLabelWidth; }
+
+    void setExifFiles(const QList<ExifFileInfoPtr> &files);
+    const QList<ExifFileInfoPtr> &exifFiles() const { return m_exifFiles; }
+    // The one maker name all files map to, or none for mixed or no files.
+    static std::optional<QString> gatherImageMaker(const QList<ExifFileInfoPtr> &files);
+
+    void setExifConfiguration(const ExifConfiguration *configuration);
+    bool copyToConfiguration(ExifConfiguration &configuration);
+    bool copyToFileInfos(const QList<ExifFileInfoPtr> &files);
+
+    // Ends an edit still in progress in a row (typed text not yet confirmed), so it reaches the
+    // files before the selection changes.
+    void commitPendingInput();
+
+    void clearEditors();
+    void setEnabled(bool enabled);
+
+    // Every row editor, in catalogue order.
+    const QList<FieldEditor *> &fields() const { return m_fields; }
+    const QList<GroupEditor *> &groupEditors() const { return m_groupEditors; }
+    // The height of the laid-out form.
+    int formHeight() const;
+
+private:
+    int createFieldEditor(const ExifFieldPtr &field, QList<FieldEditor *> &allEditors, int top);
+    void layoutForm(const std::optional<QString> &maker);
+
+    const ExifFieldsController *m_catalogue;
+    QPointer<QScrollArea> m_scrollArea;
+    QPointer<QWidget> m_view;
+    QList<FieldEditor *> m_fields;
+    QList<GroupEditor *> m_groupEditors;
+    QList<ExifFileInfoPtr> m_exifFiles;
+    std::function<void()> m_showMapAction;
+    double m_maxLabelWidth = 0;
+    bool m_showRemove = false;
+    bool m_isBuilt = false;
+};
