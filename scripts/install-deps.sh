@@ -3,10 +3,13 @@
 # already there. Runs apt-get directly as root, through sudo otherwise.
 set -eu
 
+# The last line's encoders make the HEIC, AVIF, WebP and JPEG XL pictures the tests edit.
+
 packages="g++ make cmake ninja-build perl python3 pkg-config
 qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
 qt6-webengine-dev qt6-webchannel-dev qt6-image-formats-plugins libgl-dev
-xvfb xauth"
+xvfb xauth
+libheif-examples webp libjxl-tools"
 
 missing=""
 for p in $packages; do

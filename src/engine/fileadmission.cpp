@@ -1,8 +1,96 @@
 #include "engine/fileadmission.h"
 
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
 #include <QFileInfo>
+#include <QSet>
 
-// Placeholder until admission is built; the "formats" work replaces this file.
+#include <algorithm>
+
+#include <unistd.h>
+
+namespace {
+
+struct Admission
+{
+    const std::function<bool(const QString &)> &hasFileInList;
+    FileAdmissionResult result;
+    QSet<QString> acceptedSet;
+    QSet<QString> visitedFolders;
+
+    void reject(const QString &path, FileRejection::Reason reason)
+    {
+        result.rejected.append({path, reason});
+    }
+
+    // Root passes any permission test; access() asks about this process's real rights.
+    static bool isReadable(const QString &path, int mode)
+    {
+        return ::access(QFile::encodeName(path).constData(), mode) == 0;
+    }
+
+    void addFile(const QString &path, const QFileInfo &info)
+    {
+        // A FIFO or device named like a photo would hang ExifTool on open.
+        if (!info.isFile() || !FileAdmission::supportsFile(path))
+            reject(path, FileRejection::Reason::Unsupported);
+        else if (!isReadable(path, R_OK))
+            reject(path, FileRejection::Reason::Unreadable);
+        else if (acceptedSet.contains(path) || hasFileInList(path))
+            reject(path, FileRejection::Reason::AlreadyInList);
+        else {
+            acceptedSet.insert(path);
+            result.accepted.append(path);
+        }
+    }
+
+    void addPath(const QString &path, bool isInsideFolder)
+    {
+        const QFileInfo info(path);
+        if (!info.exists()) {
+            reject(path, FileRejection::Reason::Missing);
+            return;
+        }
+        if (!info.isDir()) {
+            addFile(path, info);
+            return;
+        }
+        if (!isReadable(path, R_OK | X_OK)) {
+            reject(path, FileRejection::Reason::Unreadable);
+            return;
+        }
+        // A link back up the tree would otherwise be scanned forever.
+        const QString canonical = info.canonicalFilePath();
+        if (visitedFolders.contains(canonical)) {
+            if (!isInsideFolder)
+                reject(path, FileRejection::Reason::AlreadyInList);
+            return;
+        }
+        visitedFolders.insert(canonical);
+        scanFolder(path);
+    }
+
+    void scanFolder(const QString &folder)
+    {
+        QStringList entries = QDir(folder).entryList(
+            QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Unsorted);
+        // Byte order, not the locale's: the same folder gives the same rows everywhere.
+        std::sort(entries.begin(), entries.end());
+        const QString prefix = folder.endsWith(QLatin1Char('/')) ? folder : folder + u'/';
+        for (const QString &entry : std::as_const(entries)) {
+            const QString path = prefix + entry;
+            // Caches, trash and sidecar folders of other programs hide themselves this way.
+            if (entry.startsWith(QLatin1Char('.')))
+                reject(path, FileRejection::Reason::Hidden);
+            else
+                addPath(path, true);
+        }
+    }
+};
+
+} // namespace
+
 bool FileAdmission::supportsFile(const QString &path)
 {
     return supportedExtensions().contains(QFileInfo(path).suffix().toLower());
@@ -10,8 +98,22 @@ bool FileAdmission::supportsFile(const QString &path)
 
 const QStringList &FileAdmission::supportedExtensions()
 {
-    static const QStringList extensions{QStringLiteral("jpg"), QStringLiteral("jpeg"),
-                                        QStringLiteral("tif"), QStringLiteral("tiff")};
+    // Only what the bundled ExifTool can write ("exiftool -listwf"): a file it could read but
+    // not write would let the user edit it and fail only at saving. Hasselblad's 3fr is left out
+    // for that reason, though other raw formats of that age are here.
+    static const QStringList extensions{
+        // Still images of the first release.
+        QStringLiteral("arw"), QStringLiteral("cr2"), QStringLiteral("dng"), QStringLiteral("iiq"),
+        QStringLiteral("jpg"), QStringLiteral("jpeg"), QStringLiteral("nef"), QStringLiteral("orf"),
+        QStringLiteral("pef"), QStringLiteral("png"), QStringLiteral("psb"), QStringLiteral("psd"),
+        QStringLiteral("raf"), QStringLiteral("raw"), QStringLiteral("rw2"), QStringLiteral("rwl"),
+        QStringLiteral("tif"), QStringLiteral("tiff"), QStringLiteral("x3f"),
+        // Today's cameras, phones and web exports, and older raw formats still in archives.
+        QStringLiteral("cr3"), QStringLiteral("crw"), QStringLiteral("heic"),
+        QStringLiteral("heif"), QStringLiteral("hif"), QStringLiteral("avif"),
+        QStringLiteral("webp"), QStringLiteral("jxl"), QStringLiteral("nrw"), QStringLiteral("srw"),
+        QStringLiteral("erf"), QStringLiteral("mef"), QStringLiteral("mos"), QStringLiteral("mrw"),
+        QStringLiteral("sr2"), QStringLiteral("gpr"), QStringLiteral("mpo"), QStringLiteral("gif")};
     return extensions;
 }
 
@@ -19,15 +121,25 @@ FileAdmissionResult
 FileAdmission::preprocessFilesToBeAdded(const QStringList &paths,
                                         const std::function<bool(const QString &)> &hasFileInList)
 {
-    FileAdmissionResult result;
-    for (const QString &path : paths) {
-        if (supportsFile(path) && !hasFileInList(path))
-            result.accepted.append(path);
-    }
-    return result;
+    Admission admission{hasFileInList, {}, {}, {}};
+    for (const QString &path : paths)
+        admission.addPath(path, false);
+    return admission.result;
 }
 
-QString FileAdmission::reasonText(FileRejection::Reason)
+QString FileAdmission::reasonText(FileRejection::Reason reason)
 {
+    switch (reason) {
+    case FileRejection::Reason::Unsupported:
+        return QCoreApplication::translate("Localizable", "unsupported type");
+    case FileRejection::Reason::Unreadable:
+        return QCoreApplication::translate("Localizable", "unreadable");
+    case FileRejection::Reason::AlreadyInList:
+        return QCoreApplication::translate("Localizable", "already in the list");
+    case FileRejection::Reason::Hidden:
+        return QCoreApplication::translate("Localizable", "hidden");
+    case FileRejection::Reason::Missing:
+        return QCoreApplication::translate("Localizable", "not found");
+    }
     return {};
 }
