@@ -45,7 +45,8 @@ struct Admission
         }
     }
 
-    void addPath(const QString &path, bool isInsideFolder)
+    // parentFolder: the canonical path of the folder being scanned, empty for a path given.
+    void addPath(const QString &path, const QString &parentFolder)
     {
         const QFileInfo info(path);
         if (!info.exists()) {
@@ -60,18 +61,23 @@ struct Admission
             reject(path, FileRejection::Reason::Unreadable);
             return;
         }
-        // A link back up the tree would otherwise be scanned forever.
         const QString canonical = info.canonicalFilePath();
-        if (visitedFolders.contains(canonical)) {
-            if (!isInsideFolder)
-                reject(path, FileRejection::Reason::AlreadyInList);
+        if (!parentFolder.isEmpty()) {
+            // A link back up the tree would otherwise be scanned forever.
+            const bool isAncestor = parentFolder == canonical ||
+                                    parentFolder.startsWith(canonical + u'/') ||
+                                    canonical == u"/"_qs;
+            if (isAncestor || visitedFolders.contains(canonical))
+                return;
+        } else if (visitedFolders.contains(canonical)) {
+            reject(path, FileRejection::Reason::AlreadyInList);
             return;
         }
         visitedFolders.insert(canonical);
-        scanFolder(path);
+        scanFolder(path, canonical);
     }
 
-    void scanFolder(const QString &folder)
+    void scanFolder(const QString &folder, const QString &canonical)
     {
         QStringList entries = QDir(folder).entryList(
             QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Unsorted);
@@ -84,7 +90,7 @@ struct Admission
             if (entry.startsWith(QLatin1Char('.')))
                 reject(path, FileRejection::Reason::Hidden);
             else
-                addPath(path, true);
+                addPath(path, canonical);
         }
     }
 };
@@ -123,7 +129,7 @@ FileAdmission::preprocessFilesToBeAdded(const QStringList &paths,
 {
     Admission admission{hasFileInList, {}, {}, {}};
     for (const QString &path : paths)
-        admission.addPath(path, false);
+        admission.addPath(path, {});
     return admission.result;
 }
 

@@ -1,0 +1,181 @@
+#include "engine/fileadmission.h"
+
+#include "../support/fixtures.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+const QString AdmitPaths = QStringLiteral(TAGSMITH_TEST_HELPERS_DIR "/admitpaths");
+
+// One line per outcome, as the note lists them: "accepted PATH" or "<reason> PATH".
+QStringList outcome(const FileAdmissionResult &result)
+{
+    QStringList lines;
+    for (const QString &path : result.accepted)
+        lines << u"accepted "_qs + path;
+    for (const FileRejection &rejection : result.rejected)
+        lines << FileAdmission::reasonText(rejection.reason) + u' ' + rejection.path;
+    return lines;
+}
+
+bool touch(const QString &path, mode_t mode = 0644)
+{
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return false;
+    file.close();
+    return ::chmod(QFile::encodeName(path).constData(), mode) == 0;
+}
+
+} // namespace
+
+class TestFileAdmission : public QObject
+{
+    Q_OBJECT
+
+    QTemporaryDir m_dir;
+    QString m_root; // holds the tree "d"
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QVERIFY(m_dir.isValid());
+        m_root = m_dir.path();
+        for (const char *name : {"d/PHOTO.JPG", "d/b/x.heic", "d/y.CR3", "d/notes.txt",
+                                 "d/.hidden.jpg", "d/.cache/a.jpg", "d/z.jpg", "d/3fr/old.3fr"})
+            QVERIFY(touch(m_root + u'/' + QString::fromLatin1(name)));
+        // Opening a FIFO blocks until someone writes: ExifTool would hang on it.
+        QCOMPARE(::mkfifo(QFile::encodeName(m_root + u"/d/b/pipe.jpg"_qs).constData(), 0644), 0);
+        // A link back up the tree must not make the scan endless.
+        QVERIFY(QFile::link(m_root + u"/d"_qs, m_root + u"/d/b/loop"_qs));
+        QVERIFY(QFile::link(m_root + u"/d/gone.jpg"_qs, m_root + u"/d/b/dangling.jpg"_qs));
+    }
+
+    void admitsWithReasons_data()
+    {
+        QTest::addColumn<QStringList>("paths");
+        QTest::addColumn<QStringList>("inList");
+        QTest::addColumn<QStringList>("expected");
+
+        // Entries come in byte order, so hidden ones (".") come first and capitals before
+        // lower case; the folder "b" is expanded in its place.
+        const QStringList folder{u"accepted @/d/PHOTO.JPG"_qs,
+                                 u"accepted @/d/b/x.heic"_qs,
+                                 u"accepted @/d/y.CR3"_qs,
+                                 u"hidden @/d/.cache"_qs,
+                                 u"hidden @/d/.hidden.jpg"_qs,
+                                 u"unsupported type @/d/3fr/old.3fr"_qs,
+                                 u"not found @/d/b/dangling.jpg"_qs,
+                                 u"unsupported type @/d/b/pipe.jpg"_qs,
+                                 u"unsupported type @/d/notes.txt"_qs,
+                                 u"already in the list @/d/z.jpg"_qs};
+        QTest::newRow("folder") << QStringList{u"@/d"_qs} << QStringList{u"@/d/z.jpg"_qs} << folder;
+        QTest::newRow("folder with a trailing slash joins with one slash")
+            << QStringList{u"@/d/"_qs} << QStringList{u"@/d/z.jpg"_qs} << folder;
+        QTest::newRow("paths one by one keep the order given")
+            << QStringList{u"@/d/y.CR3"_qs, u"@/nothing.jpg"_qs, u"@/d/PHOTO.JPG"_qs,
+                           u"@/d/y.CR3"_qs, u"@/d/notes.txt"_qs, u"@/d/.hidden.jpg"_qs,
+                           u"@/d/z.jpg"_qs}
+            << QStringList{}
+            << QStringList{u"accepted @/d/y.CR3"_qs,
+                           u"accepted @/d/PHOTO.JPG"_qs,
+                           u"accepted @/d/.hidden.jpg"_qs,
+                           u"accepted @/d/z.jpg"_qs,
+                           u"not found @/nothing.jpg"_qs,
+                           u"already in the list @/d/y.CR3"_qs,
+                           u"unsupported type @/d/notes.txt"_qs};
+        QTest::newRow("a file and then its folder")
+            << QStringList{u"@/d/b/x.heic"_qs, u"@/d/b"_qs, u"@/d/b"_qs} << QStringList{}
+            << QStringList{u"accepted @/d/b/x.heic"_qs, u"not found @/d/b/dangling.jpg"_qs,
+                           u"unsupported type @/d/b/pipe.jpg"_qs,
+                           u"already in the list @/d/b/x.heic"_qs, u"already in the list @/d/b"_qs};
+    }
+
+    void admitsWithReasons()
+    {
+        QFETCH(QStringList, paths);
+        QFETCH(QStringList, inList);
+        QFETCH(QStringList, expected);
+        paths.replaceInStrings(u"@"_qs, m_root);
+        inList.replaceInStrings(u"@"_qs, m_root);
+        expected.replaceInStrings(u"@"_qs, m_root);
+
+        const FileAdmissionResult result = FileAdmission::preprocessFilesToBeAdded(
+            paths, [&inList](const QString &path) { return inList.contains(path); });
+        QCOMPARE(outcome(result), expected);
+    }
+
+    void supportsByLowerCasedExtension_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<bool>("isSupported");
+        QTest::newRow("capitals") << u"/a/IMG_1.CR3"_qs << true;
+        QTest::newRow("phone") << u"/a/IMG_1.HEIC"_qs << true;
+        QTest::newRow("web") << u"/a/b.jxl"_qs << true;
+        QTest::newRow("no extension") << u"/a/jpg"_qs << false;
+        QTest::newRow("dot in folder only") << u"/a.jpg/readme"_qs << false;
+        QTest::newRow("sidecar") << u"/a/IMG_1.xmp"_qs << false;
+    }
+
+    void supportsByLowerCasedExtension()
+    {
+        QFETCH(QString, path);
+        QFETCH(bool, isSupported);
+        QCOMPARE(FileAdmission::supportsFile(path), isSupported);
+    }
+
+    // A file admitted that ExifTool cannot write would fail only at saving.
+    void everySupportedExtensionIsWritableByExifTool()
+    {
+        const Fixtures::ToolRun run = Fixtures::runExifTool({u"-listwf"_qs});
+        QVERIFY(run.ok());
+        const QStringList writable =
+            QString::fromUtf8(run.out).toLower().split(QRegularExpression(u"\\s+"_qs));
+        for (const QString &extension : FileAdmission::supportedExtensions())
+            QVERIFY2(writable.contains(extension), qPrintable(extension));
+    }
+
+    // Root reads everything, so unreadable files are only seen by an unprivileged user.
+    void unreadableForThisUserIsRejected()
+    {
+        if (::geteuid() != 0)
+            QSKIP("Needs root to run the check as the user nobody");
+        if (QStandardPaths::findExecutable(u"setpriv"_qs).isEmpty())
+            QSKIP("setpriv (util-linux) is not installed");
+        QTemporaryDir dir;
+        QVERIFY(dir.isValid());
+        const QString root = dir.path();
+        QVERIFY(QFile::setPermissions(root, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
+                                                QFile::ReadOther | QFile::ExeOther));
+        QVERIFY(touch(root + u"/open.jpg"_qs, 0644));
+        QVERIFY(touch(root + u"/secret.jpg"_qs, 0600));
+        QVERIFY(touch(root + u"/locked/inside.jpg"_qs, 0644));
+        QCOMPARE(::chmod(QFile::encodeName(root + u"/locked"_qs).constData(), 0700), 0);
+
+        QProcess process;
+        process.start(u"setpriv"_qs, {u"--reuid=nobody"_qs, u"--regid=nogroup"_qs,
+                                      u"--clear-groups"_qs, AdmitPaths, root});
+        QVERIFY(process.waitForFinished(30000));
+        if (process.exitCode() != 0)
+            QSKIP(qPrintable(u"Cannot run as nobody here: "_qs +
+                             QString::fromLocal8Bit(process.readAllStandardError())));
+        const QStringList lines =
+            QString::fromUtf8(process.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
+        QCOMPARE(lines, QStringList({u"accepted "_qs + root + u"/open.jpg"_qs,
+                                     u"unreadable "_qs + root + u"/locked"_qs,
+                                     u"unreadable "_qs + root + u"/secret.jpg"_qs}));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestFileAdmission)
+#include "tst_fileadmission.moc"
