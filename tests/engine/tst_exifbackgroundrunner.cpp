@@ -10,6 +10,7 @@
 #include "values/usersettings.h"
 
 #include "../support/fixtures.h"
+#include "../support/runlistener.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -28,59 +29,13 @@ namespace {
 const QString Faulty = QStringLiteral(TAGSMITH_TEST_HELPERS_DIR "/faultyexiftool");
 constexpr auto Persistent = ExifToolSessionKind::Persistent;
 
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-QStringList messagesOf(const ErrorMessagesPtr &errors)
-{
-    QStringList texts;
-    for (const ErrorMessage &message : errors ? errors->messages() : QList<ErrorMessage>())
-        texts << QString::number(message.type()) + u' ' + message.message();
-    return texts;
-}
+using Fixtures::readBytes;
 
 QJsonObject readWithExifTool(const QString &path)
 {
     const QStringList arguments{u"-j"_qs, u"-G1"_qs, u"-n"_qs, u"-charset"_qs, u"UTF-8"_qs, path};
     return QJsonDocument::fromJson(Fixtures::runExifTool(arguments).out)[0].toObject();
 }
-
-QString step(const char *what, const ExifOperationStatus &s)
-{
-    return QStringLiteral("%1 %2 %3/%4")
-        .arg(QLatin1String(what), QFileInfo(s.fileName()).fileName())
-        .arg(s.processedTasks())
-        .arg(s.totalTasks());
-}
-
-struct Listener final : ExifBackgroundRunnerListener
-{
-    void fileToBeProcessed(const ExifFileInfoPtr &, const ExifOperationStatus &s) override
-    {
-        events << step("before", s);
-    }
-    void fileProcessed(const ExifFileInfoPtr &, const ExifOperationStatus &s) override
-    {
-        events << step("after", s);
-    }
-    void finishProcessing(const QHash<QString, ErrorMessagesPtr> &map) override
-    {
-        events << u"finish "_qs + QString::number(map.size());
-        results = map;
-        finished = true;
-    }
-    QStringList messages(const ExifFileInfoPtr &file) const
-    {
-        return messagesOf(results.value(file->fileName()));
-    }
-    qsizetype queued = -1;
-    QStringList events;
-    QHash<QString, ErrorMessagesPtr> results;
-    bool finished = false;
-};
 
 struct ThrowingOperation final : ExifRunnerOperation
 {
@@ -147,7 +102,8 @@ private Q_SLOTS:
             for (auto it = edits.cbegin(); it != edits.cend(); ++it)
                 file->setExifValue(it.key(), it.value());
             file->removeExifValue(u"IFD0:Copyright"_qs);
-            QCOMPARE(save({file}, k ? ExifToolSessionKind::OneShot : Persistent)->messages(file),
+            QCOMPARE(save({file}, k ? ExifToolSessionKind::OneShot : Persistent)
+                         ->messages(file->fileName()),
                      QStringList());
             const QJsonObject tags = readWithExifTool(file->fileName());
             for (const QString &key : expected.keys())
@@ -158,7 +114,7 @@ private Q_SLOTS:
                      expected[u"ExifIFD:DateTimeOriginal"_qs].toString());
             QVERIFY(!isExifFileModified(*file));
             QCOMPARE(QDir(QFileInfo(file->fileName()).path()).count(), 3); // ".", "..", the file
-            bytes[k] = contentOf(file->fileName());
+            bytes[k] = readBytes(file->fileName());
         }
         QCOMPARE(bytes[0], bytes[1]);
     }
@@ -173,19 +129,18 @@ private Q_SLOTS:
         }
         files[1]->setExifValue(u"IPTC:DateCreated"_qs, u"2014:03"_qs);
         files.insert(1, load(u"order/unchanged.jpg"_qs));
-        const QByteArray before = contentOf(files[2]->fileName());
+        const QByteArray before = readBytes(files[2]->fileName());
         const auto heard = save(files);
-        QCOMPARE(heard->queued, 3);
         QCOMPARE(heard->events,
                  QStringList({u"before o1.jpg 1/3"_qs, u"after o1.jpg 1/3"_qs,
                               u"before o2.jpg 2/3"_qs, u"after o2.jpg 2/3"_qs,
                               u"before o3.jpg 3/3"_qs, u"after o3.jpg 3/3"_qs, u"finish 3"_qs}));
-        QCOMPARE(contentOf(files[2]->fileName()), before);
-        QCOMPARE(heard->messages(files[2]),
+        QCOMPARE(readBytes(files[2]->fileName()), before);
+        QCOMPARE(heard->messages(files[2]->fileName()),
                  QStringList{u"3 The value \"2014:03\" of Date Created is not a valid date."_qs});
         QVERIFY(isExifFileModified(*files[2])); // left for the user to correct
         for (const int i : {0, 3}) {
-            QCOMPARE(heard->messages(files[i]), QStringList());
+            QCOMPARE(heard->messages(files[i]->fileName()), QStringList());
             QCOMPARE(readWithExifTool(files[i]->fileName())[u"IPTC:DateCreated"_qs].toString(),
                      u"2014:03:08"_qs);
         }
@@ -198,7 +153,7 @@ private Q_SLOTS:
         const ExifFileInfoPtr file = load(u"verify/a.jpg"_qs, u"kept"_qs);
         file->setExifValue(u"ExifIFD:ISO"_qs, u"12345"_qs);      // en_US "12,345" reads back as 12
         file->setExifValue(u"ExifIFD:CreateDate"_qs, u"+1h"_qs); // shifts a date that is absent
-        QStringList messages = save({file})->messages(file);
+        QStringList messages = save({file})->messages(file->fileName());
         messages.sort();
         QCOMPARE(
             messages,
@@ -215,7 +170,7 @@ private Q_SLOTS:
         const ExifFileInfoPtr file = load(path);
         file->setExifValue(u"GPS:GPSLatitude"_qs, u"33.8688"_qs);
         file->setExifValue(u"GPS:GPSLatitudeRef"_qs, u"S"_qs);
-        QCOMPARE(save({file})->messages(file), QStringList());
+        QCOMPARE(save({file})->messages(file->fileName()), QStringList());
         QVERIFY(file->originalExifData().contains(u"GPS:GPSVersionID"_qs));
         QCOMPARE(ExifUtil::removedFieldsSet(*file), QSet<QString>());
         QVERIFY(!isExifFileModified(*file));
@@ -247,7 +202,7 @@ private Q_SLOTS:
         if (!modifyDate.isEmpty())
             file->setExifValue(u"IFD0:ModifyDate"_qs, modifyDate);
         const qint64 started = QDateTime::currentSecsSinceEpoch();
-        QCOMPARE(save({file})->messages(file), QStringList());
+        QCOMPARE(save({file})->messages(file->fileName()), QStringList());
 
         struct stat st = {};
         QCOMPARE(::stat(QFile::encodeName(file->fileName()).constData(), &st), 0);
@@ -271,9 +226,10 @@ private Q_SLOTS:
         // Two saves within one second must not share a temporary file.
         QVERIFY(!first->tempFileName().isEmpty());
         QVERIFY(first->tempFileName() != second->tempFileName());
-        QCOMPARE(messagesOf(first->errors()) + messagesOf(second->errors()), QStringList());
+        QCOMPARE(RunListener::texts(first->errors()) + RunListener::texts(second->errors()),
+                 QStringList());
         QVERIFY(throwing->threadName.startsWith(ExifBackgroundRunner::ThreadName));
-        QCOMPARE(messagesOf(heard->results.value(throwing->fileName())),
+        QCOMPARE(heard->messages(throwing->fileName()),
                  QStringList{u"3 Unknown error occured during processing"_qs});
     }
 
@@ -304,7 +260,7 @@ private Q_SLOTS:
             ExifRunnerFileModifiyOperation::setCommandTimeouts(8000, 0);
         const QString tag = QString::fromLatin1(QTest::currentDataTag());
         const QList files{load(tag + u"/a.jpg"_qs, u"New"_qs), load(tag + u"/b.jpg"_qs, u"New"_qs)};
-        const QByteArray original = contentOf(files[0]->fileName());
+        const QByteArray original = readBytes(files[0]->fileName());
         QFile control(m_dir.filePath(u"control"_qs));
         QVERIFY(control.open(QIODevice::WriteOnly) && control.write(fault.toUtf8() + '\n') > 0);
         control.close();
@@ -312,11 +268,11 @@ private Q_SLOTS:
         m_concurrent = 1; // the next file must go through the session that failed
         const auto heard =
             save(files, persistent ? Persistent : ExifToolSessionKind::OneShot, Faulty);
-        QCOMPARE(contentOf(files[0]->fileName()), original);
-        const QString errors = heard->messages(files[0]).join(u'|');
+        QCOMPARE(readBytes(files[0]->fileName()), original);
+        const QString errors = heard->messages(files[0]->fileName()).join(u'|');
         QVERIFY2(errors.contains(message), qPrintable(errors));
         QCOMPARE(files[0]->originalExifData().value(u"IFD0:Artist"_qs), u"Old"_qs);
-        QCOMPARE(heard->messages(files[1]), QStringList());
+        QCOMPARE(heard->messages(files[1]->fileName()), QStringList());
         QCOMPARE(files[1]->originalExifData().value(u"IFD0:Artist"_qs), u"New"_qs);
         QCOMPARE(QDir(m_dir.filePath(tag))
                      .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
@@ -336,9 +292,9 @@ private Q_SLOTS:
         if (QProcess::execute(u"mount"_qs, {u"-o"_qs, u"remount,bind,ro"_qs, mounted}))
             QSKIP("a read-only remount is not permitted here");
         const ExifFileInfoPtr file = load(mounted + u"/a.jpg"_qs, u"New"_qs);
-        const QByteArray original = contentOf(file->fileName());
-        const QString messages = save({file})->messages(file).join(u'|');
-        QCOMPARE(contentOf(file->fileName()), original);
+        const QByteArray original = readBytes(file->fileName());
+        const QString messages = save({file})->messages(file->fileName()).join(u'|');
+        QCOMPARE(readBytes(file->fileName()), original);
         QVERIFY2(messages.startsWith(u"3 "_qs), qPrintable(messages));
     }
 
@@ -359,23 +315,23 @@ private:
         return file;
     }
 
-    std::unique_ptr<Listener> run(const std::function<qsizetype(ExifBackgroundRunner &)> &queue,
-                                  ExifToolSessionKind kind = Persistent,
-                                  const QString &tool = exifToolPath())
+    std::unique_ptr<RunListener> run(const std::function<qsizetype(ExifBackgroundRunner &)> &queue,
+                                     ExifToolSessionKind kind = Persistent,
+                                     const QString &tool = exifToolPath())
     {
-        auto listener = std::make_unique<Listener>();
+        auto listener = std::make_unique<RunListener>();
         ExifBackgroundRunner runner(nullptr, kind, tool);
         runner.setListener(listener.get());
         runner.setMaximumConcurrentOperations(m_concurrent);
-        listener->queued = queue(runner);
-        if (!QTest::qWaitFor([&] { return listener->finished; }, 120'000))
+        queue(runner);
+        if (!listener->wait())
             qWarning("the batch did not finish");
         return listener;
     }
 
-    std::unique_ptr<Listener> save(const QList<ExifFileInfoPtr> &files,
-                                   ExifToolSessionKind kind = Persistent,
-                                   const QString &tool = exifToolPath())
+    std::unique_ptr<RunListener> save(const QList<ExifFileInfoPtr> &files,
+                                      ExifToolSessionKind kind = Persistent,
+                                      const QString &tool = exifToolPath())
     {
         return run([&](ExifBackgroundRunner &runner) { return runner.saveFiles(files, 1); }, kind,
                    tool);

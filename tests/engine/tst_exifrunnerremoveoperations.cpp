@@ -40,12 +40,6 @@ private:
     PersistentExifToolSession m_real{Fixtures::exifTool()};
 };
 
-QByteArray fileBytes(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 // RGB Photoshop file with raw planes and one resolution resource (ExifTool will not write one
 // with no resources). Qt cannot write this format.
 QByteArray photoshopFile(int width, int height)
@@ -108,11 +102,10 @@ ExifFileInfoPtr loaded(const QString &path)
 QStringList keysStartingWith(const TagDictionary &tags, const QStringList &prefixes)
 {
     QStringList found;
-    for (auto it = tags.cbegin(); it != tags.cend(); ++it) {
-        if (std::any_of(prefixes.cbegin(), prefixes.cend(),
-                        [&it](const QString &prefix) { return it.key().startsWith(prefix); }))
-            found << it.key();
-    }
+    for (const QString &key : tags.keys())
+        for (const QString &prefix : prefixes)
+            if (key.startsWith(prefix) && !found.contains(key))
+                found << key;
     return found;
 }
 
@@ -123,163 +116,153 @@ class TestExifRunnerRemoveOperations : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void init();
-    void stripRemovesUserTagsAndKeepsThePicture_data();
-    void stripRemovesUserTagsAndKeepsThePicture();
-    void makerNotesGoWithMakeAndModel_data();
-    void makerNotesGoWithMakeAndModel();
+    void initTestCase()
+    {
+        QVERIFY(m_dir.isValid());
+        UserSettings::setStoreFile(m_dir.filePath(u"settings.ini"_qs));
+        UserSettings::setValue(UserSettings::FileModifyDate, 1); // keep the previous date
+    }
+
+    void init()
+    {
+        m_session.addIFD0Warnings = false;
+        m_session.writes.clear();
+    }
+
+    void stripRemovesUserTagsAndKeepsThePicture_data()
+    {
+        const QStringList tail{u"-n"_qs, u"-X"_qs};
+        QTest::addColumn<QString>("suffix");
+        QTest::addColumn<QStringList>("arguments"); // empty: ExifTool must not run
+        QTest::addColumn<int>("warnings"); // of the two IFD0 warnings added to ExifTool's output
+        QTest::newRow("jpeg keeps warnings") << u"jpg"_qs << QStringList{u"-all="_qs} + tail << 2;
+        QTest::newRow("tiff") << u"tif"_qs << QStringList{u"-all="_qs, u"-CommonIFD0="_qs} + tail
+                              << 0;
+        QTest::newRow("photoshop") << u"psd"_qs << QStringList{u"-all="_qs} + tail << 0;
+        QTest::newRow("png is left alone") << u"png"_qs << QStringList{} << 0;
+    }
+
+    void stripRemovesUserTagsAndKeepsThePicture()
+    {
+        QFETCH(QString, suffix);
+        QFETCH(QStringList, arguments);
+        QFETCH(int, warnings);
+        const QString path = m_dir.filePath(u"strip %f."_qs + suffix);
+        const QStringList userGroups{u"IFD0:Artist"_qs, u"IFD0:Make"_qs, u"XMP-dc:"_qs,
+                                     u"IPTC:"_qs,       u"GPS:"_qs,      u"ExifIFD:"_qs};
+        if (suffix == u"psd"_qs) {
+            QFile file(path);
+            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(photoshopFile(16, 8)) > 0);
+            file.close();
+            QVERIFY(Fixtures::runExifTool({u"-overwrite_original"_qs, u"-XMP-dc:Title=Sea"_qs,
+                                           u"-IPTC:Keywords=sea"_qs, path})
+                        .ok());
+        } else {
+            QCOMPARE(
+                Fixtures::makeImage(path, {u"-XMP-dc:Title=Sea"_qs, u"-IFD0:Artist=Ann"_qs,
+                                           u"-IFD0:Make=Canon"_qs, u"-IPTC:Keywords=sea"_qs,
+                                           u"-GPSLatitude=33.8"_qs,
+                                           u"-ExifIFD:DateTimeOriginal=2010:05:01 10:00:00"_qs}),
+                QString());
+        }
+        QVERIFY(setOldTime(path));
+        const QByteArray before = Fixtures::readBytes(path);
+        const QImage pictureBefore(path);
+        const ExifFileInfoPtr file = loaded(path);
+        QVERIFY(!keysStartingWith(file->exifData(), userGroups).isEmpty());
+
+        m_session.addIFD0Warnings = true;
+        const auto op = run(true, file);
+        QVERIFY(hasOldTime(path));
+        if (arguments.isEmpty()) {
+            QVERIFY(m_session.writes.isEmpty());
+            QCOMPARE(Fixtures::readBytes(path), before);
+            return;
+        }
+        compareWrites({arguments}, path);
+        // Beside the two added, a TIFF gets the IFD0 warning from ExifTool itself.
+        QVERIFY(op->errors());
+        QCOMPARE(op->errors()->messages().size(), warnings);
+        QCOMPARE(op->errors()->warnsCount(), quint64(warnings));
+        QCOMPARE(keysStartingWith(loaded(path)->exifData(), userGroups), QStringList());
+        QCOMPARE(file->exifData(), file->originalExifData()); // nothing of the old tags pending
+        if (suffix == u"psd"_qs)
+            QVERIFY(Fixtures::readBytes(path).endsWith(photoshopFile(16, 8).right(3 * 16 * 8)));
+        else
+            QCOMPARE(QImage(path).convertToFormat(QImage::Format_RGB32),
+                     pictureBefore.convertToFormat(QImage::Format_RGB32));
+    }
+
+    void makerNotesGoWithMakeAndModel_data()
+    {
+        QTest::addColumn<QByteArray>("makerNotes");
+        QTest::addColumn<bool>("readable");
+        QTest::newRow("readable notes") << ReadableNotes << true;
+        // Two passes: the second must not take the first one's date for the original's.
+        QTest::newRow("notes ExifTool cannot decode") << BrokenNotes << false;
+    }
+
+    void makerNotesGoWithMakeAndModel()
+    {
+        QFETCH(QByteArray, makerNotes);
+        QFETCH(bool, readable);
+        const QString path = m_dir.filePath(u"maker %d notes.jpg"_qs);
+        QCOMPARE(makeMakerNotesImage(path, makerNotes), QString());
+        QVERIFY(setOldTime(path));
+        const QImage pictureBefore(path);
+        const ExifFileInfoPtr file = loaded(path);
+        const auto warnings = [&path] {
+            return Fixtures::runExifTool({u"-a"_qs, u"-Warning"_qs, path}).out;
+        };
+        QCOMPARE(file->hasExifValue(u"Canon:CanonImageType"_qs), readable);
+        QCOMPARE(warnings().contains("MakerNotes"), !readable);
+
+        const auto op = run(false, file);
+        QList<QStringList> expected{
+            {u"-n"_qs, u"-X"_qs, u"-make="_qs, u"-model="_qs, u"-makernotes="_qs}};
+        if (!readable)
+            expected.prepend({u"-n"_qs, u"-X"_qs, u"-MakerNotes:all="_qs});
+        compareWrites(expected, path);
+        QVERIFY(op->errors());
+        QCOMPARE(op->errors()->errorsCount(), quint64(0));
+        const TagDictionary after = loaded(path)->exifData();
+        QCOMPARE(keysStartingWith(after, {u"IFD0:Make"_qs, u"IFD0:Model"_qs, u"Canon:"_qs,
+                                          u"File:MakerNote"_qs, u"ExifIFD:MakerNote"_qs}),
+                 QStringList());
+        QCOMPARE(after.value(u"IFD0:Artist"_qs), u"Ann"_qs);
+        QVERIFY(!warnings().contains("MakerNotes"));
+        QCOMPARE(file->exifData(), file->originalExifData());
+        QCOMPARE(QImage(path), pictureBefore);
+        QVERIFY(hasOldTime(path));
+    }
 
 private:
-    std::shared_ptr<ExifRunnerFileModifiyOperation> run(bool strip, const ExifFileInfoPtr &file);
-    void compareWrites(const QList<QStringList> &expected, const QString &path);
+    std::shared_ptr<ExifRunnerFileModifiyOperation> run(bool strip, const ExifFileInfoPtr &file)
+    {
+        std::shared_ptr<ExifRunnerFileModifiyOperation> op;
+        if (strip)
+            op = std::make_shared<ExifRunnerRemoveMetadataOperation>(file, 1);
+        else
+            op = std::make_shared<ExifRunnerRemoveExifGroupsOperation>(file, 1);
+        op->setExifToolSession(&m_session);
+        op->run();
+        return op;
+    }
+
+    // Each write: the expected arguments, "-o", the temporary path and the file's own path.
+    void compareWrites(const QList<QStringList> &expected, const QString &path)
+    {
+        QCOMPARE(m_session.writes.size(), expected.size());
+        for (qsizetype i = 0; i < expected.size(); ++i) {
+            const QStringList &arguments = m_session.writes.at(i);
+            QCOMPARE(arguments.first(arguments.size() - 2), expected.at(i) + QStringList{u"-o"_qs});
+            QCOMPARE(arguments.last(), path);
+        }
+    }
 
     QTemporaryDir m_dir;
     RecordingSession m_session;
 };
-
-void TestExifRunnerRemoveOperations::initTestCase()
-{
-    QVERIFY(m_dir.isValid());
-    UserSettings::setStoreFile(m_dir.filePath(u"settings.ini"_qs));
-    UserSettings::setValue(UserSettings::FileModifyDate, 1); // keep the previous date
-}
-
-void TestExifRunnerRemoveOperations::init()
-{
-    m_session.addIFD0Warnings = false;
-    m_session.writes.clear();
-}
-
-std::shared_ptr<ExifRunnerFileModifiyOperation>
-TestExifRunnerRemoveOperations::run(bool strip, const ExifFileInfoPtr &file)
-{
-    std::shared_ptr<ExifRunnerFileModifiyOperation> op;
-    if (strip)
-        op = std::make_shared<ExifRunnerRemoveMetadataOperation>(file, 1);
-    else
-        op = std::make_shared<ExifRunnerRemoveExifGroupsOperation>(file, 1);
-    op->setExifToolSession(&m_session);
-    op->run();
-    return op;
-}
-
-// Each write: the expected arguments, "-o", the temporary path and the file's own path.
-void TestExifRunnerRemoveOperations::compareWrites(const QList<QStringList> &expected,
-                                                   const QString &path)
-{
-    QCOMPARE(m_session.writes.size(), expected.size());
-    for (qsizetype i = 0; i < expected.size(); ++i) {
-        const QStringList &arguments = m_session.writes.at(i);
-        QCOMPARE(arguments.first(arguments.size() - 2), expected.at(i) + QStringList{u"-o"_qs});
-        QCOMPARE(arguments.last(), path);
-    }
-}
-
-void TestExifRunnerRemoveOperations::stripRemovesUserTagsAndKeepsThePicture_data()
-{
-    const QStringList tail{u"-n"_qs, u"-X"_qs};
-    QTest::addColumn<QString>("suffix");
-    QTest::addColumn<QStringList>("arguments"); // empty: ExifTool must not run
-    QTest::addColumn<int>("warnings"); // of the two IFD0 warnings added to ExifTool's output
-    QTest::newRow("jpeg keeps warnings") << u"jpg"_qs << QStringList{u"-all="_qs} + tail << 2;
-    QTest::newRow("tiff") << u"tif"_qs << QStringList{u"-all="_qs, u"-CommonIFD0="_qs} + tail << 0;
-    QTest::newRow("photoshop") << u"psd"_qs << QStringList{u"-all="_qs} + tail << 0;
-    QTest::newRow("png is left alone") << u"png"_qs << QStringList{} << 0;
-}
-
-void TestExifRunnerRemoveOperations::stripRemovesUserTagsAndKeepsThePicture()
-{
-    QFETCH(QString, suffix);
-    QFETCH(QStringList, arguments);
-    QFETCH(int, warnings);
-    const QString path = m_dir.filePath(u"strip %f."_qs + suffix);
-    const QStringList userGroups{u"IFD0:Artist"_qs, u"IFD0:Make"_qs, u"XMP-dc:"_qs,
-                                 u"IPTC:"_qs,       u"GPS:"_qs,      u"ExifIFD:"_qs};
-    if (suffix == u"psd"_qs) {
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(photoshopFile(16, 8)) > 0);
-        file.close();
-        QVERIFY(Fixtures::runExifTool({u"-overwrite_original"_qs, u"-XMP-dc:Title=Sea"_qs,
-                                       u"-IPTC:Keywords=sea"_qs, path})
-                    .ok());
-    } else {
-        QCOMPARE(Fixtures::makeImage(path, {u"-XMP-dc:Title=Sea"_qs, u"-IFD0:Artist=Ann"_qs,
-                                            u"-IFD0:Make=Canon"_qs, u"-IPTC:Keywords=sea"_qs,
-                                            u"-GPSLatitude=33.8"_qs,
-                                            u"-ExifIFD:DateTimeOriginal=2010:05:01 10:00:00"_qs}),
-                 QString());
-    }
-    QVERIFY(setOldTime(path));
-    const QByteArray before = fileBytes(path);
-    const QImage pictureBefore(path);
-    const ExifFileInfoPtr file = loaded(path);
-    QVERIFY(!keysStartingWith(file->exifData(), userGroups).isEmpty());
-
-    m_session.addIFD0Warnings = true;
-    const auto op = run(true, file);
-    QVERIFY(hasOldTime(path));
-    if (arguments.isEmpty()) {
-        QVERIFY(m_session.writes.isEmpty());
-        QCOMPARE(fileBytes(path), before);
-        return;
-    }
-    compareWrites({arguments}, path);
-    // Beside the two added, a TIFF gets the IFD0 warning from ExifTool itself.
-    QVERIFY(op->errors());
-    QCOMPARE(op->errors()->messages().size(), warnings);
-    QCOMPARE(op->errors()->warnsCount(), quint64(warnings));
-    QCOMPARE(keysStartingWith(loaded(path)->exifData(), userGroups), QStringList());
-    QCOMPARE(file->exifData(), file->originalExifData()); // nothing of the old tags pending
-    if (suffix == u"psd"_qs)
-        QVERIFY(fileBytes(path).endsWith(photoshopFile(16, 8).right(3 * 16 * 8)));
-    else
-        QCOMPARE(QImage(path).convertToFormat(QImage::Format_RGB32),
-                 pictureBefore.convertToFormat(QImage::Format_RGB32));
-}
-
-void TestExifRunnerRemoveOperations::makerNotesGoWithMakeAndModel_data()
-{
-    QTest::addColumn<QByteArray>("makerNotes");
-    QTest::addColumn<bool>("readable");
-    QTest::newRow("readable notes") << ReadableNotes << true;
-    // Two passes: the second must not take the first one's date for the original's.
-    QTest::newRow("notes ExifTool cannot decode") << BrokenNotes << false;
-}
-
-void TestExifRunnerRemoveOperations::makerNotesGoWithMakeAndModel()
-{
-    QFETCH(QByteArray, makerNotes);
-    QFETCH(bool, readable);
-    const QString path = m_dir.filePath(u"maker %d notes.jpg"_qs);
-    QCOMPARE(makeMakerNotesImage(path, makerNotes), QString());
-    QVERIFY(setOldTime(path));
-    const QImage pictureBefore(path);
-    const ExifFileInfoPtr file = loaded(path);
-    const auto warnings = [&path] {
-        return Fixtures::runExifTool({u"-a"_qs, u"-Warning"_qs, path}).out;
-    };
-    QCOMPARE(file->hasExifValue(u"Canon:CanonImageType"_qs), readable);
-    QCOMPARE(warnings().contains("MakerNotes"), !readable);
-
-    const auto op = run(false, file);
-    QList<QStringList> expected{
-        {u"-n"_qs, u"-X"_qs, u"-make="_qs, u"-model="_qs, u"-makernotes="_qs}};
-    if (!readable)
-        expected.prepend({u"-n"_qs, u"-X"_qs, u"-MakerNotes:all="_qs});
-    compareWrites(expected, path);
-    QVERIFY(op->errors());
-    QCOMPARE(op->errors()->errorsCount(), quint64(0));
-    const TagDictionary after = loaded(path)->exifData();
-    QCOMPARE(keysStartingWith(after, {u"IFD0:Make"_qs, u"IFD0:Model"_qs, u"Canon:"_qs,
-                                      u"File:MakerNote"_qs, u"ExifIFD:MakerNote"_qs}),
-             QStringList());
-    QCOMPARE(after.value(u"IFD0:Artist"_qs), u"Ann"_qs);
-    QVERIFY(!warnings().contains("MakerNotes"));
-    QCOMPARE(file->exifData(), file->originalExifData());
-    QCOMPARE(QImage(path), pictureBefore);
-    QVERIFY(hasOldTime(path));
-}
 
 QTEST_GUILESS_MAIN(TestExifRunnerRemoveOperations)
 #include "tst_exifrunnerremoveoperations.moc"

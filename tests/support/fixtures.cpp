@@ -1,6 +1,7 @@
 #include "fixtures.h"
 
 #include <QColor>
+#include <QFile>
 #include <QFileInfo>
 #include <QImage>
 #include <QPainter>
@@ -46,9 +47,22 @@ QString makeImage(const QString &path, const QStringList &exifToolArguments)
     arguments << exifToolArguments << QStringLiteral("--") << path;
     const ToolRun run = runExifTool(arguments);
     if (!run.ok())
-        return QStringLiteral("exiftool failed on ") + path + QStringLiteral(": ")
-               + QString::fromUtf8(run.err);
+        return QStringLiteral("exiftool failed on ") + path + QStringLiteral(": ") +
+               QString::fromUtf8(run.err);
     return {};
+}
+
+QByteArray readBytes(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+bool writeBytes(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly | QIODevice::Truncate) &&
+           file.write(bytes) == bytes.size() && file.flush();
 }
 
 } // namespace Fixtures

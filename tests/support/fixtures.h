@@ -27,4 +27,8 @@ ToolRun runExifTool(const QStringList &arguments);
 // text on success, otherwise what went wrong.
 QString makeImage(const QString &path, const QStringList &exifToolArguments = {});
 
+// A file's bytes, empty when it cannot be read; and a whole file written, true on success.
+QByteArray readBytes(const QString &path);
+bool writeBytes(const QString &path, const QByteArray &bytes);
+
 } // namespace Fixtures

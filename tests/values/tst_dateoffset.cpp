@@ -32,11 +32,9 @@ private Q_SLOTS:
         QTest::addColumn<DateComponents>("expected");
         const std::optional<qint64> plus = 1, minus = 0;
         QTest::newRow("null") << QString() << units(0, 0, 0);
-        QTest::newRow("no sign is plus") << u"1y2M"_qs << units(1, 2, 0, 0, 0, 0, plus);
         QTest::newRow("blanks") << u" \t- 1 y 2\tM "_qs << units(1, 2, 0, 0, 0, 0, minus);
         QTest::newRow("M/m, all six") << u"+1y2M3d4h5m6s"_qs << units(1, 2, 3, 4, 5, 6, plus);
         QTest::newRow("unknown unit") << u"+1x2d"_qs << units(0, 0, 2, 0, 0, 0, plus);
-        QTest::newRow("bare number") << u"+1d2"_qs << units(0, 0, 1, 0, 0, 0, plus);
         QTest::newRow("inner minus") << u"+1d-2h"_qs << units(0, 0, 1, -2, 0, 0, plus);
         QTest::newRow("inner plus stops") << u"-1d+2h"_qs << units(0, 0, 1, 0, 0, 0, minus);
     }
@@ -49,35 +47,28 @@ private Q_SLOTS:
         QCOMPARE(parseDateOffsetDateOnly(text), expected);
     }
 
-    // The compact form is stored, the display form shown, the argument given to ExifTool.
+    // Stored compact, shown with blanks, handed to ExifTool as a signed shift.
     void format_data()
     {
         QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("compact");
-        QTest::addColumn<QString>("display");
-        QTest::addColumn<QString>("dateTimeArgument");
-        QTest::addColumn<QString>("dateArgument");
-        auto row = [](const char *text, const char *compact, const char *display,
-                      const char *dateTime, const char *date) {
-            QTest::newRow(text) << QString::fromUtf8(text) << QString::fromUtf8(compact)
-                                << QString::fromUtf8(display) << QString::fromUtf8(dateTime)
-                                << QString::fromUtf8(date);
-        };
-        row("+1d2h", "+1d2h", "+1d 2h", "+0:0:1 02:00:00", "+0:0:1");
-        row("1y2M", "+1y2M", "+1y 2M", "-1:2:0 00:00:00", "-1:2:0"); // no "+" writes minus
-        row("-1d+2h", "-1d", "-1d", "+0:0:1 00:00:00", "+0:0:1");    // any "+" writes plus
-        row("-", "-", "-", "-0:0:0 00:00:00", "-0:0:0");
-        // Stored and shown as a magnitude, but handed to ExifTool signed as typed.
-        row("+1d-3m", "+1d3m", "+1d 3m", "+0:0:1 00:-3:00", "+0:0:1");
+        QTest::addColumn<QString>("forms"); // compact|display|date-time argument|date argument
+        QTest::newRow("+1d2h") << u"+1d2h"_qs << u"+1d2h|+1d 2h|+0:0:1 02:00:00|+0:0:1"_qs;
+        QTest::newRow("no plus writes minus")
+            << u"1y2M"_qs << u"+1y2M|+1y 2M|-1:2:0 00:00:00|-1:2:0"_qs;
+        QTest::newRow("any plus writes plus")
+            << u"-1d+2h"_qs << u"-1d|-1d|+0:0:1 00:00:00|+0:0:1"_qs;
+        QTest::newRow("inner minus signed as typed")
+            << u"+1d-3m"_qs << u"+1d3m|+1d 3m|+0:0:1 00:-3:00|+0:0:1"_qs;
     }
     void format()
     {
         QFETCH(QString, text);
         const DateComponents offset = parseDateOffset(text);
-        QTEST(formatDateOffsetCompact(offset, offset.era == 1), "compact");
-        QTEST(formatDateOffsetDisplay(offset, offset.era == 1), "display");
-        QTEST(formatDateOffsetForWriting(text, DateEditorTypeDateTime), "dateTimeArgument");
-        QTEST(formatDateOffsetForWriting(text, DateEditorTypeDate), "dateArgument");
+        const QStringList forms{formatDateOffsetCompact(offset, offset.era == 1),
+                                formatDateOffsetDisplay(offset, offset.era == 1),
+                                formatDateOffsetForWriting(text, DateEditorTypeDateTime),
+                                formatDateOffsetForWriting(text, DateEditorTypeDate)};
+        QTEST(forms.join(u'|'), "forms");
     }
 
     void apply_data()
@@ -96,18 +87,14 @@ private Q_SLOTS:
         row("", "-1M", "2013:03:31 10:00:00", "2013:02:28 10:00:00");
         row("", "+30d", "2013:01:31 10:00:00", "2013:03:02 10:00:00");
         row("", "+1y1M", "2012:02:29 12:00:00", "2013:03:28 12:00:00");
-        row("", "-1M", "2013:01:15 12:00:00", "2012:12:15 12:00:00");
         row("", "+1d2h", "2013:12:31 23:00:00", "2014:01:02 01:00:00");
         row("", "1d", "2013:05:02 00:00:00", nullptr); // no sign: no shift
-        row("", "-1d+2h", "2013:05:02 00:00:00", "2013:05:03 00:00:00");
         row("", "2013:05:01 10:00:00", "2000:01:01 00:00:00", "2013:05:01 10:00:00");
         row("", "+1d", "2013:05:01", nullptr);
         const char *berlin = "Europe/Berlin", *saoPaulo = "America/Sao_Paulo";
         row(berlin, "+1d", "2013:03:30 02:30:00", "2013:03:31 03:30:00");
-        row(berlin, "+24h", "2013:03:30 12:00:00", "2013:03:31 13:00:00");
         row(berlin, "+1h", "2013:03:31 01:30:00", "2013:03:31 03:30:00");
         row(berlin, "+24h", "2013:10:26 12:00:00", "2013:10:27 11:00:00");
-        row(berlin, "+2h", "2013:10:27 01:30:00", "2013:10:27 02:30:00");
         row(saoPaulo, "+1d", "2018:11:03 00:30:00", "2018:11:04 01:30:00");
         row(saoPaulo, "+24h", "2019:02:16 12:00:00", "2019:02:17 11:00:00");
         row("UTC", "+24h", "2013:03:30 12:00:00", "2013:03:31 12:00:00");
@@ -134,8 +121,6 @@ private Q_SLOTS:
         QTest::addColumn<QString>("description");
         QTest::newRow("later") << u"2013:05:02 12:00:00"_qs << u"2013:05:01 10:00:00"_qs
                                << units(0, 0, -1, -2, 0, 0, -1) << u"-1d 2h "_qs;
-        QTest::newRow("equal") << u"2013:05:01 10:00:00"_qs << u"2013:05:01 10:00:00"_qs
-                               << units(0, 0, 0) << u""_qs;
         QTest::newRow("month end") << u"2013:01:31 00:00:00"_qs << u"2013:03:01 00:00:00"_qs
                                    << units(0, 1, 1, 0, 0, 0, 1) << u"+1M 1d "_qs;
         QTest::newRow("every unit") << u"2010:01:01 00:00:00"_qs << u"2011:03:04 05:06:07"_qs
@@ -149,12 +134,17 @@ private Q_SLOTS:
         QTEST(describeOffsetBetweenDates(at(current), at(original)), "description");
     }
 
-    // A shift and its negation cancel, except where the calendar cannot: a clamped month end,
-    // time carried over a day before a month step, or a daylight-saving change nearby.
+    // Both written forms read back as the shift. A shift and its negation cancel, except where
+    // the calendar cannot: a clamped month end, time carried over a day before a month step, or
+    // a daylight-saving change nearby.
     void shiftThenNegatedShiftRestores()
     {
         QRandomGenerator random(20130501);
         auto r = [&random](int bound) { return random.bounded(bound); };
+        auto steady = [](const QDateTime &t) {
+            return t.addDays(-3).offsetFromUtc() == t.offsetFromUtc() &&
+                   t.offsetFromUtc() == t.addDays(3).offsetFromUtc();
+        };
         int checked = 0;
         for (int i = 0; i < 3000; ++i) {
             const bool months = i % 2 == 1; // from early in a month, so most can come back
@@ -162,20 +152,18 @@ private Q_SLOTS:
             if (months)
                 day.setDate(day.year(), day.month(), 1 + r(14));
             const QTime time(r(months ? 12 : 24), r(60), r(60));
-            const DateComponents shift = months ? units(r(21), r(25), r(14), r(11), r(60), r(60))
-                                                : units(0, 0, r(400), r(49), r(121), r(121));
+            const DateComponents shift = months ? units(r(21), r(25), r(14), r(11), r(60), r(60), 1)
+                                                : units(0, 0, r(400), r(49), r(121), r(121), 1);
             const QString original = formatDateTimeValue(QDateTime(day, time));
             const QString forwardText = formatDateOffsetCompact(shift, true);
+            QCOMPARE(parseDateOffset(forwardText), shift);
+            QCOMPARE(parseDateOffset(formatDateOffsetDisplay(shift, true)), shift);
+            QVERIFY(isDateOffsetText(forwardText));
             const QDateTime forward = applyDateOffset(forwardText, original);
             QVERIFY2(forward >= at(original), qPrintable(original + forwardText));
             const QString back = formatDateTimeValue(applyDateOffset(
                 formatDateOffsetCompact(shift, false), formatDateTimeValue(forward)));
-
             const qint64 seconds = (shift.hour * 60 + shift.minute) * 60 + shift.second;
-            auto steady = [](const QDateTime &t) {
-                return t.addDays(-3).offsetFromUtc() == t.offsetFromUtc() &&
-                       t.offsetFromUtc() == t.addDays(3).offsetFromUtc();
-            };
             if ((months && (day.day() + shift.day > 28 ||
                             time.msecsSinceStartOfDay() / 1000 + seconds >= 86400)) ||
                 !steady(at(original)) || !steady(forward))
@@ -184,22 +172,6 @@ private Q_SLOTS:
             ++checked;
         }
         QVERIFY2(checked > 2700, qPrintable(QString::number(checked)));
-    }
-
-    void formattedOffsetParsesBack()
-    {
-        QRandomGenerator random(77);
-        auto unit = [&random] { return random.bounded(3) == 0 ? 0 : qint64(random.bounded(1000)); };
-        for (int i = 0; i < 3000; ++i) {
-            const bool plus = random.bounded(2) == 0;
-            const DateComponents offset =
-                units(unit(), unit(), unit(), unit(), unit(), unit(), plus ? 1 : 0);
-            for (const QString &text :
-                 {formatDateOffsetCompact(offset, plus), formatDateOffsetDisplay(offset, plus)}) {
-                QCOMPARE(parseDateOffset(text), offset);
-                QVERIFY(isDateOffsetText(text));
-            }
-        }
     }
 };
 
