@@ -1,69 +1,21 @@
 #include "app/tagsmithappdelegate.h"
 
+#include "app/mainwindowcontroller.h"
 #include "app/preferenceswindowcontroller.h"
 #include "catalogue/exifsettings.h"
 #include "catalogue/exiffieldscontroller.h"
-#include "catalogue/stringtables.h"
 #include "controls/aperturetheme.h"
 #include "engine/exiftoolversion.h"
 #include "values/debugmode.h"
 #include "values/logging.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QDesktopServices>
-#include <QKeySequence>
-#include <QMainWindow>
-#include <QMenuBar>
 #include <QUrl>
 
 namespace {
 
 TagsmithAppDelegate *currentDelegate = nullptr;
-
-QString localized(const QString &key)
-{
-    return StringTables::instance().localizedString(key);
-}
-
-// Stands in for the main window controller until that exists: an empty window with the
-// application's commands.
-class PlaceholderMainWindow : public AppMainWindow
-{
-public:
-    explicit PlaceholderMainWindow(TagsmithAppDelegate &delegate)
-    {
-        m_window.setWindowTitle(QStringLiteral("Tagsmith"));
-        m_window.resize(1000, 700);
-
-        QMenu *fileMenu = m_window.menuBar()->addMenu(localized(QStringLiteral("File")));
-        QAction *preferences = fileMenu->addAction(localized(QStringLiteral("Preferences…")));
-        preferences->setShortcut(QKeySequence::Preferences);
-        preferences->setMenuRole(QAction::PreferencesRole);
-        QObject::connect(preferences, &QAction::triggered, &delegate,
-                         &TagsmithAppDelegate::showPreferences);
-        QAction *quit = fileMenu->addAction(localized(QStringLiteral("Quit Tagsmith")));
-        quit->setShortcut(QKeySequence::Quit);
-        quit->setMenuRole(QAction::QuitRole);
-        QObject::connect(quit, &QAction::triggered, &delegate, &TagsmithAppDelegate::requestQuit);
-
-        QMenu *helpMenu = m_window.menuBar()->addMenu(localized(QStringLiteral("Help")));
-        QObject::connect(helpMenu->addAction(localized(QStringLiteral("Tagsmith Help"))),
-                         &QAction::triggered, &delegate, &TagsmithAppDelegate::showHelp);
-        QObject::connect(helpMenu->addAction(localized(QStringLiteral("Tagsmith Support"))),
-                         &QAction::triggered, &delegate, &TagsmithAppDelegate::openSupportPage);
-        QObject::connect(helpMenu->addAction(localized(QStringLiteral("Tagsmith Web Site"))),
-                         &QAction::triggered, &delegate, &TagsmithAppDelegate::openWebSite);
-    }
-
-    QWidget *window() override { return &m_window; }
-    bool hasDiretyFiles() const override { return false; }
-    void setSaveStatus(int) override {}
-    bool openFile(const QString &) override { return false; }
-
-private:
-    QMainWindow m_window;
-};
 
 } // namespace
 
@@ -123,8 +75,7 @@ void TagsmithAppDelegate::applicationWillFinishLaunching(const QStringList &argu
     // Closing the main window ends the program even while the preferences window is open,
     // which is kept out of the count of windows that hold the program open.
     QGuiApplication::setQuitOnLastWindowClosed(applicationShouldTerminateAfterLastWindowClosed());
-    m_mainWindowController =
-        m_mainWindowFactory ? m_mainWindowFactory(*this) : createPlaceholderMainWindow();
+    m_mainWindowController = m_mainWindowFactory ? m_mainWindowFactory(*this) : createMainWindow();
     m_mainWindowController->window()->show();
 
     // The desktop hands over files to open as arguments (the .desktop file's %F).
@@ -134,9 +85,9 @@ void TagsmithAppDelegate::applicationWillFinishLaunching(const QStringList &argu
     }
 }
 
-std::unique_ptr<AppMainWindow> TagsmithAppDelegate::createPlaceholderMainWindow()
+std::unique_ptr<AppMainWindow> TagsmithAppDelegate::createMainWindow()
 {
-    return std::make_unique<PlaceholderMainWindow>(*this);
+    return std::make_unique<MainWindowController>(this);
 }
 
 bool TagsmithAppDelegate::openFile(const QString &path)

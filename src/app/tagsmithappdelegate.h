@@ -12,8 +12,8 @@
 class PreferencesWindowController;
 class QWidget;
 
-// What the application shell needs from the main window. The main window controller
-// implements it; until it exists a plain placeholder window does.
+// What the application shell needs from the main window; MainWindowController implements it,
+// tests a stand-in.
 class AppMainWindow
 {
 public:
@@ -49,7 +49,7 @@ public:
     static bool hasArgument(const QString &argument,
                             const QStringList &arguments = currentArguments());
 
-    // Replaces the window shown at start-up (the real main window, or a test's stand-in).
+    // Replaces the main window made at start-up (a test's stand-in).
     void setMainWindowFactory(MainWindowFactory factory)
     {
         m_mainWindowFactory = std::move(factory);
@@ -81,7 +81,7 @@ public Q_SLOTS:
 
 private:
     static QStringList currentArguments();
-    std::unique_ptr<AppMainWindow> createPlaceholderMainWindow();
+    std::unique_ptr<AppMainWindow> createMainWindow();
 
     std::unique_ptr<PreferencesWindowController> m_preferencesWindowController;
     std::unique_ptr<AppMainWindow> m_mainWindowController;

@@ -1,0 +1,118 @@
+#include "app/filelistmodel.h"
+
+#include "catalogue/stringtables.h"
+#include "engine/exifutil.h"
+#include "windows/fileinfocell.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+FileListModel::FileListModel(QObject *parent)
+    : QAbstractListModel(parent)
+{
+}
+
+int FileListModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : int(m_files.size());
+}
+
+QString FileListModel::errorText()
+{
+    const StringTables &tables = StringTables::instance();
+    return tables.localizedString(QStringLiteral("Error in image")) + QStringLiteral(" - ") +
+           tables.localizedString(QStringLiteral("invalid maker metadata"));
+}
+
+QVariant FileListModel::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
+        return {};
+    const ExifFileInfo &file = *m_files.at(index.row());
+    switch (role) {
+    case Qt::DisplayRole:
+    case Qt::ToolTipRole:
+        return role == Qt::DisplayRole ? QFileInfo(file.fileName()).fileName() : file.fileName();
+    case FileInfoCell::PathRole:
+        return file.fileName();
+    case FileInfoCell::SubtitleRole:
+        return QFileInfo(file.fileName()).path();
+    case FileInfoCell::HasErrorRole:
+        return file.hasError();
+    case FileInfoCell::ErrorTextRole:
+        return file.hasError() ? errorText() : QString();
+    case FileInfoCell::ModifiedRole:
+        return isExifFileModified(file);
+    default:
+        return {};
+    }
+}
+
+ExifFileInfoPtr FileListModel::fileAt(int row) const
+{
+    return row >= 0 && row < m_files.size() ? m_files.at(row) : nullptr;
+}
+
+int FileListModel::rowOf(const QString &path) const
+{
+    const auto it =
+        std::find_if(m_files.cbegin(), m_files.cend(),
+                     [&path](const ExifFileInfoPtr &f) { return f->fileName() == path; });
+    return it == m_files.cend() ? -1 : int(it - m_files.cbegin());
+}
+
+void FileListModel::setFiles(const QList<ExifFileInfoPtr> &files)
+{
+    beginResetModel();
+    m_files = files;
+    endResetModel();
+}
+
+void FileListModel::appendFiles(const QList<ExifFileInfoPtr> &files)
+{
+    if (files.isEmpty())
+        return;
+    const int first = int(m_files.size());
+    beginInsertRows(QModelIndex(), first, first + int(files.size()) - 1);
+    m_files.append(files);
+    endInsertRows();
+}
+
+void FileListModel::replaceFile(int row, const ExifFileInfoPtr &file)
+{
+    if (row < 0 || row >= m_files.size() || !file)
+        return;
+    m_files[row] = file;
+    const QModelIndex changed = index(row);
+    Q_EMIT dataChanged(changed, changed);
+}
+
+void FileListModel::removeRowsAt(QList<int> rows)
+{
+    std::sort(rows.begin(), rows.end(), std::greater<>());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    // From the bottom up, so earlier removals do not move the rows still to go.
+    for (const int row : std::as_const(rows)) {
+        if (row < 0 || row >= m_files.size())
+            continue;
+        beginRemoveRows(QModelIndex(), row, row);
+        m_files.removeAt(row);
+        endRemoveRows();
+    }
+}
+
+void FileListModel::refreshFiles(const QList<ExifFileInfoPtr> &files)
+{
+    for (const ExifFileInfoPtr &file : files) {
+        const int row = int(m_files.indexOf(file));
+        if (row >= 0)
+            Q_EMIT dataChanged(index(row), index(row));
+    }
+}
+
+void FileListModel::refreshAll()
+{
+    if (!m_files.isEmpty())
+        Q_EMIT dataChanged(index(0), index(int(m_files.size()) - 1));
+}

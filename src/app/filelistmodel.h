@@ -1,0 +1,41 @@
+#pragma once
+
+#include "engine/exiffileinfo.h"
+
+#include <QAbstractListModel>
+#include <QList>
+#include <QString>
+
+// The main window's files, one row each, in list order. Exposes what the list's cell draws
+// through FileInfoCell's roles; the modified flag is asked of the change model on every read,
+// so a row never shows a stale mark.
+class FileListModel : public QAbstractListModel
+{
+    Q_OBJECT
+
+public:
+    explicit FileListModel(QObject *parent = nullptr);
+
+    int rowCount(const QModelIndex &parent = QModelIndex()) const override;
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+
+    const QList<ExifFileInfoPtr> &files() const { return m_files; }
+    ExifFileInfoPtr fileAt(int row) const;
+    // -1 when no record has this path.
+    int rowOf(const QString &path) const;
+    bool hasFileInList(const QString &path) const { return rowOf(path) >= 0; }
+
+    void setFiles(const QList<ExifFileInfoPtr> &files);
+    void appendFiles(const QList<ExifFileInfoPtr> &files);
+    void replaceFile(int row, const ExifFileInfoPtr &file);
+    // Rows in any order; duplicates and rows out of range are ignored.
+    void removeRowsAt(QList<int> rows);
+    // Repaints the rows of these records (their values or modified state changed).
+    void refreshFiles(const QList<ExifFileInfoPtr> &files);
+    void refreshAll();
+
+    static QString errorText();
+
+private:
+    QList<ExifFileInfoPtr> m_files;
+};

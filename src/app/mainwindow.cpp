@@ -1,0 +1,117 @@
+#include "app/mainwindow.h"
+
+#include "app/filelistview.h"
+#include "catalogue/stringtables.h"
+#include "controls/aperturetheme.h"
+#include "controls/indeterminateprogressindicatorcell.h"
+#include "windows/fileinfocell.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QSplitter>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace {
+
+QString localized(const char *text)
+{
+    return StringTables::instance().localizedString(QString::fromUtf8(text));
+}
+
+} // namespace
+
+MainWindow::MainWindow(bool debug, QWidget *parent)
+    : QMainWindow(parent)
+{
+    setWindowTitle(localized("Tagsmith") + QStringLiteral("[*]"));
+    resize(1200, 800);
+
+    m_content = new QWidget(this);
+    m_content->setAutoFillBackground(true);
+    QPalette contentPalette = m_content->palette();
+    contentPalette.setColor(QPalette::Window, ApertureTheme::normalSolidFill());
+    m_content->setPalette(contentPalette);
+    setCentralWidget(m_content);
+
+    auto *contentLayout = new QVBoxLayout(m_content);
+    contentLayout->setContentsMargins(0, 0, 0, 0);
+    m_splitter = new QSplitter(Qt::Horizontal, m_content);
+    m_splitter->setChildrenCollapsible(false);
+    contentLayout->addWidget(m_splitter);
+
+    auto *listSide = new QWidget(m_splitter);
+    auto *listLayout = new QVBoxLayout(listSide);
+    listLayout->setContentsMargins(6, 6, 0, 6);
+    listLayout->setSpacing(6);
+    m_filesTable = new FileListView(listSide);
+    m_filesTable->setMinimumWidth(280);
+    QPalette listPalette = m_filesTable->palette();
+    listPalette.setColor(QPalette::Base, QColor::fromRgbF(0.6f, 0.6f, 0.6f));
+    m_filesTable->setPalette(listPalette);
+    m_filesTable->setStyleSheet(
+        QStringLiteral("FileListView { background-color: rgb(153,153,153); }"));
+    listLayout->addWidget(m_filesTable, 1);
+    listLayout->addWidget(buildBottomBar(debug));
+    m_splitter->addWidget(listSide);
+    m_splitter->setStretchFactor(0, 0);
+}
+
+MainWindow::~MainWindow() = default;
+
+QWidget *MainWindow::buildBottomBar(bool debug)
+{
+    auto *bar = new QWidget(this);
+    auto *layout = new QHBoxLayout(bar);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(4);
+
+    m_addButton = new QPushButton(QStringLiteral("+"), bar);
+    m_addButton->setToolTip(localized("Add Files…"));
+    m_removeButton = new QPushButton(QStringLiteral("\u2212"), bar);
+    m_removeButton->setToolTip(localized("Remove from List"));
+    for (QPushButton *button : {m_addButton, m_removeButton})
+        button->setFixedWidth(32);
+    m_presetsButton = new QToolButton(bar);
+    m_presetsButton->setText(localized("Presets"));
+    m_presetsButton->setPopupMode(QToolButton::InstantPopup);
+    m_readingIndicator = new IndeterminateProgressIndicatorCell(bar);
+    m_readingIndicator->setFixedSize(20, 20);
+    m_readingIndicator->hide();
+    layout->addWidget(m_addButton);
+    layout->addWidget(m_removeButton);
+    layout->addWidget(m_presetsButton);
+    layout->addWidget(m_readingIndicator);
+    layout->addStretch(1);
+
+    // The debug buttons exist only with "-debug".
+    if (debug) {
+        m_loadTestFilesButton = new QPushButton(QStringLiteral("Test Files"), bar);
+        m_presetsQuickButton = new QPushButton(QStringLiteral("Presets"), bar);
+        m_resultsButton = new QPushButton(QStringLiteral("Results"), bar);
+        layout->addWidget(m_loadTestFilesButton);
+        layout->addWidget(m_presetsQuickButton);
+        layout->addWidget(m_resultsButton);
+    }
+    m_processButton = new QPushButton(localized("Save"), bar);
+    m_processButton->setDefault(true);
+    layout->addWidget(m_processButton);
+    return bar;
+}
+
+void MainWindow::setFormArea(QWidget *form)
+{
+    m_splitter->addWidget(form);
+    m_splitter->setStretchFactor(1, 1);
+    m_splitter->setSizes({360, 840});
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    if (m_closeHandler && !m_closeHandler()) {
+        event->ignore();
+        return;
+    }
+    QMainWindow::closeEvent(event);
+}

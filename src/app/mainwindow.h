@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QMainWindow>
+
+#include <functional>
+
+class FileListView;
+class IndeterminateProgressIndicatorCell;
+class QPushButton;
+class QSplitter;
+class QToolButton;
+
+// The main window's widgets: the file list and its buttons on the left, the form on the right.
+// Holds no logic; the controller connects it. Asks closeHandler before it closes.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit MainWindow(bool debug, QWidget *parent = nullptr);
+    ~MainWindow() override;
+
+    void setCloseHandler(std::function<bool()> handler) { m_closeHandler = std::move(handler); }
+    void setFormArea(QWidget *form);
+
+    QWidget *content() const { return m_content; }
+    FileListView *filesTable() const { return m_filesTable; }
+    QSplitter *splitter() const { return m_splitter; }
+    QPushButton *addButton() const { return m_addButton; }
+    QPushButton *removeButton() const { return m_removeButton; }
+    QToolButton *presetsButton() const { return m_presetsButton; }
+    QPushButton *processButton() const { return m_processButton; }
+    IndeterminateProgressIndicatorCell *readingIndicator() const { return m_readingIndicator; }
+    // Only in debug mode; null otherwise.
+    QPushButton *loadTestFilesButton() const { return m_loadTestFilesButton; }
+    QPushButton *presetsQuickButton() const { return m_presetsQuickButton; }
+    QPushButton *resultsButton() const { return m_resultsButton; }
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    QWidget *buildBottomBar(bool debug);
+
+    std::function<bool()> m_closeHandler;
+    QWidget *m_content = nullptr;
+    QSplitter *m_splitter = nullptr;
+    FileListView *m_filesTable = nullptr;
+    QPushButton *m_addButton = nullptr;
+    QPushButton *m_removeButton = nullptr;
+    QToolButton *m_presetsButton = nullptr;
+    QPushButton *m_processButton = nullptr;
+    IndeterminateProgressIndicatorCell *m_readingIndicator = nullptr;
+    QPushButton *m_loadTestFilesButton = nullptr;
+    QPushButton *m_presetsQuickButton = nullptr;
+    QPushButton *m_resultsButton = nullptr;
+};

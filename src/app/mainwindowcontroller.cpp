@@ -1,0 +1,397 @@
+#include "app/mainwindowcontroller.h"
+
+#include "app/filelistmodel.h"
+#include "app/filelistview.h"
+#include "app/mainwindow.h"
+#include "app/previewpanel.h"
+#include "catalogue/stringtables.h"
+#include "catalogue/ui/presetswindowcontroller.h"
+#include "controls/indeterminateprogressindicatorcell.h"
+#include "editors/configurationviewcontroller.h"
+#include "editors/exiffilesupdate.h"
+#include "engine/exifbackgroundrunner.h"
+#include "engine/exifutil.h"
+#include "engine/fileadmission.h"
+#include "windows/addfilesnote.h"
+#include "windows/fileinfocell.h"
+#include "windows/mapwindowcontroller.h"
+#include "windows/quicklookimagecache.h"
+#include "windows/resultswindowcontroller.h"
+#include "values/logging.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QFileDialog>
+#include <QGuiApplication>
+#include <QItemSelectionModel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QToolButton>
+
+#include <algorithm>
+
+namespace {
+
+QString localized(const QString &key)
+{
+    return StringTables::instance().localizedString(key);
+}
+
+} // namespace
+
+MainWindowController::MainWindowController(TagsmithAppDelegate *delegate,
+                                           std::unique_ptr<ExifBackgroundRunner> runner,
+                                           ExifSettings &store, bool debug)
+    : m_delegate(delegate)
+    , m_store(store)
+    , m_debug(debug || (delegate && delegate->debug()))
+    , m_runner(runner ? std::move(runner) : std::make_unique<ExifBackgroundRunner>())
+{
+    m_store.addListener(this);
+    m_imagesCache = new QuickLookImageCache(this);
+    m_readQueue = new FileReadQueue(this);
+    connect(m_readQueue, &FileReadQueue::batchRead, this, &MainWindowController::handleBatchRead);
+    connect(m_readQueue, &FileReadQueue::busyChanged, this,
+            &MainWindowController::handleReadingChanged);
+    m_terminateReply = [this](bool terminate) {
+        if (m_delegate)
+            m_delegate->replyToApplicationShouldTerminate(terminate);
+    };
+    buildWindow();
+}
+
+MainWindowController::~MainWindowController()
+{
+    m_store.removeListener(this);
+    if (m_runner && m_runner->listener() == this)
+        m_runner->setListener(nullptr);
+    // The form's editors refer to the files; let them go before the window's widgets do.
+    m_currentFiles.clear();
+}
+
+void MainWindowController::buildWindow()
+{
+    m_window = std::make_unique<MainWindow>(m_debug);
+    m_window->setCloseHandler([this] { return windowShouldClose(); });
+    m_filesTable = m_window->filesTable();
+    m_processButton = m_window->processButton();
+    m_readingIndicator = m_window->readingIndicator();
+
+    m_model = new FileListModel(this);
+    m_filesTable->setModel(m_model);
+    m_filesTable->setItemDelegate(new FileInfoCell(m_imagesCache, m_filesTable));
+    connect(m_filesTable->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &MainWindowController::handleSelectionChanged);
+    connect(m_filesTable, &FileListView::filesDropped, this,
+            [this](const QStringList &paths) { addFiles(paths); });
+    connect(m_filesTable, &FileListView::showHideQuickLookRequested, this,
+            &MainWindowController::showHideQuickLook);
+    m_addFilesNote = new AddFilesNote(m_filesTable);
+
+    m_configController = new ConfigurationViewController(this);
+    m_configController->setShowMapAction([this] { showMap(); });
+    m_configController->createUserInterface();
+    m_window->setFormArea(m_configController->scrollArea());
+
+    m_menus = new MainWindowMenus(m_window->menuBar(), this);
+    m_window->presetsButton()->setMenu(m_menus->configsMenu());
+    connectCommands();
+
+    connect(&ExifFilesUpdateCenter::instance(), &ExifFilesUpdateCenter::exifFilesUpdated, this,
+            &MainWindowController::handleExifFilesUpdate);
+    updateConfigurations();
+    recheckUIEnablement();
+}
+
+void MainWindowController::connectCommands()
+{
+    using C = MainWindowMenus::Command;
+    const auto on = [this](C command, void (MainWindowController::*handler)()) {
+        connect(m_menus->action(command), &QAction::triggered, this, handler);
+    };
+    on(C::Open, &MainWindowController::openDocument);
+    on(C::Process, &MainWindowController::processFiles);
+    on(C::Reload, &MainWindowController::reloadSelectedFiles);
+    on(C::RemoveFiles, &MainWindowController::removeFilesClick);
+    on(C::ClearFiles, &MainWindowController::clearAllFiles);
+    on(C::RemoveAllMetadata, &MainWindowController::removeAllMetadata);
+    on(C::RemoveMakerNotes, &MainWindowController::removeMakerNotes);
+    on(C::ShowConfigurations, &MainWindowController::showConfigurations);
+    on(C::ShowMap, &MainWindowController::showMap);
+    on(C::ShowResults, &MainWindowController::showHideResultsWindow);
+    on(C::QuickLook, &MainWindowController::showHideQuickLook);
+    connect(m_menus->action(C::SelectAll), &QAction::triggered, m_filesTable,
+            &QAbstractItemView::selectAll);
+    if (m_delegate) {
+        connect(m_menus->action(C::Preferences), &QAction::triggered, m_delegate,
+                &TagsmithAppDelegate::showPreferences);
+        connect(m_menus->action(C::Quit), &QAction::triggered, m_delegate,
+                &TagsmithAppDelegate::requestQuit);
+        connect(m_menus->action(C::Help), &QAction::triggered, m_delegate,
+                &TagsmithAppDelegate::showHelp);
+        connect(m_menus->action(C::Support), &QAction::triggered, m_delegate,
+                &TagsmithAppDelegate::openSupportPage);
+        connect(m_menus->action(C::WebSite), &QAction::triggered, m_delegate,
+                &TagsmithAppDelegate::openWebSite);
+    }
+    connect(m_window->addButton(), &QPushButton::clicked, this,
+            &MainWindowController::openDocument);
+    connect(m_window->removeButton(), &QPushButton::clicked, this,
+            &MainWindowController::removeFilesClick);
+    connect(m_processButton, &QPushButton::clicked, this, &MainWindowController::processFiles);
+    connect(m_menus->configsMenu(), &QMenu::triggered, this, [this](QAction *action) {
+        const int tag = action->data().toInt();
+        if (tag >= 0)
+            handleConfigurationClick(tag);
+    });
+    if (m_debug) {
+        connect(m_window->loadTestFilesButton(), &QPushButton::clicked, this,
+                &MainWindowController::loadTestFiles);
+        connect(m_window->presetsQuickButton(), &QPushButton::clicked, this,
+                &MainWindowController::showConfigurations);
+        connect(m_window->resultsButton(), &QPushButton::clicked, this,
+                &MainWindowController::showHideResultsWindow);
+    }
+}
+
+QWidget *MainWindowController::window()
+{
+    return m_window.get();
+}
+
+const QList<ExifFileInfoPtr> &MainWindowController::files() const
+{
+    return m_model->files();
+}
+
+bool MainWindowController::hasDiretyFiles() const
+{
+    return ExifUtil::hasDiretyFiles(files());
+}
+
+bool MainWindowController::openFile(const QString &path)
+{
+    return addFiles({path});
+}
+
+bool MainWindowController::hasFileInList(const QString &path) const
+{
+    return m_model->hasFileInList(path) || m_readQueue->isQueued(path);
+}
+
+bool MainWindowController::addFiles(const QStringList &paths)
+{
+    const FileAdmissionResult admitted = FileAdmission::preprocessFilesToBeAdded(
+        paths, [this](const QString &path) { return hasFileInList(path); });
+    FileReadQueue::Batch batch;
+    batch.rejected = admitted.rejected;
+    for (const QString &path : admitted.accepted) {
+        // A folder may name the same file twice through a link; one row each.
+        if (std::none_of(batch.files.cbegin(), batch.files.cend(),
+                         [&path](const ExifFileInfoPtr &f) { return f->fileName() == path; }))
+            batch.files.append(std::make_shared<ExifFileInfo>(path));
+    }
+    if (batch.files.isEmpty()) {
+        m_addFilesNote->showRejections(batch.rejected);
+        return false;
+    }
+    m_readQueue->enqueue(std::move(batch));
+    return true;
+}
+
+bool MainWindowController::waitForPendingReads(int timeoutMs)
+{
+    return m_readQueue->waitForIdle(timeoutMs);
+}
+
+void MainWindowController::handleBatchRead(const FileReadQueue::Batch &batch)
+{
+    QList<ExifFileInfoPtr> valid;
+    QList<FileRejection> rejected = batch.rejected;
+    for (const ExifFileInfoPtr &file : batch.files) {
+        // Another add may have brought the same path in the meantime.
+        if (file->isValid() && !m_model->hasFileInList(file->fileName()))
+            valid.append(file);
+        else if (!file->isValid())
+            rejected.append({file->fileName(), FileRejection::Reason::Unreadable});
+    }
+    if (!batch.result.ok())
+        qCWarning(lcTagsmith).noquote() << batch.result.errorMessage;
+    m_addFilesNote->showRejections(rejected);
+    if (valid.isEmpty())
+        return;
+    const int first = int(files().size());
+    m_model->appendFiles(valid);
+    QList<int> rows;
+    for (int row = first; row < files().size(); ++row)
+        rows.append(row);
+    selectRows(rows);
+    m_filesTable->scrollTo(m_model->index(first));
+}
+
+void MainWindowController::handleReadingChanged(bool busy)
+{
+    m_readingIndicator->setVisible(busy);
+    if (busy) {
+        m_readingIndicator->startAnimation();
+        QGuiApplication::setOverrideCursor(Qt::BusyCursor);
+    } else {
+        m_readingIndicator->stopAnimation();
+        QGuiApplication::restoreOverrideCursor();
+    }
+}
+
+void MainWindowController::selectRows(const QList<int> &rows)
+{
+    QItemSelection selection;
+    for (const int row : rows) {
+        const QModelIndex index = m_model->index(row);
+        selection.select(index, index);
+    }
+    m_filesTable->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    if (!rows.isEmpty())
+        m_filesTable->selectionModel()->setCurrentIndex(m_model->index(rows.first()),
+                                                        QItemSelectionModel::NoUpdate);
+}
+
+QList<ExifFileInfoPtr> MainWindowController::selectedFiles() const
+{
+    QModelIndexList indexes = m_filesTable->selectionModel()->selectedRows();
+    std::sort(indexes.begin(), indexes.end(),
+              [](const QModelIndex &a, const QModelIndex &b) { return a.row() < b.row(); });
+    QList<ExifFileInfoPtr> selected;
+    for (const QModelIndex &index : std::as_const(indexes))
+        selected.append(m_model->fileAt(index.row()));
+    return selected;
+}
+
+void MainWindowController::handleSelectionChanged()
+{
+    // Typed text still in a row belongs to the files it was typed for.
+    m_configController->commitPendingInput();
+    m_currentFiles = selectedFiles();
+    if (m_previewPanel && m_previewPanel->isVisible())
+        m_previewPanel->setFile(m_currentFiles.isEmpty() ? QString()
+                                                         : m_currentFiles.first()->fileName());
+    m_configController->setExifFiles(m_currentFiles);
+    reloadMapFiles();
+    recheckUIEnablement();
+}
+
+void MainWindowController::openDocument()
+{
+    auto *dialog = new QFileDialog(m_window.get(), localized(QStringLiteral("Add Files")));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    // Qt's own dialog: the native one cannot pick files and folders together.
+    dialog->setOption(QFileDialog::DontUseNativeDialog);
+    dialog->setFileMode(QFileDialog::ExistingFiles);
+    dialog->setWindowModality(Qt::WindowModal);
+    connect(dialog, &QFileDialog::accepted, this,
+            [this, dialog] { addFiles(dialog->selectedFiles()); });
+    dialog->open();
+}
+
+void MainWindowController::reloadSelectedFiles()
+{
+    const QList<ExifFileInfoPtr> selected = selectedFiles();
+    if (selected.isEmpty())
+        return;
+    QGuiApplication::setOverrideCursor(Qt::BusyCursor);
+    QList<int> invalidRows;
+    QList<ExifFileInfoPtr> reloaded;
+    for (const ExifFileInfoPtr &old : selected) {
+        const int row = m_model->rowOf(old->fileName());
+        auto fresh = std::make_shared<ExifFileInfo>(old->fileName());
+        m_exifRunner.loadExifInformation(fresh);
+        m_model->replaceFile(row, fresh);
+        m_imagesCache->removeImage(fresh->fileName());
+        if (fresh->isValid())
+            reloaded.append(fresh);
+        else
+            invalidRows.append(row);
+    }
+    QGuiApplication::restoreOverrideCursor();
+    m_model->removeRowsAt(invalidRows);
+    m_currentFiles = reloaded;
+    m_configController->setExifFiles(m_currentFiles);
+    updateWindowModified();
+    recheckUIEnablement();
+}
+
+void MainWindowController::removeFilesClick()
+{
+    QList<int> rows;
+    for (const QModelIndex &index : m_filesTable->selectionModel()->selectedRows()) {
+        rows.append(index.row());
+        m_imagesCache->removeImage(m_model->fileAt(index.row())->fileName());
+    }
+    m_model->removeRowsAt(rows);
+    m_currentFiles.clear();
+    m_configController->clearEditors();
+    updateWindowModified();
+    recheckUIEnablement();
+}
+
+void MainWindowController::clearAllFiles()
+{
+    m_model->setFiles({});
+    m_currentFiles.clear();
+    m_configController->setExifFiles({});
+    m_imagesCache->removeAll();
+    updateWindowModified();
+    recheckUIEnablement();
+}
+
+void MainWindowController::loadTestFiles()
+{
+    clearAllFiles();
+    const QString bundle = QCoreApplication::applicationDirPath();
+    QStringList paths;
+    for (const char *name : {"IMG_0031.JPG", "IMG_0032.JPG", "IMG_0033.JPG"})
+        paths.append(bundle + QStringLiteral("/Contents/Resources/test-images/") +
+                     QString::fromLatin1(name));
+    addFiles(paths);
+}
+
+MainWindowMenus::State MainWindowController::commandState() const
+{
+    static const QStringList removable{QStringLiteral("image/jpeg"), QStringLiteral("image/tiff"),
+                                       QStringLiteral("application/vnd.adobe.photoshop")};
+    MainWindowMenus::State state;
+    state.saving = m_saving;
+    state.hasFiles = !files().isEmpty();
+    const QList<ExifFileInfoPtr> selected = selectedFiles();
+    state.hasSelection = !selected.isEmpty();
+    for (const ExifFileInfoPtr &file : selected) {
+        state.selectionHasError = state.selectionHasError || file->hasError();
+        state.selectionCanLoseMetadata =
+            state.selectionCanLoseMetadata ||
+            removable.contains(file->exifValue(QStringLiteral("File:MIMEType")));
+    }
+    return state;
+}
+
+void MainWindowController::recheckUIEnablement()
+{
+    const MainWindowMenus::State state = commandState();
+    m_menus->updateEnablement(state);
+    m_window->removeButton()->setEnabled(
+        MainWindowMenus::isCommandEnabled(MainWindowMenus::Command::RemoveFiles, state));
+    m_processButton->setEnabled(true);
+}
+
+void MainWindowController::updateWindowModified()
+{
+    m_window->setWindowModified(hasDiretyFiles());
+}
+
+void MainWindowController::handleExifFilesUpdate(const ExifFilesUpdate &update)
+{
+    if (!update.exifFiles.isEmpty()) {
+        m_model->refreshFiles(update.exifFiles);
+        updateWindowModified();
+    }
+    recheckUIEnablement();
+}

@@ -1,0 +1,170 @@
+#pragma once
+
+#include "app/filereadqueue.h"
+#include "app/mainwindowmenus.h"
+#include "app/tagsmithappdelegate.h"
+#include "catalogue/exifsettings.h"
+#include "engine/exifbackgroundrunner.h"
+#include "engine/exifbackgroundrunnerlistener.h"
+#include "engine/exiffileinfo.h"
+#include "engine/exifrunner.h"
+
+#include <QHash>
+#include <QList>
+#include <QObject>
+#include <QPointer>
+#include <QStringList>
+
+#include <functional>
+#include <memory>
+
+class AddFilesNote;
+class ConfigurationViewController;
+class FileListModel;
+class FileListView;
+class IndeterminateProgressIndicatorCell;
+class MainWindow;
+class MapWindowController;
+class PresetsWindowController;
+class PreviewPanel;
+class ProgressPanel;
+class QMessageBox;
+class QPushButton;
+class QuickLookImageCache;
+class ResultsWindowController;
+struct ExifFilesUpdate;
+
+// The one main window: the list of files, the form for the selected ones, the commands, and
+// the close / save / quit state machine.
+class MainWindowController : public QObject,
+                             public AppMainWindow,
+                             public ExifBackgroundRunnerListener,
+                             public ExifSettingsListener
+{
+    Q_OBJECT
+
+public:
+    // saveStatus values.
+    enum SaveStatus { Idle = 0, QuitWaiting = 1, MayClose = 2, SavingToQuit = 3 };
+    enum class CloseAnswer { Save, Cancel, DontSave };
+
+    // A null runner makes the real one; tests pass a stand-in.
+    explicit MainWindowController(TagsmithAppDelegate *delegate = nullptr,
+                                  std::unique_ptr<ExifBackgroundRunner> runner = nullptr,
+                                  ExifSettings &store = ExifSettings::instance(),
+                                  bool debug = false);
+    ~MainWindowController() override;
+
+    // AppMainWindow
+    QWidget *window() override;
+    bool hasDiretyFiles() const override;
+    void setSaveStatus(int status) override { m_saveStatus = status; }
+    bool openFile(const QString &path) override;
+
+    int saveStatus() const { return m_saveStatus; }
+    bool isSaving() const { return m_saving; }
+    // What "let the application terminate" and "cancel the quit" do; the delegate by default.
+    void setTerminateReply(std::function<void(bool)> reply) { m_terminateReply = std::move(reply); }
+
+    // Adding: paths of files or folders. True when some new record was made; the records are
+    // read in the background and then appended and selected.
+    bool addFiles(const QStringList &paths);
+    bool hasFileInList(const QString &path) const;
+    bool waitForPendingReads(int timeoutMs = 30000);
+
+    const QList<ExifFileInfoPtr> &files() const;
+    const QList<ExifFileInfoPtr> &currentFiles() const { return m_currentFiles; }
+    QList<ExifFileInfoPtr> selectedFiles() const;
+    void selectRows(const QList<int> &rows);
+
+    // Commands.
+    void openDocument();
+    void processFiles();
+    void removeAllMetadata();
+    void removeMakerNotes();
+    void reloadSelectedFiles();
+    void removeFilesClick();
+    void clearAllFiles();
+    void showConfigurations();
+    void showMap();
+    void showHideResultsWindow();
+    void showHideQuickLook();
+    void loadTestFiles();
+
+    // Presets.
+    void updateConfigurations() override;
+    const QStringList &configIds() const { return m_configIds; }
+    void handleConfigurationClick(int tag);
+    void applyConfiguration(const ExifConfiguration &configuration);
+    static void applyConfiguration(const ExifConfiguration &configuration,
+                                   const ExifFileInfoPtr &file);
+
+    // Close and save.
+    bool windowShouldClose();
+    void handleCloseAnswer(CloseAnswer answer);
+    void checkSaveStatusAfterSave(const QHash<QString, ErrorMessagesPtr> &results);
+
+    // ExifBackgroundRunnerListener
+    void fileToBeProcessed(const ExifFileInfoPtr &file, const ExifOperationStatus &status) override;
+    void fileProcessed(const ExifFileInfoPtr &file, const ExifOperationStatus &status) override;
+    void finishProcessing(const QHash<QString, ErrorMessagesPtr> &results) override;
+
+    void recheckUIEnablement();
+    void updateWindowModified();
+
+    FileListModel *model() const { return m_model; }
+    FileListView *filesTable() const { return m_filesTable; }
+    MainWindowMenus *menus() const { return m_menus; }
+    ConfigurationViewController *configController() const { return m_configController; }
+    ProgressPanel *progressPanel() const;
+    AddFilesNote *addFilesNote() const { return m_addFilesNote; }
+    ResultsWindowController *resultsWindowController() const;
+    MapWindowController *mapWindowController() const;
+    PresetsWindowController *settingsWindowController() const;
+    QPushButton *processButton() const { return m_processButton; }
+
+private:
+    void buildWindow();
+    void connectCommands();
+    void handleSelectionChanged();
+    void handleBatchRead(const FileReadQueue::Batch &batch);
+    void handleReadingChanged(bool busy);
+    void handleExifFilesUpdate(const ExifFilesUpdate &update);
+    void showProgressPanel(bool fadeIn);
+    void removeProgressPanel();
+    void displayErrors(const QHash<QString, ErrorMessagesPtr> &results);
+    void reloadMapFiles();
+    void closeWindowNow();
+    void reply(bool terminate);
+    QMessageBox *makeSheet(const QString &text, const QString &informativeText);
+    MainWindowMenus::State commandState() const;
+
+    TagsmithAppDelegate *m_delegate;
+    ExifSettings &m_store;
+    bool m_debug;
+    std::unique_ptr<ExifBackgroundRunner> m_runner;
+    std::unique_ptr<MainWindow> m_window;
+    ExifRunner m_exifRunner;
+    QuickLookImageCache *m_imagesCache = nullptr;
+    FileReadQueue *m_readQueue = nullptr;
+    FileListModel *m_model = nullptr;
+    FileListView *m_filesTable = nullptr;
+    MainWindowMenus *m_menus = nullptr;
+    ConfigurationViewController *m_configController = nullptr;
+    AddFilesNote *m_addFilesNote = nullptr;
+    IndeterminateProgressIndicatorCell *m_readingIndicator = nullptr;
+    QPushButton *m_processButton = nullptr;
+    QPointer<ProgressPanel> m_progressPanel;
+    QPointer<ResultsWindowController> m_resultsWindowController;
+    QPointer<MapWindowController> m_mapWindowController;
+    QPointer<PresetsWindowController> m_settingsWindowController;
+    QPointer<PreviewPanel> m_previewPanel;
+    QPointer<QMessageBox> m_closeSheet;
+    QList<ExifFileInfoPtr> m_currentFiles;
+    QStringList m_configIds;
+    std::function<void(bool)> m_terminateReply;
+    int m_saveStatus = Idle;
+    bool m_saving = false;
+    // A close asked for while a batch ran; put again when it ends.
+    bool m_closeAfterSaving = false;
+};

@@ -1,0 +1,111 @@
+#include "app/mainwindowmenus.h"
+
+#include "catalogue/stringtables.h"
+
+#include <QAction>
+#include <QKeySequence>
+#include <QMenu>
+#include <QMenuBar>
+
+namespace {
+
+QString localized(const char *text)
+{
+    return StringTables::instance().localizedString(QString::fromUtf8(text));
+}
+
+} // namespace
+
+MainWindowMenus::MainWindowMenus(QMenuBar *menuBar, QObject *parent)
+    : QObject(parent)
+{
+    using C = Command;
+    QMenu *file = menuBar->addMenu(localized("&File"));
+    add(file, C::Open, localized("Add Files…"), QKeySequence::Open);
+    add(file, C::Process, localized("Save"), QKeySequence::Save);
+    add(file, C::Reload, localized("Reload Selected Files"), QKeySequence(Qt::CTRL | Qt::Key_R));
+    file->addSeparator();
+    add(file, C::RemoveFiles, localized("Remove from List"), QKeySequence::Delete);
+    add(file, C::ClearFiles, localized("Clear List"),
+        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Delete));
+    file->addSeparator();
+    add(file, C::RemoveAllMetadata, localized("Remove All Metadata…"),
+        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_X));
+    add(file, C::RemoveMakerNotes, localized("Repair Maker Notes…"),
+        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_M));
+    file->addSeparator();
+    // Linux has no standard key for preferences; Ctrl+, is the common one.
+    QAction *preferences = add(file, C::Preferences, localized("Preferences…"),
+                               QKeySequence(Qt::CTRL | Qt::Key_Comma));
+    preferences->setMenuRole(QAction::PreferencesRole);
+    QAction *quit = add(file, C::Quit, localized("Quit Tagsmith"), QKeySequence::Quit);
+    quit->setMenuRole(QAction::QuitRole);
+
+    QMenu *edit = menuBar->addMenu(localized("&Edit"));
+    add(edit, C::SelectAll, localized("Select All"), QKeySequence::SelectAll);
+
+    m_configsMenu = menuBar->addMenu(localized("&Presets"));
+    QAction *editPresets = add(m_configsMenu, C::ShowConfigurations, localized("Edit Presets…"),
+                               QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P));
+    editPresets->setData(EditPresetsTag);
+
+    QMenu *window = menuBar->addMenu(localized("&Window"));
+    add(window, C::QuickLook, localized("Preview"), QKeySequence(Qt::CTRL | Qt::Key_Y));
+    add(window, C::ShowMap, localized("Map"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_G));
+    add(window, C::ShowResults, localized("Results"), QKeySequence(Qt::CTRL | Qt::Key_E));
+
+    QMenu *help = menuBar->addMenu(localized("&Help"));
+    add(help, C::Help, localized("Tagsmith Help"), QKeySequence::HelpContents);
+    add(help, C::Support, localized("Tagsmith Support"), QKeySequence());
+    add(help, C::WebSite, localized("Tagsmith Web Site"), QKeySequence());
+}
+
+QAction *MainWindowMenus::add(QMenu *menu, Command command, const QString &text,
+                              const QKeySequence &shortcut)
+{
+    QAction *action = menu->addAction(text);
+    action->setShortcut(shortcut);
+    // Shortcuts work anywhere in the window, also while the form has the focus.
+    action->setShortcutContext(Qt::WindowShortcut);
+    m_actions.insert(command, action);
+    return action;
+}
+
+bool MainWindowMenus::isCommandEnabled(Command command, const State &state)
+{
+    switch (command) {
+    case Command::Preferences:
+    case Command::Quit:
+    case Command::Help:
+    case Command::Support:
+    case Command::WebSite:
+        return true; // the application's, not this window's
+    default:
+        break;
+    }
+    if (state.saving)
+        return false;
+    switch (command) {
+    case Command::Reload:
+    case Command::RemoveFiles:
+    case Command::QuickLook:
+        return state.hasSelection;
+    case Command::RemoveMakerNotes:
+        return state.selectionHasError;
+    case Command::RemoveAllMetadata:
+        return state.selectionCanLoseMetadata;
+    default:
+        return true;
+    }
+}
+
+void MainWindowMenus::updateEnablement(const State &state)
+{
+    for (auto it = m_actions.cbegin(); it != m_actions.cend(); ++it)
+        it.value()->setEnabled(isCommandEnabled(it.key(), state));
+    // Presets are applied to the selection like any other edit.
+    for (QAction *preset : m_configsMenu->actions()) {
+        if (preset->data().toInt() >= 0 && !preset->isSeparator())
+            preset->setEnabled(!state.saving && state.hasSelection);
+    }
+}

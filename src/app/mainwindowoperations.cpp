@@ -1,0 +1,451 @@
+// The main window's background operations, presets and secondary windows, and its close /
+// save / quit state machine.
+#include "app/mainwindowcontroller.h"
+
+#include "app/filelistmodel.h"
+#include "app/mainwindow.h"
+#include "app/previewpanel.h"
+#include "catalogue/stringtables.h"
+#include "catalogue/ui/presetswindowcontroller.h"
+#include "editors/configurationviewcontroller.h"
+#include "engine/exifbackgroundrunner.h"
+#include "values/tagsmithexception.h"
+#include "windows/mapwindowcontroller.h"
+#include "windows/progresspanel.h"
+#include "windows/resultswindowcontroller.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include <algorithm>
+
+namespace {
+
+QString localized(const QString &key)
+{
+    return StringTables::instance().localizedString(key);
+}
+
+const QString MimeTypeKey = QStringLiteral("File:MIMEType");
+
+} // namespace
+
+QMessageBox *MainWindowController::makeSheet(const QString &text, const QString &informativeText)
+{
+    auto *sheet = new QMessageBox(m_window.get());
+    sheet->setAttribute(Qt::WA_DeleteOnClose);
+    sheet->setWindowModality(Qt::WindowModal);
+    sheet->setIcon(QMessageBox::Warning);
+    sheet->setText(text);
+    sheet->setInformativeText(informativeText);
+    return sheet;
+}
+
+void MainWindowController::reply(bool terminate)
+{
+    if (m_terminateReply)
+        m_terminateReply(terminate);
+}
+
+// --- Operations --------------------------------------------------------------------------------
+
+void MainWindowController::processFiles()
+{
+    if (m_saving)
+        return;
+    // A value still being typed is part of what the user asked to save.
+    m_configController->commitPendingInput();
+    m_saving = true;
+    recheckUIEnablement();
+    m_runner->setListener(this);
+    if (m_runner->saveFiles(files(), 1) > 0)
+        showProgressPanel(false);
+}
+
+void MainWindowController::removeAllMetadata()
+{
+    const QList<ExifFileInfoPtr> selected = selectedFiles();
+    if (files().isEmpty() || m_saving || selected.isEmpty())
+        return;
+    static const QStringList removable{QStringLiteral("image/jpeg"), QStringLiteral("image/tiff"),
+                                       QStringLiteral("application/vnd.adobe.photoshop")};
+    static const QStringList plain{QStringLiteral("image/jpeg"), QStringLiteral("image/tiff"),
+                                   QStringLiteral("image/png"), QStringLiteral("image/gif")};
+    bool any = false;
+    bool needsStrongWarning = false;
+    for (const ExifFileInfoPtr &file : selected) {
+        const QString mime = file->exifValue(MimeTypeKey);
+        if (!removable.contains(mime))
+            continue;
+        any = true;
+        needsStrongWarning =
+            needsStrongWarning || mime == QStringLiteral("image/tiff") || !plain.contains(mime);
+    }
+    if (!any)
+        return;
+
+    QMessageBox *sheet = makeSheet(
+        localized(QStringLiteral("Do you want to remove all metadata?")),
+        needsStrongWarning ? localized(QStringLiteral("REMOVE_ALL_METADATA_WARNING2"))
+                           : localized(QStringLiteral("All tags will be removed imediatelly.")));
+    QPushButton *remove =
+        sheet->addButton(localized(QStringLiteral("Remove All Metadata")), QMessageBox::AcceptRole);
+    sheet->addButton(localized(QStringLiteral("Don't Remove")), QMessageBox::RejectRole);
+    sheet->setDefaultButton(remove);
+    connect(sheet, &QMessageBox::finished, this, [this, sheet, remove] {
+        if (sheet->clickedButton() != remove)
+            return;
+        // All the selected files go, not only the kinds that made the question.
+        const QList<ExifFileInfoPtr> current = selectedFiles();
+        if (current.isEmpty())
+            return;
+        m_saving = true;
+        recheckUIEnablement();
+        m_runner->setListener(this);
+        if (m_runner->removeAllMetadata(current, 1) > 0)
+            showProgressPanel(true);
+    });
+    sheet->open();
+}
+
+void MainWindowController::removeMakerNotes()
+{
+    if (selectedFiles().isEmpty())
+        return;
+    QMessageBox *sheet = makeSheet(localized(QStringLiteral("dialog.fix-maker.title")),
+                                   localized(QStringLiteral("dialog.fix-maker.into-text")));
+    QPushButton *repair = sheet->addButton(localized(QStringLiteral("dialog.fix-maker.ok-button")),
+                                           QMessageBox::AcceptRole);
+    sheet->addButton(localized(QStringLiteral("dialog.fix-maker.cancel-button")),
+                     QMessageBox::RejectRole);
+    sheet->setDefaultButton(repair);
+    connect(sheet, &QMessageBox::finished, this, [this, sheet, repair] {
+        if (sheet->clickedButton() != repair || m_saving)
+            return;
+        const QList<ExifFileInfoPtr> current = selectedFiles();
+        m_saving = true;
+        recheckUIEnablement();
+        m_runner->setListener(this);
+        if (m_runner->removeMakerNotesFromFiles(current, 1) > 0)
+            showProgressPanel(true);
+    });
+    sheet->open();
+}
+
+void MainWindowController::showProgressPanel(bool fadeIn)
+{
+    removeProgressPanel();
+    m_progressPanel = new ProgressPanel(m_window->content());
+    m_progressPanel->raise();
+    m_progressPanel->show();
+    if (fadeIn)
+        m_progressPanel->fadeIn();
+    else
+        m_progressPanel->setOpacity(1.0);
+}
+
+void MainWindowController::removeProgressPanel()
+{
+    if (m_progressPanel) {
+        m_progressPanel->hide();
+        m_progressPanel->deleteLater();
+        m_progressPanel = nullptr;
+    }
+}
+
+void MainWindowController::fileToBeProcessed(const ExifFileInfoPtr &,
+                                             const ExifOperationStatus &status)
+{
+    if (m_progressPanel)
+        m_progressPanel->fileToBeProcessed(status);
+}
+
+void MainWindowController::fileProcessed(const ExifFileInfoPtr &, const ExifOperationStatus &status)
+{
+    if (const ExifFileInfoPtr file = m_model->fileAt(m_model->rowOf(status.fileName())))
+        m_model->refreshFiles({file});
+}
+
+void MainWindowController::finishProcessing(const QHash<QString, ErrorMessagesPtr> &results)
+{
+    m_saving = false;
+    if (m_saveStatus == MayClose || m_saveStatus == SavingToQuit) {
+        checkSaveStatusAfterSave(results);
+        if (m_saveStatus != Idle)
+            return;
+    }
+    removeProgressPanel();
+    m_model->refreshAll();
+    m_configController->setExifFiles(m_currentFiles);
+    updateWindowModified();
+    recheckUIEnablement();
+
+    quint64 problems = 0;
+    for (const ErrorMessagesPtr &messages : results) {
+        if (messages)
+            problems += messages->errorsCount() + messages->warnsCount();
+    }
+    if (problems > 0)
+        displayErrors(results);
+
+    if (m_closeAfterSaving) {
+        m_closeAfterSaving = false;
+        m_window->close();
+    }
+}
+
+// --- Close, save, quit -------------------------------------------------------------------------
+
+bool MainWindowController::windowShouldClose()
+{
+    if (m_saving) {
+        // Asked again when the batch ends, when the files' state is known.
+        m_closeAfterSaving = true;
+        return false;
+    }
+    if (m_saveStatus == MayClose) {
+        m_saveStatus = Idle;
+        return true;
+    }
+    if (!hasDiretyFiles()) {
+        if (m_saveStatus == QuitWaiting)
+            reply(true);
+        return true;
+    }
+    if (m_closeSheet)
+        return false;
+    m_closeSheet =
+        makeSheet(localized(QStringLiteral("Save changes to modified files?")),
+                  localized(QStringLiteral("If you don't save the changes, they will be lost")));
+    QPushButton *save =
+        m_closeSheet->addButton(localized(QStringLiteral("Save")), QMessageBox::AcceptRole);
+    QPushButton *cancel =
+        m_closeSheet->addButton(localized(QStringLiteral("Cancel")), QMessageBox::RejectRole);
+    QPushButton *dontSave = m_closeSheet->addButton(localized(QStringLiteral("Don't Save")),
+                                                    QMessageBox::DestructiveRole);
+    m_closeSheet->setDefaultButton(save);
+    m_closeSheet->setEscapeButton(cancel);
+    QMessageBox *sheet = m_closeSheet;
+    connect(sheet, &QMessageBox::finished, this, [this, sheet, save, dontSave] {
+        const QAbstractButton *clicked = sheet->clickedButton();
+        handleCloseAnswer(clicked == save       ? CloseAnswer::Save
+                          : clicked == dontSave ? CloseAnswer::DontSave
+                                                : CloseAnswer::Cancel);
+    });
+    m_closeSheet->open();
+    return false;
+}
+
+void MainWindowController::handleCloseAnswer(CloseAnswer answer)
+{
+    switch (answer) {
+    case CloseAnswer::DontSave:
+        if (m_saveStatus != Idle) {
+            reply(true);
+            return;
+        }
+        m_saveStatus = MayClose;
+        m_model->setFiles({});
+        m_currentFiles.clear();
+        closeWindowNow();
+        return;
+    case CloseAnswer::Cancel: {
+        const bool quitWaiting = m_saveStatus != Idle;
+        m_saveStatus = Idle;
+        if (quitWaiting)
+            reply(false);
+        return;
+    }
+    case CloseAnswer::Save:
+        m_saveStatus = m_saveStatus != Idle ? SavingToQuit : MayClose;
+        processFiles();
+        return;
+    }
+    throw TagsmithException(TagsmithException::LogicError,
+                            QStringLiteral("Unknown button return: %1").arg(int(answer)));
+}
+
+void MainWindowController::closeWindowNow()
+{
+    m_saveStatus = MayClose;
+    m_window->close();
+}
+
+void MainWindowController::checkSaveStatusAfterSave(const QHash<QString, ErrorMessagesPtr> &results)
+{
+    const bool failed =
+        std::any_of(results.cbegin(), results.cend(),
+                    [](const ErrorMessagesPtr &m) { return m && m->errorsCount(); });
+    if (!failed) {
+        if (m_saveStatus == MayClose)
+            closeWindowNow();
+        else
+            reply(true);
+        return;
+    }
+    auto *alert = new QMessageBox(m_window.get());
+    alert->setAttribute(Qt::WA_DeleteOnClose);
+    alert->setWindowModality(Qt::ApplicationModal);
+    alert->setIcon(QMessageBox::Critical);
+    alert->setText(localized(QStringLiteral("SAVE_FAILED_DLG_MSG")));
+    alert->setInformativeText(localized(QStringLiteral("SAVE_FAILED_DLG_INFO")));
+    QPushButton *dontExit =
+        alert->addButton(localized(QStringLiteral("Don't Exit")), QMessageBox::RejectRole);
+    alert->addButton(localized(QStringLiteral("Exit")), QMessageBox::AcceptRole);
+    alert->setDefaultButton(dontExit);
+    connect(alert, &QMessageBox::finished, this, [this, alert, dontExit, results] {
+        // The answer has always been compared with 1000, the first-button code of a newer alert
+        // form that this one never returns (it gives 1 and 0), so both buttons act as "Exit".
+        // Kept as users know it.
+        constexpr int firstButtonReturn = 1000;
+        const int answer = alert->clickedButton() == dontExit ? 1 : 0;
+        if (answer == firstButtonReturn) {
+            const bool quitWaiting = m_saveStatus == SavingToQuit;
+            m_saveStatus = Idle;
+            if (quitWaiting)
+                reply(false);
+            displayErrors(results);
+            return;
+        }
+        if (m_saveStatus == MayClose)
+            closeWindowNow();
+        else
+            reply(true);
+    });
+    alert->open();
+}
+
+// --- Presets -----------------------------------------------------------------------------------
+
+void MainWindowController::updateConfigurations()
+{
+    QMenu *menu = m_menus->configsMenu();
+    for (QAction *action : menu->actions()) {
+        if (action->data().isValid() && action->data().toInt() >= 0) {
+            menu->removeAction(action);
+            action->deleteLater();
+        }
+    }
+    m_configIds.clear();
+    QList<ExifConfigurationPtr> presets = m_store.configurations().values();
+    std::stable_sort(presets.begin(), presets.end(),
+                     [](const ExifConfigurationPtr &a, const ExifConfigurationPtr &b) {
+                         return a->name() > b->name();
+                     });
+    // Each goes in at position 1, so the menu ends up in ascending order.
+    for (int i = 0; i < presets.size(); ++i) {
+        m_configIds.append(presets.at(i)->identifier());
+        auto *item = new QAction(presets.at(i)->name(), menu);
+        item->setData(i);
+        const QList<QAction *> actions = menu->actions();
+        menu->insertAction(actions.size() > 1 ? actions.at(1) : nullptr, item);
+    }
+    recheckUIEnablement();
+}
+
+void MainWindowController::handleConfigurationClick(int tag)
+{
+    if (tag < 0 || tag >= m_configIds.size())
+        return;
+    if (const ExifConfigurationPtr preset = m_store.loadConfiguration(m_configIds.at(tag)))
+        applyConfiguration(*preset);
+}
+
+void MainWindowController::applyConfiguration(const ExifConfiguration &configuration,
+                                              const ExifFileInfoPtr &file)
+{
+    for (auto it = configuration.changedValues().cbegin();
+         it != configuration.changedValues().cend(); ++it)
+        file->setExifValue(it.key(), it.value());
+    for (const QString &key : configuration.removedValues())
+        file->removeExifValue(key);
+}
+
+void MainWindowController::applyConfiguration(const ExifConfiguration &configuration)
+{
+    m_configController->commitPendingInput();
+    for (const ExifFileInfoPtr &file : std::as_const(m_currentFiles))
+        applyConfiguration(configuration, file);
+    m_configController->setExifFiles(m_currentFiles);
+    m_model->refreshAll();
+    updateWindowModified();
+    recheckUIEnablement();
+}
+
+// --- Other windows -----------------------------------------------------------------------------
+
+void MainWindowController::showConfigurations()
+{
+    if (!m_settingsWindowController)
+        m_settingsWindowController = new PresetsWindowController(m_window.get(), m_store);
+    m_settingsWindowController->showWindow();
+}
+
+void MainWindowController::showMap()
+{
+    if (!m_mapWindowController)
+        m_mapWindowController = new MapWindowController(m_window.get());
+    m_mapWindowController->showWindow();
+    reloadMapFiles();
+}
+
+void MainWindowController::reloadMapFiles()
+{
+    if (m_mapWindowController)
+        m_mapWindowController->setFiles(selectedFiles());
+}
+
+void MainWindowController::showHideResultsWindow()
+{
+    if (!m_resultsWindowController)
+        m_resultsWindowController = new ResultsWindowController(m_window.get());
+    if (m_resultsWindowController->isVisible())
+        m_resultsWindowController->hide();
+    else
+        m_resultsWindowController->showWindow();
+}
+
+void MainWindowController::displayErrors(const QHash<QString, ErrorMessagesPtr> &results)
+{
+    if (!m_resultsWindowController)
+        m_resultsWindowController = new ResultsWindowController(m_window.get());
+    m_resultsWindowController->displayErrors(results);
+    m_resultsWindowController->showWindow();
+}
+
+void MainWindowController::showHideQuickLook()
+{
+    if (!m_previewPanel)
+        m_previewPanel = new PreviewPanel(m_window.get());
+    if (m_previewPanel->isVisible()) {
+        m_previewPanel->hide();
+        return;
+    }
+    const QList<ExifFileInfoPtr> selected = selectedFiles();
+    if (selected.isEmpty())
+        return;
+    m_previewPanel->setFile(selected.first()->fileName());
+    m_previewPanel->show();
+}
+
+ProgressPanel *MainWindowController::progressPanel() const
+{
+    return m_progressPanel;
+}
+
+ResultsWindowController *MainWindowController::resultsWindowController() const
+{
+    return m_resultsWindowController;
+}
+
+MapWindowController *MainWindowController::mapWindowController() const
+{
+    return m_mapWindowController;
+}
+
+PresetsWindowController *MainWindowController::settingsWindowController() const
+{
+    return m_settingsWindowController;
+}
