@@ -44,6 +44,26 @@ endfunction()
 tagsmith_link_exiftool(${CMAKE_BINARY_DIR})
 tagsmith_link_exiftool(${CMAKE_BINARY_DIR}/tests)
 tagsmith_link_exiftool(${CMAKE_BINARY_DIR}/bench)
+# The map page and Leaflet sit at <directory of an executable>/Contents/Resources/map, as links
+# to the sources and to the npm folder, so the page can be edited without a rebuild.
+function(tagsmith_link_map dir)
+    set(map ${dir}/Contents/Resources/map)
+    string(MAKE_C_IDENTIFIER "${map}" stamp_name)
+    set(stamp ${CMAKE_BINARY_DIR}/CMakeFiles/${stamp_name}.stamp)
+    add_custom_command(
+        OUTPUT ${stamp}
+        COMMAND ${CMAKE_COMMAND} -E make_directory ${map}
+        COMMAND ${CMAKE_COMMAND} -E rm -rf ${map}/page ${map}/leaflet
+        COMMAND ${CMAKE_COMMAND} -E create_symlink ${PROJECT_SOURCE_DIR}/resources/map ${map}/page
+        COMMAND ${CMAKE_COMMAND} -E create_symlink ${TAGSMITH_LEAFLET_DIR} ${map}/leaflet
+        COMMAND ${CMAKE_COMMAND} -E touch ${stamp}
+        DEPENDS ${TAGSMITH_NPM_STAMP}
+        VERBATIM)
+    set_property(GLOBAL APPEND PROPERTY TAGSMITH_EXIFTOOL_LINKS ${stamp})
+endfunction()
+
+tagsmith_link_map(${CMAKE_BINARY_DIR})
+tagsmith_link_map(${CMAKE_BINARY_DIR}/tests)
 get_property(exiftool_links GLOBAL PROPERTY TAGSMITH_EXIFTOOL_LINKS)
 add_custom_target(bundled_packages ALL DEPENDS ${TAGSMITH_NPM_STAMP} ${exiftool_links})
 
@@ -53,3 +73,8 @@ set(TAGSMITH_BUNDLED_EXIFTOOL ${CMAKE_BINARY_DIR}/Contents/Resources/exiftool/ex
 install(DIRECTORY ${TAGSMITH_EXIFTOOL_DIR}/
     DESTINATION ${CMAKE_INSTALL_BINDIR}/Contents/Resources/exiftool
     USE_SOURCE_PERMISSIONS)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/resources/map/
+    DESTINATION ${CMAKE_INSTALL_BINDIR}/Contents/Resources/map/page)
+install(DIRECTORY ${TAGSMITH_LEAFLET_DIR}/
+    DESTINATION ${CMAKE_INSTALL_BINDIR}/Contents/Resources/map/leaflet
+    PATTERN "*.map" EXCLUDE)

@@ -1,19 +1,142 @@
 #include "windows/mapwindowcontroller.h"
 
-// Placeholder until the map is built; the "map" work replaces this file.
+#include "windows/mapbridge.h"
+#include "windows/mappins.h"
+
+#include "catalogue/stringtables.h"
+#include "values/logging.h"
+
+#include <QButtonGroup>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <QWebChannel>
+#include <QWebEnginePage>
+#include <QWebEngineProfile>
+#include <QWebEngineScript>
+#include <QWebEngineScriptCollection>
+#include <QWebEngineSettings>
+#include <QWebEngineView>
+
+namespace {
+
+QString text(const char *key)
+{
+    return StringTables::instance().localizedString(QString::fromLatin1(key));
+}
+
+// Qt ships the channel's client script in its own resources; the page is a local file and
+// cannot load qrc: itself, so the script is put into every page before its own scripts run.
+QWebEngineScript webChannelScript()
+{
+    QFile file(QStringLiteral(":/qtwebchannel/qwebchannel.js"));
+    QWebEngineScript script;
+    if (!file.open(QIODevice::ReadOnly)) {
+        qCWarning(lcTagsmith) << "The web channel script is missing from Qt's resources";
+        return script;
+    }
+    script.setName(QStringLiteral("qwebchannel"));
+    script.setSourceCode(QString::fromUtf8(file.readAll()));
+    script.setInjectionPoint(QWebEngineScript::DocumentCreation);
+    script.setWorldId(QWebEngineScript::MainWorld);
+    return script;
+}
+
+} // namespace
+
 MapWindowController::MapWindowController(QWidget *parent)
     : QWidget(parent, Qt::Window)
+    , m_pins(new MapPins(this))
+    , m_bridge(new MapBridge(m_pins, this))
 {
+    setWindowTitle(text("Map"));
+    resize(800, 600);
+
+    auto *addPinButton = new QPushButton(text("Add Pin"), this);
+    auto *removePinButton = new QPushButton(text("Remove Pin"), this);
+    m_addPinButton = addPinButton;
+    m_removePinButton = removePinButton;
+    connect(addPinButton, &QPushButton::clicked, m_pins, &MapPins::addPin);
+    connect(removePinButton, &QPushButton::clicked, m_pins, &MapPins::removePin);
+
+    m_mapTypeControl = new QButtonGroup(this);
+    auto *segments = new QHBoxLayout;
+    segments->setSpacing(0);
+    const char *segmentNames[] = {"Standard", "Satellite", "Hybrid"};
+    for (int segment = 0; segment < 3; ++segment) {
+        auto *button = new QPushButton(text(segmentNames[segment]), this);
+        button->setCheckable(true);
+        button->setChecked(segment == static_cast<int>(m_pins->mapType()));
+        m_mapTypeControl->addButton(button, segment);
+        segments->addWidget(button);
+    }
+    connect(m_mapTypeControl, &QButtonGroup::idClicked, m_pins, &MapPins::changeMapType);
+
+    auto *bar = new QHBoxLayout;
+    bar->addWidget(addPinButton);
+    bar->addWidget(removePinButton);
+    bar->addStretch();
+    bar->addLayout(segments);
+
+    m_mapView = new QWebEngineView(this);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(8, 8, 8, 8);
+    layout->addLayout(bar);
+    layout->addWidget(m_mapView, 1);
+
+    connect(m_pins, &MapPins::buttonsChanged, this, &MapWindowController::handleButtonsChanged);
+    handleButtonsChanged(m_pins->isAddEnabled(), m_pins->isRemoveEnabled());
+    loadPage();
 }
 
 MapWindowController::~MapWindowController() = default;
+
 void MapWindowController::showWindow()
 {
     show();
     raise();
     activateWindow();
 }
+
 void MapWindowController::setFiles(const QList<ExifFileInfoPtr> &files)
 {
     m_files = files;
+    m_pins->setFiles(files);
+}
+
+QString MapWindowController::pagePath()
+{
+    return QDir(QCoreApplication::applicationDirPath())
+        .filePath(QStringLiteral("Contents/Resources/map/page/map.html"));
+}
+
+void MapWindowController::loadPage()
+{
+    QWebEnginePage *page = m_mapView->page();
+    // The page is a local file; its tiles come from the network.
+    page->settings()->setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, true);
+    page->scripts().insert(webChannelScript());
+    // OpenStreetMap's tile policy asks every application to name itself.
+    QWebEngineProfile *profile = page->profile();
+    if (!profile->httpUserAgent().contains(u"Tagsmith"))
+        profile->setHttpUserAgent(profile->httpUserAgent() + u" Tagsmith");
+
+    auto *channel = new QWebChannel(page);
+    channel->registerObject(QStringLiteral("tagsmith"), m_bridge);
+    page->setWebChannel(channel);
+
+    const QString path = pagePath();
+    if (!QFileInfo::exists(path))
+        qCWarning(lcTagsmith) << "The map page is missing:" << path;
+    m_mapView->load(QUrl::fromLocalFile(path));
+}
+
+void MapWindowController::handleButtonsChanged(bool addEnabled, bool removeEnabled)
+{
+    m_addPinButton->setEnabled(addEnabled);
+    m_removePinButton->setEnabled(removeEnabled);
 }

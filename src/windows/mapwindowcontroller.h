@@ -5,6 +5,12 @@
 #include <QList>
 #include <QWidget>
 
+class MapBridge;
+class MapPins;
+class QAbstractButton;
+class QButtonGroup;
+class QWebEngineView;
+
 // The map of the selected files' GPS positions: pins to add, drag and remove, written into the
 // files' current values (nothing reaches the disk before a save).
 class MapWindowController : public QWidget
@@ -21,6 +27,25 @@ public:
     void setFiles(const QList<ExifFileInfoPtr> &files);
     const QList<ExifFileInfoPtr> &files() const { return m_files; }
 
+    // The page beside the executable: Contents/Resources/map/page/map.html.
+    static QString pagePath();
+
+    MapPins *pins() const { return m_pins; }
+    MapBridge *bridge() const { return m_bridge; }
+    QWebEngineView *mapView() const { return m_mapView; }
+    QAbstractButton *addPinButton() const { return m_addPinButton; }
+    QAbstractButton *removePinButton() const { return m_removePinButton; }
+    QButtonGroup *mapTypeControl() const { return m_mapTypeControl; }
+
 private:
+    void loadPage();
+    void handleButtonsChanged(bool addEnabled, bool removeEnabled);
+
     QList<ExifFileInfoPtr> m_files;
+    MapPins *m_pins;
+    MapBridge *m_bridge;
+    QWebEngineView *m_mapView = nullptr;
+    QAbstractButton *m_addPinButton = nullptr;
+    QAbstractButton *m_removePinButton = nullptr;
+    QButtonGroup *m_mapTypeControl = nullptr;
 };
