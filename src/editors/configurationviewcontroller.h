@@ -11,6 +11,8 @@
 #include <functional>
 #include <optional>
 
+class ConfigurationView;
+class ExifBackgroundRunner;
 class ExifConfiguration;
 class ExifFieldsController;
 class FieldEditor;
@@ -34,16 +36,25 @@ public:
     // The form inside its scroll area; the owner puts scrollArea() in its layout.
     QScrollArea *scrollArea() const;
     QWidget *view() const;
+    const QString &theme() const { return m_theme; }
 
     // Set before createUserInterface.
     bool showRemove() const { return m_showRemove; }
     void setShowRemove(bool on) { m_showRemove = on; }
     // What the "GPS" section's "Show Map" button does.
     void setShowMapAction(std::function<void()> action) { m_showMapAction = std::move(action); }
+    // Handed to every date row, whose panel then also writes the files to disk. Not owned.
+    void setBackgroundRunner(ExifBackgroundRunner *runner);
 
     void createUserInterface();
     static double calculateMaxLabelWidth(const QList<GroupPtr> &groups);
     double maxLabelWidth() const { return m_maxLabelWidth; }
+    // Creates, configures and places the row of one field in the form; returns the next top.
+    // Throws "Unimplemented" for a writable field whose representation has no editor.
+    int createFieldEditor(const ExifFieldPtr &field, QList<FieldEditor *> &allEditors, int top);
+    // A plain row for the field at top, appended to allEditors (the form itself never uses it).
+    FieldEditor *setupFieldEditorVariable(const ExifFieldPtr &field, int top,
+                                          QList<FieldEditor *> &allEditors);
 
     void setExifFiles(const QList<ExifFileInfoPtr> &files);
     const QList<ExifFileInfoPtr> &exifFiles() const { return m_exifFiles; }
@@ -67,18 +78,27 @@ public:
     // The height of the laid-out form.
     int formHeight() const;
 
+    // Debugging aids: the widget tree, indented by depth.
+    void logHierarchy() const;
+    static QString hierarchicalDescriptionOfView(const QWidget *view, int level);
+
 private:
-    int createFieldEditor(const ExifFieldPtr &field, QList<FieldEditor *> &allEditors, int top);
     void layoutForm(const std::optional<QString> &maker);
+    void setFormHeight(int height);
+    void followWidth(int width);
 
     const ExifFieldsController *m_catalogue;
     QPointer<QScrollArea> m_scrollArea;
-    QPointer<QWidget> m_view;
+    QPointer<ConfigurationView> m_view;
     QList<FieldEditor *> m_fields;
     QList<GroupEditor *> m_groupEditors;
     QList<ExifFileInfoPtr> m_exifFiles;
     std::function<void()> m_showMapAction;
+    QString m_theme;
     double m_maxLabelWidth = 0;
+    int m_formHeight = 0;
     bool m_showRemove = false;
     bool m_isBuilt = false;
+    // The maker the rows were last laid out for; unset while every row shows as built.
+    std::optional<std::optional<QString>> m_laidOutFor;
 };

@@ -106,6 +106,8 @@ public:
     void sendChangeNotification(const std::optional<QString> &newValue);
 
     virtual void focusControl();
+    // Writes what the user typed but has not confirmed yet; rows that write at once do nothing.
+    virtual void commitPendingInput() {}
     void setTheme(const QString &theme);
     virtual void setExifFiles(const QList<ExifFileInfoPtr> &files);
 

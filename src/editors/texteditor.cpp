@@ -106,7 +106,6 @@ int TextEditor::createEditorContent(QWidget *parent, QRect frame)
     return 20;
 }
 
-
 int TextEditor::hideEditor(int top)
 {
     FieldEditor::hideEditor(top);
@@ -292,6 +291,15 @@ void TextEditor::controlTextDidEndEditing()
     }
     if (!m_gpsFailed)
         showErrorPopup(QString());
+}
+
+void TextEditor::commitPendingInput()
+{
+    if (!m_textChanged || !hasExifFiles())
+        return;
+    controlTextDidEndEditing();
+    // The focus leaving the field later must not write the same text a second time.
+    m_textChanged = false;
 }
 
 void TextEditor::receiveFilesUpdateNotification(const ExifFilesUpdate &update)

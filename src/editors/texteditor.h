@@ -39,6 +39,7 @@ public:
     // Writes, relabels and announces only after the user typed: an untouched row writes nothing.
     bool copyToExifFiles(const QList<ExifFileInfoPtr> &files) override;
     void focusControl() override;
+    void commitPendingInput() override;
 
     // A stored coordinate as the user's GPS_FORMAT setting shows it.
     QString formatLocation(double degrees) const;

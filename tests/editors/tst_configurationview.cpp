@@ -1,0 +1,340 @@
+#include "editorfixtures.h"
+
+#include "catalogue/exiffieldscontroller.h"
+#include "editors/configurationviewcontroller.h"
+#include "editors/dateeditor.h"
+#include "editors/dateoffseteditor.h"
+#include "editors/groupeditor.h"
+#include "editors/sectioneditor.h"
+#include "editors/texteditor.h"
+#include "values/tagsmithexception.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScrollArea>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace EditorFixtures;
+
+namespace {
+
+// A common section, one section per maker, and a section mixing common and Canon rows.
+const char *const SmallCatalogue = R"(<?xml version="1.0" encoding="UTF-8"?>
+<fields>
+  <group name="Image">
+    <section name="Camera">
+      <field name="IFD0:Make" datatype="string"/>
+      <field name="XMP-dc:Title" datatype="string"/>
+    </section>
+    <section name="CanonNotes">
+      <field name="Canon:LensModel" datatype="string" maker="Canon"/>
+    </section>
+    <section name="NikonNotes">
+      <field name="Nikon:Lens" datatype="string" maker="Nikon"/>
+    </section>
+    <section name="OtherNotes">
+      <field name="MakerNotes:Other" datatype="string" maker="Unknown"/>
+    </section>
+  </group>
+  <group name="More">
+    <section name="Mixed">
+      <field name="XMP-dc:Rights" datatype="string"/>
+      <field name="Canon:OwnerName" datatype="string" maker="Canon"/>
+    </section>
+  </group>
+</fields>
+)";
+
+QList<ExifFileInfoPtr> filesMadeBy(const QStringList &makes, const QString &title = u"t"_qs)
+{
+    QList<ExifFileInfoPtr> files;
+    for (const QString &make : makes) {
+        auto file = std::make_shared<ExifFileInfo>(u"/photos/%1.jpg"_qs.arg(files.size()));
+        TagDictionary data{{u"XMP-dc:Title"_qs, title}};
+        if (!make.isEmpty())
+            data.insert(u"IFD0:Make"_qs, make);
+        file->setReadData(data);
+        files.append(file);
+    }
+    return files;
+}
+
+TextEditor *textRow(const ConfigurationViewController &form, const QString &key)
+{
+    for (FieldEditor *editor : form.fields()) {
+        if (editor->field()->xmlName() == key)
+            return qobject_cast<TextEditor *>(editor);
+    }
+    return nullptr;
+}
+
+} // namespace
+
+class TestConfigurationView : public QObject
+{
+    Q_OBJECT
+
+    QTemporaryDir m_dir;
+    ExifFieldsController m_catalogue;
+
+    std::unique_ptr<ConfigurationViewController> makeForm()
+    {
+        auto form = std::make_unique<ConfigurationViewController>(nullptr, &m_catalogue);
+        form->scrollArea()->resize(500, 400);
+        form->createUserInterface();
+        form->scrollArea()->show();
+        return form;
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        const QString path = m_dir.filePath(u"Fields.xml"_qs);
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(SmallCatalogue);
+        file.close();
+        m_catalogue.initializeConfigurations(path, false);
+        QCOMPARE(m_catalogue.configurations().size(), 7);
+    }
+
+    void editorFollowsTheField_data()
+    {
+        QTest::addColumn<int>("representation");
+        QTest::addColumn<bool>("writable");
+        QTest::addColumn<bool>("presets");
+        QTest::addColumn<QString>("editorClass");
+        QTest::addColumn<int>("dateType");
+
+        const int none = -1;
+        const int date = DateEditorTypeDate;
+        const int dateTime = DateEditorTypeDateTime;
+        QTest::newRow("plain text") << 0 << true << false << u"TextEditor"_qs << none;
+        QTest::newRow("fraction") << 6 << true << false << u"TextEditor"_qs << none;
+        QTest::newRow("latitude") << 8 << true << false << u"TextEditor"_qs << none;
+        QTest::newRow("enum") << 4 << true << false << u"EnumEditor"_qs << none;
+        QTest::newRow("read-only enum") << 4 << false << false << u"ReadonlyEditor"_qs << none;
+        QTest::newRow("read-only date") << 2 << false << true << u"ReadonlyEditor"_qs << none;
+        QTest::newRow("multi-enum") << 5 << true << false << u"MultiEnumEditor"_qs << none;
+        QTest::newRow("strings") << 9 << true << true << u"StringsEditor"_qs << none;
+        QTest::newRow("date, files") << 2 << true << false << u"DateEditor"_qs << date;
+        QTest::newRow("datetime, files") << 3 << true << false << u"DateEditor"_qs << dateTime;
+        QTest::newRow("date, presets") << 2 << true << true << u"DateOffsetEditor"_qs << date;
+        QTest::newRow("datetime, presets")
+            << 3 << true << true << u"DateOffsetEditor"_qs << dateTime;
+    }
+    void editorFollowsTheField()
+    {
+        QFETCH(int, representation);
+        QFETCH(bool, writable);
+        QFETCH(bool, presets);
+        QFETCH(QString, editorClass);
+        QFETCH(int, dateType);
+
+        ExifFieldsController empty;
+        ConfigurationViewController form(nullptr, &empty);
+        form.setShowRemove(presets);
+        form.createUserInterface();
+        QCOMPARE(form.formHeight(), 0);
+        QCOMPARE(form.maxLabelWidth(), 0.0);
+
+        auto field =
+            makeField(u"XMP-x:Field"_qs, static_cast<FieldDataRepresentation>(representation),
+                      QHash<QString, QString>{{u"1"_qs, u"One"_qs}});
+        field->setWritable(writable);
+        QList<FieldEditor *> editors;
+        QVERIFY(form.createFieldEditor(field, editors, 40) > 40);
+        QCOMPARE(editors.size(), 1);
+        FieldEditor *editor = editors.first();
+        QCOMPARE(QString::fromLatin1(editor->metaObject()->className()), editorClass);
+        QCOMPARE(editor->showRemoveButton(), presets);
+        QVERIFY(editor->boldFontOnChange());
+        if (auto *dateEditor = qobject_cast<DateEditor *>(editor))
+            QCOMPARE(int(dateEditor->dateEditorType()), dateType);
+        if (auto *offsetEditor = qobject_cast<DateOffsetEditor *>(editor))
+            QCOMPARE(int(offsetEditor->dateEditorType()), dateType);
+    }
+
+    void unknownRepresentationIsRefused()
+    {
+        ExifFieldsController empty;
+        ConfigurationViewController form(nullptr, &empty);
+        form.createUserInterface();
+        QList<FieldEditor *> editors;
+        auto field = makeField(u"XMP-x:Odd"_qs, static_cast<FieldDataRepresentation>(10));
+        try {
+            form.createFieldEditor(field, editors, 0);
+            QFAIL("no exception");
+        } catch (const TagsmithException &e) {
+            QCOMPARE(e.name(), u"Unimplemented"_qs);
+        }
+        QVERIFY(editors.isEmpty());
+    }
+
+    void makerSectionsShowOnlyWhereTheyBelong_data()
+    {
+        QTest::addColumn<QStringList>("makes");
+        QTest::addColumn<QStringList>("shownSections");
+        QTest::addColumn<QStringList>("shownFields");
+
+        const QStringList common{u"Camera"_qs, u"Mixed"_qs};
+        const QStringList commonFields{u"IFD0:Make"_qs, u"XMP-dc:Title"_qs, u"XMP-dc:Rights"_qs};
+        const QStringList unknownFields{u"IFD0:Make"_qs, u"XMP-dc:Title"_qs, u"MakerNotes:Other"_qs,
+                                        u"XMP-dc:Rights"_qs};
+        QTest::newRow("canon") << QStringList{u"Canon"_qs, u"Canon"_qs}
+                               << QStringList{u"Camera"_qs, u"CanonNotes"_qs, u"Mixed"_qs}
+                               << QStringList{u"IFD0:Make"_qs, u"XMP-dc:Title"_qs,
+                                              u"Canon:LensModel"_qs, u"XMP-dc:Rights"_qs,
+                                              u"Canon:OwnerName"_qs};
+        QTest::newRow("nikon") << QStringList{u"NIKON CORPORATION"_qs}
+                               << QStringList{u"Camera"_qs, u"NikonNotes"_qs, u"Mixed"_qs}
+                               << QStringList{u"IFD0:Make"_qs, u"XMP-dc:Title"_qs, u"Nikon:Lens"_qs,
+                                              u"XMP-dc:Rights"_qs};
+        QTest::newRow("canon and nikon")
+            << QStringList{u"Canon"_qs, u"NIKON CORPORATION"_qs} << common << commonFields;
+        // Only exact texts map to a maker; anything else is "Unknown".
+        QTest::newRow("unlisted makers")
+            << QStringList{u"SONY"_qs, u"NIKON"_qs}
+            << QStringList{u"Camera"_qs, u"OtherNotes"_qs, u"Mixed"_qs} << unknownFields;
+        QTest::newRow("no make counts as unknown")
+            << QStringList{QString()} << QStringList{u"Camera"_qs, u"OtherNotes"_qs, u"Mixed"_qs}
+            << unknownFields;
+        QTest::newRow("no files") << QStringList{} << common << commonFields;
+    }
+    void makerSectionsShowOnlyWhereTheyBelong()
+    {
+        QFETCH(QStringList, makes);
+        QFETCH(QStringList, shownSections);
+        QFETCH(QStringList, shownFields);
+
+        auto form = makeForm();
+        const int fullHeight = form->formHeight();
+        // A selection of another maker first: the layout must not depend on what came before.
+        form->setExifFiles(filesMadeBy({u"FUJIFILM"_qs}));
+        form->setExifFiles(filesMadeBy(makes));
+
+        QStringList sections;
+        int lastTop = -1;
+        for (GroupEditor *group : form->groupEditors()) {
+            QVERIFY(group->top() > lastTop);
+            lastTop = group->top();
+            for (SectionEditor *section : group->sectionEditors()) {
+                if (section->label()->isHidden())
+                    continue;
+                sections.append(section->name());
+                QVERIFY(section->top() > lastTop);
+                lastTop = section->top();
+            }
+        }
+        QStringList fields;
+        for (FieldEditor *editor : form->fields()) {
+            if (!editor->label()->isHidden())
+                fields.append(editor->field()->xmlName());
+        }
+        QCOMPARE(sections, shownSections);
+        QCOMPARE(fields, shownFields);
+        QVERIFY(form->formHeight() < fullHeight);
+        QCOMPARE(form->view()->height(), form->formHeight());
+    }
+
+    // Typed text belongs to the selection it was typed for, and only once confirmed.
+    void switchingSelectionNeverCarriesAValue_data()
+    {
+        QTest::addColumn<bool>("commitFirst");
+        QTest::addColumn<QStringList>("titlesOfB");
+        QTest::addColumn<QString>("shownForB");
+
+        const QStringList same{u"b"_qs, u"b"_qs};
+        const QStringList differing{u"b"_qs, u"c"_qs};
+        QTest::newRow("committed, B shares a value") << true << same << u"b"_qs;
+        QTest::newRow("not committed, B shares a value") << false << same << u"b"_qs;
+        QTest::newRow("committed, B differs") << true << differing << QString();
+        QTest::newRow("not committed, B differs") << false << differing << QString();
+        QTest::newRow("not committed, B lacks the tag")
+            << false << QStringList{QString(), QString()} << QString();
+    }
+    void switchingSelectionNeverCarriesAValue()
+    {
+        QFETCH(bool, commitFirst);
+        QFETCH(QStringList, titlesOfB);
+        QFETCH(QString, shownForB);
+
+        const QString key = u"XMP-dc:Title"_qs;
+        auto form = makeForm();
+        const QList<ExifFileInfoPtr> a = makeFiles(key, {u"a"_qs, u"a"_qs});
+        const QList<ExifFileInfoPtr> b = makeFiles(key, titlesOfB);
+        QWidget other;
+        auto *elsewhere = new QLineEdit(&other);
+        other.show();
+
+        form->setExifFiles(a);
+        TextEditor *row = textRow(*form, key);
+        QVERIFY(row);
+        row->editor()->setFocus();
+        QTest::keyClicks(row->editor(), u"-typed"_qs);
+        if (commitFirst)
+            form->commitPendingInput();
+        form->setExifFiles(b);
+        // The focus leaves the row only now, after the switch: that must write nothing.
+        elsewhere->setFocus();
+        QApplication::processEvents();
+
+        QCOMPARE(row->editor()->text(), shownForB);
+        QCOMPARE(currentValues(b, key), currentValues(makeFiles(key, titlesOfB), key));
+        const QString kept = commitFirst ? u"a-typed"_qs : u"a"_qs;
+        QCOMPARE(currentValues(a, key), (QStringList{kept, kept}));
+        // Back to A: its own values, not the text last shown.
+        form->setExifFiles(a);
+        QCOMPARE(row->editor()->text(), kept);
+    }
+
+    void copyingReportsWhetherAnythingChanged()
+    {
+        auto form = makeForm();
+        const QList<ExifFileInfoPtr> files = filesMadeBy({u"Canon"_qs, u"Canon"_qs});
+        form->setExifFiles(files);
+        QVERIFY(!form->copyToFileInfos(files));
+        QCOMPARE(files.first()->exifData(), files.first()->originalExifData());
+
+        files.last()->setExifValue(u"XMP-dc:Rights"_qs, u"mine"_qs);
+        QVERIFY(form->copyToFileInfos(files));
+        QCOMPARE(files.last()->exifValue(u"XMP-dc:Rights"_qs), u"mine"_qs);
+        QVERIFY(!files.first()->hasExifValue(u"XMP-dc:Rights"_qs));
+    }
+
+    void presetRowsWriteIntoThePreset()
+    {
+        auto form = std::make_unique<ConfigurationViewController>(nullptr, &m_catalogue);
+        form->setShowRemove(true);
+        form->createUserInterface();
+        ExifConfiguration preset(u"configuration-1"_qs, u"P"_qs);
+        preset.changedValues().insert(u"XMP-dc:Rights"_qs, u"old"_qs);
+        preset.removedValues().insert(u"Nikon:Lens"_qs);
+        form->setExifConfiguration(&preset);
+
+        // Presets show every maker's rows.
+        for (FieldEditor *editor : form->fields())
+            QVERIFY2(!editor->label()->isHidden(), qPrintable(editor->field()->xmlName()));
+        TextEditor *title = textRow(*form, u"XMP-dc:Title"_qs);
+        title->removeButton()->setChecked(true);
+        title->editor()->setText(u"new title"_qs);
+        textRow(*form, u"Nikon:Lens"_qs)->removeButton()->setChecked(false);
+
+        ExifConfiguration result(u"configuration-1"_qs, u"P"_qs);
+        QVERIFY(form->copyToConfiguration(result));
+        QCOMPARE(result.changedValues(),
+                 (QMap<QString, QString>{{u"XMP-dc:Rights"_qs, u"old"_qs},
+                                         {u"XMP-dc:Title"_qs, u"new title"_qs}}));
+        QVERIFY(result.removedValues().isEmpty());
+
+        form->setExifConfiguration(nullptr);
+        QVERIFY(!title->editor()->isEnabled());
+        QVERIFY(title->editor()->text().isEmpty());
+    }
+};
+
+QTEST_MAIN(TestConfigurationView)
+#include "tst_configurationview.moc"
