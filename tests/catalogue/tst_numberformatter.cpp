@@ -42,17 +42,13 @@ private Q_SLOTS:
         row("uint8 max", "en_US", T::UInt8, "255", 255);
         row("uint8 above max", "en_US", T::UInt8, "256", no);
         row("integer fraction", "en_US", T::UInt8, "12.5", no);
-        row("integer decimal mark", "de_DE", T::UInt8, "12,0", no);
-        row("int8 below min", "de_DE", T::Int8, "-129", no);
         row("int32 min grouped", "en_US", T::Int32, "-2,147,483,648", -2147483648.0);
         row("uint32 max grouped de", "de_DE", T::UInt32, "4.294.967.295", 4294967295.0);
-        row("double zero", "en_US", T::Double, "0", no);
         row("double negative", "en_US", T::Double, "-1.5", no);
         row("de decimal comma", "de_DE", T::Double, "0,001", 0.001);
         row("udouble zero", "en_US", T::UDouble, "0", 0.0);
         row("float above max", "en_US", T::Float, "3.5e38", no);
         row("de grouping", "de_DE", T::UDouble, "1.234,5", 1234.5);
-        row("de dot", "de_DE", T::UDouble, "1.5", no);
         row("blanks and plus", "en_US", T::Int16, " +42 ", 42);
         row("trailing letters", "en_US", T::UInt8, "12a", no);
     }
@@ -80,7 +76,6 @@ private Q_SLOTS:
         row("two digits", "en_US", T::Float, 2, 1.2345, "1.23");
         row("1.005 at two", "en_US", T::Float, 2, 1.005, "1");
         row("default three", "en_US", T::Double, -1, 3.14159, "3.142");
-        row("other negative", "en_US", T::UDouble, -4, 2.4, "2");
         row("de grouping", "de_DE", T::UDouble, 1, 1234.56, "1.234,6");
         row("integer ignores decimals", "de_DE", T::UInt32, 3, 7.4, "7");
         row("no negative zero", "en_US", T::Int16, -1, -0.2, "0");

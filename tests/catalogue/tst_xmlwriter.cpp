@@ -75,7 +75,6 @@ private Q_SLOTS:
         const QString logic = TagsmithException::LogicError;
         const QString illegal = TagsmithException::IllegalArgument;
         QTest::newRow("attribute first") << u"@a="_s << logic << u"Write element at first"_s;
-        QTest::newRow("nothing to close") << u"/a"_s << logic << u"There is nothing to close."_s;
         QTest::newRow("wrong close") << u"<outer|<inner|/outer"_s << logic
                                      << u"Invalid closing tag \"outer\". It should be: \"inner\""_s;
         QTest::newRow("empty attribute")
