@@ -1,0 +1,215 @@
+#include "catalogue/exiffieldscontroller.h"
+#include "catalogue/exifsettings.h"
+#include "catalogue/ui/presetswindowcontroller.h"
+#include "editors/configurationviewcontroller.h"
+#include "editors/texteditor.h"
+#include "values/usersettings.h"
+
+#include <QAbstractItemModel>
+#include <QApplication>
+#include <QCheckBox>
+#include <QEvent>
+#include <QLineEdit>
+#include <QStandardPaths>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+const QString TitleKey = QStringLiteral("XMP-dc:Title");
+const QString ArtistKey = QStringLiteral("IFD0:Artist");
+
+TextEditor *textRow(const PresetsWindowController &window, const QString &key)
+{
+    for (FieldEditor *editor : window.configController()->fields()) {
+        if (editor->field()->xmlName() == key)
+            return qobject_cast<TextEditor *>(editor);
+    }
+    return nullptr;
+}
+
+void typeIntoPresetRow(const PresetsWindowController &window, const QString &key,
+                       const QString &text)
+{
+    TextEditor *row = textRow(window, key);
+    QVERIFY(row);
+    row->removeButton()->setChecked(true);
+    row->editor()->setText(text);
+}
+
+QStringList tableNames(const PresetsWindowController &window)
+{
+    QStringList names;
+    const QAbstractItemModel *model = window.configurationsTable()->model();
+    for (int row = 0; row < model->rowCount(); ++row)
+        names.append(model->index(row, 0).data().toString());
+    return names;
+}
+
+int selectedRow(const PresetsWindowController &window)
+{
+    const QModelIndexList rows = window.configurationsTable()->selectionModel()->selectedRows();
+    return rows.isEmpty() ? -1 : rows.first().row();
+}
+
+} // namespace
+
+class TestPresetsWindow : public QObject
+{
+    Q_OBJECT
+
+    QTemporaryDir m_dir;
+    int m_storeNumber = 0;
+    std::unique_ptr<ExifSettings> m_store;
+
+    ExifConfigurationPtr addPreset(const QString &name)
+    {
+        auto preset = std::make_shared<ExifConfiguration>(m_store->findUnusedNewIdentifier(), name);
+        m_store->saveConfiguration(preset);
+        return preset;
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QStandardPaths::setTestModeEnabled(true);
+        ExifFieldsController::defaultInstance()->initializeConfigurations();
+    }
+    void init()
+    {
+        UserSettings::setStoreFile(m_dir.filePath(u"store-%1.ini"_qs.arg(++m_storeNumber)));
+        m_store = std::make_unique<ExifSettings>();
+    }
+    void cleanupTestCase() { UserSettings::setStoreFile(QString()); }
+
+    // However the user leaves a preset, what they typed is in the settings store.
+    void leavingAPresetStoresIt_data()
+    {
+        QTest::addColumn<QString>("leaveBy");
+        QTest::newRow("selecting another") << u"select"_qs;
+        QTest::newRow("deselecting") << u"deselect"_qs;
+        QTest::newRow("deactivating the window") << u"deactivate"_qs;
+        QTest::newRow("closing the window") << u"close"_qs;
+    }
+    void leavingAPresetStoresIt()
+    {
+        QFETCH(QString, leaveBy);
+        const ExifConfigurationPtr first = addPreset(u"First"_qs);
+        first->changedValues().insert(ArtistKey, u"kept artist"_qs);
+        first->removedValues().insert(u"IFD0:Copyright"_qs);
+        m_store->saveConfiguration(first);
+        addPreset(u"Second"_qs);
+
+        PresetsWindowController window(nullptr, *m_store);
+        window.show();
+        QCOMPARE(window.currentConfigName(), first->identifier());
+        QCOMPARE(textRow(window, ArtistKey)->editor()->text(), u"kept artist"_qs);
+        typeIntoPresetRow(window, TitleKey, u"Über, \"quoted\" & <tagged>"_qs);
+
+        if (leaveBy == u"select")
+            window.configurationsTable()->selectRow(1);
+        else if (leaveBy == u"deselect")
+            window.configurationsTable()->clearSelection();
+        else if (leaveBy == u"deactivate") {
+            QEvent deactivation(QEvent::ActivationChange);
+            QApplication::sendEvent(&window, &deactivation);
+        } else
+            window.close();
+
+        ExifSettings reopened;
+        reopened.initializeSettings();
+        const ExifConfigurationPtr stored = reopened.loadConfiguration(first->identifier());
+        QVERIFY(stored);
+        QCOMPARE(stored->changedValues(),
+                 (QMap<QString, QString>{{ArtistKey, u"kept artist"_qs},
+                                         {TitleKey, u"Über, \"quoted\" & <tagged>"_qs}}));
+        QCOMPARE(stored->removedValues(), QSet<QString>{u"IFD0:Copyright"_qs});
+        QCOMPARE(*stored, *m_store->loadConfiguration(first->identifier()));
+    }
+
+    void presetsAreListedByNameIgnoringCaseAndCountingNumbers()
+    {
+        for (const QString &name :
+             {u"Preset 10"_qs, u"b"_qs, u"Preset 9"_qs, u"A"_qs, u"preset 011"_qs, u"Preset 2x"_qs})
+            addPreset(name);
+        PresetsWindowController window(nullptr, *m_store);
+        QCOMPARE(tableNames(window), (QStringList{u"A"_qs, u"b"_qs, u"Preset 2x"_qs, u"Preset 9"_qs,
+                                                  u"Preset 10"_qs, u"preset 011"_qs}));
+        QCOMPARE(selectedRow(window), 0);
+
+        // Renaming in place moves the row to its place and keeps it selected.
+        QAbstractItemModel *model = window.configurationsTable()->model();
+        const QString renamed = window.configNames().at(0);
+        QVERIFY(model->setData(model->index(0, 0), u"Preset 3"_qs));
+        QCOMPARE(tableNames(window),
+                 (QStringList{u"b"_qs, u"Preset 2x"_qs, u"Preset 3"_qs, u"Preset 9"_qs,
+                              u"Preset 10"_qs, u"preset 011"_qs}));
+        QCOMPARE(window.configNames().at(selectedRow(window)), renamed);
+        QCOMPARE(window.currentConfigName(), renamed);
+        QCOMPARE(m_store->loadConfiguration(renamed)->name(), u"Preset 3"_qs);
+    }
+
+    void removingLeavesNothingSelectedAndTheFormCleared()
+    {
+        addPreset(u"Only"_qs);
+        PresetsWindowController window(nullptr, *m_store);
+        typeIntoPresetRow(window, TitleKey, u"title"_qs);
+
+        window.addRemoveConfigurationPressed(1);
+
+        QVERIFY(m_store->configurations().isEmpty());
+        QVERIFY(window.configNames().isEmpty());
+        QCOMPARE(selectedRow(window), -1);
+        QVERIFY(window.currentConfigName().isEmpty());
+        TextEditor *row = textRow(window, TitleKey);
+        QVERIFY(row->editor()->text().isEmpty());
+        QVERIFY(!row->editor()->isEnabled());
+        QVERIFY(!row->isRemoveButtonChecked());
+        // Nothing selected: a second press removes nothing.
+        window.removeConfiguration();
+        QVERIFY(m_store->configurations().isEmpty());
+    }
+
+    void addingWhileEditingSavesTheEditedPresetFirst()
+    {
+        const ExifConfigurationPtr edited = addPreset(u"Edited"_qs);
+        PresetsWindowController window(nullptr, *m_store);
+        window.show();
+        typeIntoPresetRow(window, TitleKey, u"typed title"_qs);
+
+        window.addRemoveConfigurationPressed(0);
+
+        QCOMPARE(m_store->loadConfiguration(edited->identifier())->changedValues().value(TitleKey),
+                 u"typed title"_qs);
+        QCOMPARE(m_store->configurations().size(), 2);
+        const QString added = window.currentConfigName();
+        QVERIFY(added != edited->identifier());
+        QCOMPARE(window.configNames().at(selectedRow(window)), added);
+        QCOMPARE(m_store->loadConfiguration(added)->name(), u"New Configuration"_qs);
+        // The new preset starts empty: nothing of the edited one shows in it.
+        QVERIFY(textRow(window, TitleKey)->editor()->text().isEmpty());
+        QVERIFY(!textRow(window, TitleKey)->isRemoveButtonChecked());
+        auto *nameEditor = qobject_cast<QLineEdit *>(window.configurationsTable()->indexWidget(
+            window.configurationsTable()->model()->index(selectedRow(window), 0)));
+        QVERIFY(nameEditor);
+        QCOMPARE(nameEditor->selectedText(), u"New Configuration"_qs);
+    }
+
+    void duplicateImportAndExportChangeNothing()
+    {
+        addPreset(u"One"_qs);
+        PresetsWindowController window(nullptr, *m_store);
+        const QString before = ExifSettings::configurationToXml(
+            *m_store->loadConfiguration(window.configNames().first()));
+        window.duplicateConfiguration();
+        window.importConfigurations();
+        window.exportConfigurations();
+        QCOMPARE(window.configNames().size(), 1);
+        QCOMPARE(m_store->configurations().size(), 1);
+        QCOMPARE(ExifSettings::configurationToXml(*m_store->configurations().first()), before);
+    }
+};
+
+QTEST_MAIN(TestPresetsWindow)
+#include "tst_presetswindow.moc"
