@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QThread>
+#include <QTimer>
 #include <QtConcurrent/QtConcurrentRun>
 
 FileReadQueue::FileReadQueue(QObject *parent)
@@ -40,10 +41,23 @@ bool FileReadQueue::isQueued(const QString &path) const
 void FileReadQueue::enqueue(Batch batch)
 {
     const bool wasBusy = isBusy();
-    m_queue.push_back(std::move(batch));
+    // Adds that arrive before the next read starts (the desktop hands over files one by one)
+    // share one ExifTool run and one selection.
+    if (m_queue.empty()) {
+        m_queue.push_back(std::move(batch));
+    } else {
+        m_queue.back().files.append(batch.files);
+        m_queue.back().rejected.append(batch.rejected);
+    }
     if (!wasBusy)
         Q_EMIT busyChanged(true);
-    startNext();
+    if (!m_isReading && !m_isStartScheduled) {
+        m_isStartScheduled = true;
+        QTimer::singleShot(0, this, [this] {
+            m_isStartScheduled = false;
+            startNext();
+        });
+    }
 }
 
 void FileReadQueue::startNext()

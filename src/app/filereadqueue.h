@@ -47,5 +47,6 @@ private:
     std::deque<Batch> m_queue;
     Batch m_current;
     bool m_isReading = false;
+    bool m_isStartScheduled = false;
     QFutureWatcher<ExifReadResult> m_watcher;
 };
