@@ -78,3 +78,5 @@ install(DIRECTORY ${PROJECT_SOURCE_DIR}/resources/map/
 install(DIRECTORY ${TAGSMITH_LEAFLET_DIR}/
     DESTINATION ${CMAKE_INSTALL_BINDIR}/Contents/Resources/map/leaflet
     PATTERN "*.map" EXCLUDE)
+install(FILES ${TAGSMITH_LEAFLET_DIR}/../LICENSE
+    DESTINATION ${CMAKE_INSTALL_BINDIR}/Contents/Resources/map/leaflet)

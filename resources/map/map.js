@@ -71,7 +71,9 @@ function showPins(pins) {
 function frame(latitude, longitude, latitudeSpan, longitudeSpan) {
     const south = Math.max(latitude - latitudeSpan / 2, -85);
     const north = Math.min(latitude + latitudeSpan / 2, 85);
-    map.fitBounds([[south, longitude - longitudeSpan / 2], [north, longitude + longitudeSpan / 2]]);
+    // The padding keeps the pins' heads, drawn above their points, inside the view.
+    map.fitBounds([[south, longitude - longitudeSpan / 2], [north, longitude + longitudeSpan / 2]],
+        { padding: [40, 40] });
 }
 
 function reportCentre() {

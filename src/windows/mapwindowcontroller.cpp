@@ -63,16 +63,22 @@ MapWindowController::MapWindowController(QWidget *parent)
     connect(addPinButton, &QPushButton::clicked, m_pins, &MapPins::addPin);
     connect(removePinButton, &QPushButton::clicked, m_pins, &MapPins::removePin);
 
+    // One control of three segments; the theme gives push buttons no checked look of their own.
+    auto *segments = new QWidget(this);
+    segments->setStyleSheet(
+        QStringLiteral("QPushButton { border-radius: 0; padding: 2px 12px; }"
+                       "QPushButton:checked { background: rgb(90, 135, 200); color: white; }"));
+    auto *segmentsLayout = new QHBoxLayout(segments);
+    segmentsLayout->setContentsMargins(0, 0, 0, 0);
+    segmentsLayout->setSpacing(0);
     m_mapTypeControl = new QButtonGroup(this);
-    auto *segments = new QHBoxLayout;
-    segments->setSpacing(0);
     const char *segmentNames[] = {"Standard", "Satellite", "Hybrid"};
     for (int segment = 0; segment < 3; ++segment) {
-        auto *button = new QPushButton(text(segmentNames[segment]), this);
+        auto *button = new QPushButton(text(segmentNames[segment]), segments);
         button->setCheckable(true);
         button->setChecked(segment == static_cast<int>(m_pins->mapType()));
         m_mapTypeControl->addButton(button, segment);
-        segments->addWidget(button);
+        segmentsLayout->addWidget(button);
     }
     connect(m_mapTypeControl, &QButtonGroup::idClicked, m_pins, &MapPins::changeMapType);
 
@@ -80,7 +86,7 @@ MapWindowController::MapWindowController(QWidget *parent)
     bar->addWidget(addPinButton);
     bar->addWidget(removePinButton);
     bar->addStretch();
-    bar->addLayout(segments);
+    bar->addWidget(segments);
 
     m_mapView = new QWebEngineView(this);
     auto *layout = new QVBoxLayout(this);
