@@ -30,6 +30,8 @@ FileListView::FileListView(QWidget *parent)
     setSelectionMode(QAbstractItemView::ExtendedSelection);
     setUniformItemSizes(true);
     setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    // Rows take the list's width; the cell elides what does not fit.
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
 
 void FileListView::keyPressEvent(QKeyEvent *event)

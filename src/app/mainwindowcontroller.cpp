@@ -327,6 +327,8 @@ void MainWindowController::removeFilesClick()
         rows.append(index.row());
         m_imagesCache->removeImage(m_model->fileAt(index.row())->fileName());
     }
+    // One selection change for the whole removal, not one per row.
+    m_filesTable->selectionModel()->clearSelection();
     m_model->removeRowsAt(rows);
     m_currentFiles.clear();
     m_configController->clearEditors();

@@ -219,12 +219,13 @@ bool MainWindowController::windowShouldClose()
     m_closeSheet =
         makeSheet(localized(QStringLiteral("Save changes to modified files?")),
                   localized(QStringLiteral("If you don't save the changes, they will be lost")));
+    // One role for all three keeps them in this order on every desktop.
     QPushButton *save =
-        m_closeSheet->addButton(localized(QStringLiteral("Save")), QMessageBox::AcceptRole);
+        m_closeSheet->addButton(localized(QStringLiteral("Save")), QMessageBox::ActionRole);
     QPushButton *cancel =
-        m_closeSheet->addButton(localized(QStringLiteral("Cancel")), QMessageBox::RejectRole);
-    QPushButton *dontSave = m_closeSheet->addButton(localized(QStringLiteral("Don't Save")),
-                                                    QMessageBox::DestructiveRole);
+        m_closeSheet->addButton(localized(QStringLiteral("Cancel")), QMessageBox::ActionRole);
+    QPushButton *dontSave =
+        m_closeSheet->addButton(localized(QStringLiteral("Don't Save")), QMessageBox::ActionRole);
     m_closeSheet->setDefaultButton(save);
     m_closeSheet->setEscapeButton(cancel);
     QMessageBox *sheet = m_closeSheet;
@@ -249,6 +250,7 @@ void MainWindowController::handleCloseAnswer(CloseAnswer answer)
         m_saveStatus = MayClose;
         m_model->setFiles({});
         m_currentFiles.clear();
+        m_configController->setExifFiles({});
         closeWindowNow();
         return;
     case CloseAnswer::Cancel: {
