@@ -109,7 +109,18 @@ bool ThumbnailMaker::prefersEmbeddedPreview(const QString &path)
         QStringLiteral("dng"), QStringLiteral("orf"), QStringLiteral("pef"), QStringLiteral("raf"),
         QStringLiteral("rw2"), QStringLiteral("rwl"), QStringLiteral("x3f"), QStringLiteral("3fr"),
         QStringLiteral("erf"), QStringLiteral("kdc"), QStringLiteral("mrw"), QStringLiteral("mos"),
-        QStringLiteral("iiq"), QStringLiteral("srw"), QStringLiteral("psd"), QStringLiteral("psb")};
+        QStringLiteral("iiq"), QStringLiteral("srw"), QStringLiteral("psd"), QStringLiteral("psb"),
+        QStringLiteral("raw"), QStringLiteral("gpr"), QStringLiteral("mef")};
+    return suffixes.contains(QFileInfo(path).suffix().toLower());
+}
+
+bool ThumbnailMaker::decodesAtFullSizeOnly(const QString &path)
+{
+    // Qt reads these only through an optional plugin, and then decodes the whole picture before
+    // scaling it; an embedded thumbnail, where there is one, is many times faster.
+    static const QSet<QString> suffixes{QStringLiteral("heic"), QStringLiteral("heif"),
+                                        QStringLiteral("hif"), QStringLiteral("avif"),
+                                        QStringLiteral("jxl")};
     return suffixes.contains(QFileInfo(path).suffix().toLower());
 }
 
@@ -117,7 +128,8 @@ QImage ThumbnailMaker::make(const QString &path, const QSize &box)
 {
     if (!box.isValid() || box.isEmpty())
         return {};
-    if (!prefersEmbeddedPreview(path)) {
+    const bool isEmbeddedFirst = decodesAtFullSizeOnly(path);
+    if (!prefersEmbeddedPreview(path) && !isEmbeddedFirst) {
         QImageReader reader(path);
         QImage image = readScaled(reader, box, true);
         if (!image.isNull())
@@ -125,7 +137,12 @@ QImage ThumbnailMaker::make(const QString &path, const QSize &box)
     }
     if (!QFileInfo(path).isFile())
         return {};
-    return embeddedPreview(path, box);
+    QImage image = embeddedPreview(path, box);
+    if (image.isNull() && isEmbeddedFirst) {
+        QImageReader reader(path);
+        image = readScaled(reader, box, true);
+    }
+    return image;
 }
 
 QImage ThumbnailMaker::embeddedPreview(const QString &path, const QSize &box)

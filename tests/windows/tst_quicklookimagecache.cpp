@@ -4,7 +4,10 @@
 
 #include "../support/fixtures.h"
 
+#include <QImageReader>
 #include <QPainter>
+#include <QProcess>
+#include <QStandardPaths>
 #include <QtTest>
 
 #include <functional>
@@ -55,10 +58,30 @@ bool exifTool(QStringList arguments)
     return Fixtures::runExifTool(arguments << QStringLiteral("-overwrite_original")).ok();
 }
 
+// The command-line encoder a kind of fixture needs, if any.
+QString encoderOf(const QString &kind)
+{
+    if (kind.endsWith(u"heic"))
+        return QStringLiteral("heif-enc");
+    if (kind.endsWith(u"jxl"))
+        return QStringLiteral("cjxl");
+    return {};
+}
+
 // Kinds: "qt" (written by Qt), "jpg6" (turned), "gif", "psd", "psd6" (Photoshop files whose
-// embedded preview is the halves), "barepsd" (none), "text", "missing".
+// embedded preview is the halves), "barepsd" (none), "heic" and "jxl" (encoded from the halves,
+// the halves embedded as their thumbnail), "bareheic" and "barejxl" (none), "text", "missing".
 bool makeFixture(const QString &file, const QString &kind, const QString &halvesJpeg = {})
 {
+    if (const QString encoder = encoderOf(kind); !encoder.isEmpty()) {
+        const QString png = file + QStringLiteral(".png");
+        const QStringList arguments = encoder == u"cjxl"
+                                          ? QStringList{QStringLiteral("--container=1"), png, file}
+                                          : QStringList{QStringLiteral("-o"), file, png};
+        return halves(60, 40).save(png) && QProcess::execute(encoder, arguments) == 0 &&
+               (kind.startsWith(u"bare") ||
+                exifTool({QStringLiteral("-ThumbnailImage<=") + halvesJpeg, file}));
+    }
     if (kind == u"qt" || kind == u"jpg6")
         return halves(60, 40).save(file, kind == u"qt" ? nullptr : "jpg", 95) &&
                (kind == u"qt" || exifTool({QStringLiteral("-Orientation#=6"), file}));
@@ -124,6 +147,11 @@ void TestQuickLookImageCache::previewOfEachKindOfFile_data()
     QTest::newRow("text.jpg") << "text" << box << QSize();
     QTest::newRow("text.nef") << "text" << box << QSize();
     QTest::newRow("no-preview.psd") << "barepsd" << box << QSize();
+    // Qt reads neither without an optional plugin; their previews come through ExifTool.
+    QTest::newRow("phone.HEIC") << "heic" << box << natural;
+    QTest::newRow("no-preview.heic") << "bareheic" << box << QSize();
+    QTest::newRow("export.jxl") << "jxl" << box << natural;
+    QTest::newRow("no-preview.jxl") << "barejxl" << box << QSize();
     QTest::newRow("missing.jpg") << "missing" << box << QSize();
 }
 
@@ -133,6 +161,12 @@ void TestQuickLookImageCache::previewOfEachKindOfFile()
     QFETCH(QSize, box);
     QFETCH(QSize, size);
     const QString file = path(QString::fromLatin1(QTest::currentDataTag()));
+    const QString encoder = encoderOf(kind);
+    if (!encoder.isEmpty() && QStandardPaths::findExecutable(encoder).isEmpty())
+        QSKIP(qPrintable(encoder + u" is not installed; scripts/install-deps.sh brings it"_qs));
+    if (kind.startsWith(u"bare") && !encoder.isEmpty() &&
+        QImageReader::supportedImageFormats().contains(QFileInfo(file).suffix().toLatin1()))
+        QSKIP("Qt has a decoder for this format here, so the file has a preview after all");
     QVERIFY(makeFixture(file, kind, path(QStringLiteral("halves.jpg"))));
 
     QuickLookImageCache cache;
