@@ -136,8 +136,14 @@ void MapWindowController::loadPage()
     page->setWebChannel(channel);
 
     const QString path = pagePath();
-    if (!QFileInfo::exists(path))
+    if (!QFileInfo::exists(path)) {
         qCWarning(lcTagsmith) << "The map page is missing:" << path;
+        m_mapView->setHtml(
+            u"<body style=\"background:#2b2b2b;color:#e8e8e8;font:13px sans-serif\">"_qs +
+            text("The map could not be shown: its page is missing at") + u" "_qs +
+            path.toHtmlEscaped() + u"</body>"_qs);
+        return;
+    }
     m_mapView->load(QUrl::fromLocalFile(path));
 }
 
