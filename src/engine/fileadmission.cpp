@@ -24,7 +24,7 @@ struct Admission
         result.rejected.append({path, reason});
     }
 
-    // Root passes any permission test; access() asks about this process's real rights.
+    // What the kernel would allow this process, ACLs included, not what the mode bits suggest.
     static bool isReadable(const QString &path, int mode)
     {
         return ::access(QFile::encodeName(path).constData(), mode) == 0;
@@ -81,7 +81,7 @@ struct Admission
     {
         QStringList entries = QDir(folder).entryList(
             QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Unsorted);
-        // Byte order, not the locale's: the same folder gives the same rows everywhere.
+        // Character order, not the locale's: the same folder gives the same rows everywhere.
         std::sort(entries.begin(), entries.end());
         const QString prefix = folder.endsWith(QLatin1Char('/')) ? folder : folder + u'/';
         for (const QString &entry : std::as_const(entries)) {
