@@ -6,9 +6,11 @@
 
 int main(int argc, char *argv[])
 {
-    // Chromium refuses to start its sandbox as root; a root session gets the map without it.
-    if (geteuid() == 0)
+    // Chromium's sandbox refuses to start as root and takes the whole program down with it, with
+    // any unsaved edits, the moment the map opens. Root has nothing for the sandbox to guard.
+    if (::geteuid() == 0 && qEnvironmentVariableIsEmpty("QTWEBENGINE_DISABLE_SANDBOX"))
         qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
+
     QApplication app(argc, argv);
     QApplication::setOrganizationName(QStringLiteral("Tagsmith"));
     QApplication::setApplicationName(QStringLiteral("Tagsmith"));
