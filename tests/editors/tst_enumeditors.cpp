@@ -58,29 +58,21 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("fileValues");
         QTest::addColumn<QString>("shown");
         QTest::addColumn<int>("tag");
-
         QTest::newRow("case-insensitive match")
             << QStringList(2, u"Auto"_qs) << u"Automatic"_qs << 0;
-        QTest::newRow("mixed") << QStringList{u"1"_qs, u"2"_qs} << u"Multiple values"_qs
-                               << EnumEditor::MultipleValuesTag;
         QTest::newRow("absent counts as a value")
             << QStringList{u"1"_qs, QString()} << u"Multiple values"_qs
             << EnumEditor::MultipleValuesTag;
         QTest::newRow("unknown kept visible") << QStringList{u"7b"_qs} << u"Unexpected value: 7B"_qs
                                               << EnumEditor::UnexpectedValueTag;
-        QTest::newRow("none") << QStringList{QString()} << u""_qs << EnumEditor::EmptyTag;
     }
-
     void filesShownAsMenuState()
     {
         QFETCH(QStringList, fileValues);
-        QFETCH(QString, shown);
-        QFETCH(int, tag);
-
         Row<EnumEditor> row(enumField());
         row.editor.setExifFiles(makeFiles(Key, fileValues));
-        QCOMPARE(row.editor.popupButton()->currentText(), shown);
-        QCOMPARE(row.editor.popupButton()->currentData().toInt(), tag);
+        QTEST(row.editor.popupButton()->currentText(), "shown");
+        QTEST(row.editor.popupButton()->currentData().toInt(), "tag");
         QVERIFY(!row.editor.copyToExifFiles(row.editor.exifFiles())); // showing writes nothing
     }
 
@@ -88,23 +80,18 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("title");
         QTest::addColumn<QString>("stored");
-        QTest::newRow("code") << u"manual"_qs << u"1"_qs;
         QTest::newRow("catalogue spelling") << u"Automatic"_qs << u"AUTO"_qs;
         QTest::newRow("empty item removes") << u""_qs << u"<absent>"_qs;
     }
-
     void pickingWritesTheCatalogueCode()
     {
         QFETCH(QString, title);
         QFETCH(QString, stored);
-
         Row<EnumEditor> row(enumField());
         const auto files = makeFiles(Key, {u"2"_qs, u"Auto"_qs, QString()});
         row.editor.setExifFiles(files);
         auto spy = updateSpy();
-
         pick(row.editor.popupButton(), title);
-
         QCOMPARE(currentValues(files, Key), QStringList(3, stored));
         QCOMPARE(spy.size(), 1);
         QCOMPARE(updateAt(spy, 0).newValue,
@@ -112,45 +99,12 @@ private Q_SLOTS:
         QVERIFY(!row.editor.menuHasItemWithTag(EnumEditor::MultipleValuesTag));
     }
 
-    void enumPreset_data()
-    {
-        QTest::addColumn<QString>("title"); // "<off>" unticks the box
-        QTest::addColumn<QString>("entry");
-        QTest::newRow("value") << u"Bracket"_qs << u"2"_qs;
-        QTest::newRow("empty deletes") << u""_qs << u"<removed>"_qs;
-        QTest::newRow("box off") << u"<off>"_qs << u""_qs;
-    }
-
-    void enumPreset()
-    {
-        QFETCH(QString, title);
-        QFETCH(QString, entry);
-
-        Row<EnumEditor> row(enumField(), true);
-        ExifConfiguration preset;
-        preset.changedValues().insert(Key, u"auto"_qs);
-        row.editor.setExifConfiguration(&preset);
-        QCOMPARE(row.editor.popupButton()->currentText(), u"Automatic"_qs);
-        row.editor.popupButton()->setCurrentIndex(row.editor.popupButton()->findText(title));
-        row.editor.removeButton()->setChecked(title != u"<off>");
-        QCOMPARE(presetEntry(row.editor, preset, Key), entry);
-    }
-
-    void flagsShowMixedState()
-    {
-        Row<MultiEnumEditor> row(flagsField());
-        row.editor.setExifFiles(makeFiles(Key, {u"A  B"_qs, u"B\nZ"_qs}));
-        QCOMPARE(boxOf(row.editor, u"A"_qs)->checkState(), Qt::PartiallyChecked);
-        QCOMPARE(boxOf(row.editor, u"B"_qs)->checkState(), Qt::Checked);
-        QCOMPARE(boxOf(row.editor, u"C"_qs)->checkState(), Qt::Unchecked);
-    }
-
     void tickingOneFlagChangesOnlyThatFlag_data()
     {
         QTest::addColumn<QStringList>("before");
         QTest::addColumn<QString>("clicked");
         QTest::addColumn<QStringList>("after");
-        const QStringList mixed{u"A B"_qs, u"B Z"_qs};
+        const QStringList mixed{u"A  B"_qs, u"B\nZ"_qs};
         QTest::newRow("add C") << mixed << u"C"_qs << QStringList{u"A B C"_qs, u"B C Z"_qs};
         QTest::newRow("mixed A turns on")
             << mixed << u"A"_qs << QStringList{u"A B"_qs, u"A B Z"_qs};
@@ -158,50 +112,64 @@ private Q_SLOTS:
         QTest::newRow("last off removes")
             << QStringList(2, u"C"_qs) << u"C"_qs << QStringList(2, u"<absent>"_qs);
     }
-
     void tickingOneFlagChangesOnlyThatFlag()
     {
         QFETCH(QStringList, before);
         QFETCH(QString, clicked);
-        QFETCH(QStringList, after);
-
         Row<MultiEnumEditor> row(flagsField());
         const auto files = makeFiles(Key, before);
         row.editor.setExifFiles(files);
+        if (QTest::currentDataTag() == QByteArrayView("add C")) {
+            QCOMPARE(boxOf(row.editor, u"A"_qs)->checkState(), Qt::PartiallyChecked);
+            QCOMPARE(boxOf(row.editor, u"B"_qs)->checkState(), Qt::Checked);
+            QCOMPARE(boxOf(row.editor, u"C"_qs)->checkState(), Qt::Unchecked);
+        }
         auto spy = updateSpy();
-
         QCheckBox *box = boxOf(row.editor, clicked);
         QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2));
-
-        QCOMPARE(currentValues(files, Key), after);
+        QTEST(currentValues(files, Key), "after");
         QCOMPARE(spy.size(), 1);
         QVERIFY(row.editor.isModified());
     }
 
-    void flagsPreset_data()
+    // Both rows in a preset: a value, a removal when emptied, nothing when the box is off.
+    void preset_data()
     {
-        QTest::addColumn<QStringList>("on"); // "<off>" unticks the box
+        QTest::addColumn<bool>("flags");
+        QTest::addColumn<QStringList>("picked"); // "<off>" unticks the box
         QTest::addColumn<QString>("entry");
-        QTest::newRow("two on") << QStringList{u"A"_qs, u"C"_qs} << u"A C"_qs;
-        QTest::newRow("none on deletes") << QStringList{} << u"<removed>"_qs;
-        QTest::newRow("box off") << QStringList{u"<off>"_qs} << u""_qs;
+        QTest::newRow("enum value") << false << QStringList{u"Bracket"_qs} << u"2"_qs;
+        QTest::newRow("enum empty deletes") << false << QStringList{u""_qs} << u"<removed>"_qs;
+        QTest::newRow("enum box off") << false << QStringList{u"<off>"_qs} << u""_qs;
+        QTest::newRow("flags two on") << true << QStringList{u"A"_qs, u"C"_qs} << u"A C"_qs;
+        QTest::newRow("flags none deletes") << true << QStringList{} << u"<removed>"_qs;
     }
-
-    void flagsPreset()
+    void preset()
     {
-        QFETCH(QStringList, on);
-        QFETCH(QString, entry);
-
-        Row<MultiEnumEditor> row(flagsField(), true);
+        QFETCH(bool, flags);
+        QFETCH(QStringList, picked);
         ExifConfiguration preset;
-        preset.changedValues().insert(Key, u"B\tC"_qs);
-        row.editor.setExifConfiguration(&preset);
-        QVERIFY(boxOf(row.editor, u"C"_qs)->isChecked() &&
-                !boxOf(row.editor, u"A"_qs)->isChecked());
-        for (const QString &value : row.editor.values())
-            boxOf(row.editor, value)->setChecked(on.contains(value));
-        row.editor.removeButton()->setChecked(!on.contains(u"<off>"_qs));
-        QCOMPARE(presetEntry(row.editor, preset, Key), entry);
+        const bool on = !picked.contains(u"<off>"_qs);
+        if (flags) {
+            Row<MultiEnumEditor> row(flagsField(), true);
+            preset.changedValues().insert(Key, u"B\tC"_qs);
+            row.editor.setExifConfiguration(&preset);
+            QVERIFY(boxOf(row.editor, u"C"_qs)->isChecked() &&
+                    !boxOf(row.editor, u"A"_qs)->isChecked());
+            for (const QString &value : row.editor.values())
+                boxOf(row.editor, value)->setChecked(picked.contains(value));
+            row.editor.removeButton()->setChecked(on);
+            QTEST(presetEntry(row.editor, preset, Key), "entry");
+        } else {
+            Row<EnumEditor> row(enumField(), true);
+            preset.changedValues().insert(Key, u"auto"_qs);
+            row.editor.setExifConfiguration(&preset);
+            QCOMPARE(row.editor.popupButton()->currentText(), u"Automatic"_qs);
+            QComboBox *box = row.editor.popupButton();
+            box->setCurrentIndex(box->findText(picked.value(0)));
+            row.editor.removeButton()->setChecked(on);
+            QTEST(presetEntry(row.editor, preset, Key), "entry");
+        }
     }
 };
 

@@ -38,66 +38,59 @@ class TestResultsWindow : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void summary_data();
-    void summary();
-    void windowListsFilesSortedAndExpanded();
+    void summary_data()
+    {
+        QTest::addColumn<Batch>("batch");
+        QTest::addColumn<QString>("summary");
+        const auto a = [](const QStringList &messages) { return results(u"/a.jpg"_qs, messages); };
+        const auto b = [](const QStringList &messages) { return results(u"/b.jpg"_qs, messages); };
+        QTest::newRow("empty") << Batch{} << u"No errors"_qs;
+        QTest::newRow("both") << Batch{a({u"3:x"_qs, u"3:y"_qs}), b({u"2:z"_qs})}
+                              << u"There are 2 error(s) and 1 warning(s)"_qs;
+        QTest::newRow("errors, and a file without results")
+            << Batch{nullptr, a({u"3:x"_qs})} << u"There are 1 error(s)"_qs;
+    }
+
+    void summary()
+    {
+        QFETCH(Batch, batch);
+        ResultsModel model;
+        model.displayErrors(batch);
+        QTEST(model.summary(), "summary");
+    }
+
+    void windowListsFilesSortedAndExpanded()
+    {
+        ResultsWindowController window;
+        QAbstractItemModelTester tester(window.errorsOutline()->model(),
+                                        QAbstractItemModelTester::FailureReportingMode::QtTest);
+        QCOMPARE(window.summaryText(), u"No errors or warnings"_qs);
+
+        // A message loses the "[minor]" marker and its own file's path, not another's.
+        const QString y = u"/photos/a/Łódź - y.jpg"_qs;
+        QHash<QString, ErrorMessagesPtr> batch;
+        for (const ErrorMessagesPtr &file :
+             {results(u"/photos/b/x.jpg"_qs, {u"2:[minor] late - /photos/b/x.jpg"_qs}),
+              results(y, {u"2:first - /photos/b/x.jpg"_qs, u"3:second - "_qs + y}),
+              results(u"/photos/a/clean.jpg"_qs)})
+            batch.insert(file->fileName(), file);
+        window.displayErrors(batch);
+
+        QCOMPARE(window.summaryText(), u"There are 1 error(s) and 2 warning(s)"_qs);
+        const QAbstractItemModel &model = *window.errorsOutline()->model();
+        QCOMPARE(lines(model),
+                 QStringList({u"1 /photos/a/clean.jpg"_qs,
+                              u"3 Cannot save the file Łódź - y.jpg. See details bellow "
+                              u"for more detailed information."_qs,
+                              u"  2 first - /photos/b/x.jpg"_qs, u"  3 second"_qs,
+                              u"2 /photos/b/x.jpg"_qs, u"  2 late"_qs}));
+        QCOMPARE(model.index(1, 0).data(ResultsModel::FileNameRole), QVariant(y));
+        for (int row = 0; row < model.rowCount(); ++row)
+            QVERIFY(window.errorsOutline()->isExpanded(model.index(row, 0)));
+        window.displayErrors(QHash<QString, ErrorMessagesPtr>{});
+        QCOMPARE(model.rowCount(), 0);
+    }
 };
-
-void TestResultsWindow::summary_data()
-{
-    QTest::addColumn<Batch>("batch");
-    QTest::addColumn<QString>("summary");
-    const auto a = [](const QStringList &messages) { return results(u"/a.jpg"_qs, messages); };
-    const auto b = [](const QStringList &messages) { return results(u"/b.jpg"_qs, messages); };
-    QTest::newRow("empty") << Batch{} << u"No errors"_qs;
-    QTest::newRow("informations only") << Batch{a({u"1:note"_qs})} << u"No errors"_qs;
-    QTest::newRow("both") << Batch{a({u"3:x"_qs, u"3:y"_qs}), b({u"2:z"_qs})}
-                          << u"There are 2 error(s) and 1 warning(s)"_qs;
-    QTest::newRow("errors, and a file without results")
-        << Batch{nullptr, a({u"3:x"_qs})} << u"There are 1 error(s)"_qs;
-    QTest::newRow("warnings") << Batch{a({u"2:x"_qs, u"2:y"_qs}), b({u"2:z"_qs})}
-                              << u"There are 3 warning(s)"_qs;
-}
-
-void TestResultsWindow::summary()
-{
-    QFETCH(Batch, batch);
-    QFETCH(QString, summary);
-    ResultsModel model;
-    model.displayErrors(batch);
-    QCOMPARE(model.summary(), summary);
-}
-
-void TestResultsWindow::windowListsFilesSortedAndExpanded()
-{
-    ResultsWindowController window;
-    QAbstractItemModelTester tester(window.errorsOutline()->model(),
-                                    QAbstractItemModelTester::FailureReportingMode::QtTest);
-    QCOMPARE(window.summaryText(), u"No errors or warnings"_qs);
-
-    // A message loses the "[minor]" marker and its own file's path, not another's.
-    const QString y = u"/photos/a/Łódź - y.jpg"_qs;
-    QHash<QString, ErrorMessagesPtr> batch;
-    for (const ErrorMessagesPtr &file :
-         {results(u"/photos/b/x.jpg"_qs, {u"2:[minor] late - /photos/b/x.jpg"_qs}),
-          results(y, {u"2:first - /photos/b/x.jpg"_qs, u"3:second - "_qs + y}),
-          results(u"/photos/a/clean.jpg"_qs)})
-        batch.insert(file->fileName(), file);
-    window.displayErrors(batch);
-
-    QCOMPARE(window.summaryText(), u"There are 1 error(s) and 2 warning(s)"_qs);
-    const QAbstractItemModel &model = *window.errorsOutline()->model();
-    QCOMPARE(lines(model), QStringList({u"1 /photos/a/clean.jpg"_qs,
-                                        u"3 Cannot save the file Łódź - y.jpg. See details bellow "
-                                        u"for more detailed information."_qs,
-                                        u"  2 first - /photos/b/x.jpg"_qs, u"  3 second"_qs,
-                                        u"2 /photos/b/x.jpg"_qs, u"  2 late"_qs}));
-    QCOMPARE(model.index(1, 0).data(ResultsModel::FileNameRole), QVariant(y));
-    for (int row = 0; row < model.rowCount(); ++row)
-        QVERIFY(window.errorsOutline()->isExpanded(model.index(row, 0)));
-    window.displayErrors(QHash<QString, ErrorMessagesPtr>{});
-    QCOMPARE(model.rowCount(), 0);
-}
 
 QTEST_MAIN(TestResultsWindow)
 #include "tst_resultswindow.moc"
