@@ -40,7 +40,6 @@ private Q_SLOTS:
         QTest::addColumn<bool>("isWarned");
         QTest::newRow("last unsafe") << u"12.74"_qs << true;
         QTest::newRow("first safe") << u"12.75"_qs << false;
-        QTest::newRow("not a version") << u"abc"_qs << false;
     }
     void oldReleasesGetTheSonyWarning()
     {
@@ -178,24 +177,6 @@ private Q_SLOTS:
         QVERIFY(failing.standardError.startsWith("Error: File not found - "));
         QVERIFY(after.hasSucceeded());
         QCOMPARE(after.standardOutput + after.standardError, QByteArray("13.59\n"));
-    }
-
-    void persistentAndOneShotReadAlike()
-    {
-        const QString image = m_dir.filePath(u"alike.jpg"_qs);
-        QCOMPARE(Fixtures::makeImage(image, {u"-IFD0:Artist=Ann\nLee"_qs,
-                                             u"-ExifIFD:DateTimeOriginal=2010:05:01 10:00:00"_qs,
-                                             u"-XMP-dc:Subject=a, b"_qs}),
-                 QString());
-        const QStringList arguments{u"-X"_qs,   u"-g1"_qs,       u"-n"_qs,       u"-charset"_qs,
-                                    u"UTF8"_qs, u"-EXIF:all"_qs, u"-XMP:all"_qs, image};
-        const ExifToolResult persistent = m_exifTool.execute(arguments, 60000);
-        const ExifToolResult oneShot =
-            ExifToolCommand(Fixtures::exifTool()).run(arguments, {}, 60000);
-        QVERIFY(persistent.standardOutput.contains("Ann&#xa;Lee") ||
-                persistent.standardOutput.contains("Ann\nLee"));
-        QCOMPARE(persistent.standardOutput, oneShot.standardOutput);
-        QCOMPARE(persistent.standardError, oneShot.standardError);
         // Arguments read from an empty input must not leave the one-shot run waiting.
         QCOMPARE(ExifToolCommand(Fixtures::exifTool())
                      .run({u"-ver"_qs, u"-@"_qs, u"-"_qs}, {}, 30000)
