@@ -26,6 +26,7 @@ std::atomic<int> s_timeoutBaseMs{120'000};
 std::atomic<int> s_timeoutPerMegabyteMs{10'000};
 
 const QString FileTypeKey = QStringLiteral("File:FileType");
+const QString MimeTypeKey = QStringLiteral("File:MIMEType");
 const QString ImageDataHashKey = QStringLiteral("File:ImageDataHash");
 const QStringList DimensionKeys{QStringLiteral("File:ImageWidth"),
                                 QStringLiteral("File:ImageHeight"),
@@ -59,6 +60,12 @@ bool endsWithJpegEnd(const QString &path)
     if (!file.open(QIODevice::ReadOnly) || file.size() < 2 || !file.seek(file.size() - 2))
         return false;
     return file.read(2) == QByteArrayLiteral("\xff\xd9");
+}
+
+bool isBareJpegXlCodestream(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && file.read(2) == QByteArrayLiteral("\xff\x0a");
 }
 
 timespec toTimespec(const QDateTime &date)
@@ -175,6 +182,10 @@ ExifRunnerFileModifiyOperation::writeFile(const QStringList &arguments, ErrorMes
         errors.addError(tr("The file could not be saved: %1").arg(m_replacement->errorString()));
     } else {
         QStringList all = arguments;
+        // ExifTool puts a bare JPEG XL codestream into a container (losslessly) only when told
+        // to ignore minor errors; the read-back still checks every written value.
+        if (isBareJpegXlCodestream(m_fileName) && !all.contains(QStringLiteral("-m")))
+            all << QStringLiteral("-m");
         all << QStringLiteral("-o") << m_replacement->exifToolOutputPath() << m_fileName;
         if (DebugMode::isEnabled())
             debugPrintArguments(all);
@@ -249,7 +260,10 @@ std::optional<TagDictionary> ExifRunnerFileModifiyOperation::checkNewFile(ErrorM
 
     const QString oldType = original.value(FileTypeKey);
     const QString newType = written.value(FileTypeKey);
-    typeDiffers = oldType != newType;
+    // A plain WebP becomes an "Extended WEBP" with its first metadata: the same kind of file.
+    const QString oldMime = original.value(MimeTypeKey);
+    typeDiffers =
+        oldType != newType && (oldMime.isEmpty() || oldMime != written.value(MimeTypeKey));
     // Without its extension a TIFF-based raw file reads as a plain TIFF.
     if (typeDiffers &&
         !(newType == QStringLiteral("TIFF") && UserSettings::isCameraRawFile(m_fileName))) {
