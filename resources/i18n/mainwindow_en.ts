@@ -31,5 +31,9 @@
         <source>dialog.fix-maker.into-text</source>
         <translation>The maker notes of these files cannot be read. Repairing rewrites them so that they can be read again; values that cannot be recovered are removed.</translation>
     </message>
+    <message>
+        <source>The files could not be read.</source>
+        <translation>The files could not be read.</translation>
+    </message>
 </context>
 </TS>

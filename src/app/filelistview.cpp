@@ -26,6 +26,7 @@ FileListView::FileListView(QWidget *parent)
     : QListView(parent)
 {
     setAcceptDrops(true);
+    viewport()->setAcceptDrops(true);
     setDropIndicatorShown(false);
     setSelectionMode(QAbstractItemView::ExtendedSelection);
     setUniformItemSizes(true);

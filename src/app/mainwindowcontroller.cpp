@@ -26,6 +26,7 @@
 #include <QItemSelectionModel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QToolButton>
@@ -217,8 +218,17 @@ void MainWindowController::handleBatchRead(const FileReadQueue::Batch &batch)
         else if (!file->isValid())
             rejected.append({file->fileName(), FileRejection::Reason::Unreadable});
     }
-    if (!batch.result.ok())
+    if (!batch.result.ok()) {
         qCWarning(lcTagsmith).noquote() << batch.result.errorMessage;
+        QMessageBox *alert = new QMessageBox(
+            QMessageBox::Critical, localized(QStringLiteral("The files could not be read.")),
+            localized(QStringLiteral("The files could not be read.")), QMessageBox::Ok,
+            m_window.get());
+        alert->setInformativeText(batch.result.errorMessage);
+        alert->setAttribute(Qt::WA_DeleteOnClose);
+        alert->setWindowModality(Qt::WindowModal);
+        alert->open();
+    }
     m_addFilesNote->showRejections(rejected);
     if (valid.isEmpty())
         return;

@@ -1,4 +1,5 @@
 #include "app/filelistmodel.h"
+#include "app/filelistview.h"
 #include "app/mainwindowcontroller.h"
 #include "catalogue/exiffieldscontroller.h"
 #include "catalogue/stringtables.h"
@@ -14,14 +15,17 @@
 #include <QAbstractItemModelTester>
 #include <QAction>
 #include <QDir>
+#include <QDropEvent>
 #include <QFile>
 #include <QGuiApplication>
 #include <QMenu>
+#include <QMimeData>
 #include <QMessageBox>
 #include <QSignalSpy>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QUrl>
 
 using namespace Qt::StringLiterals;
 
@@ -250,8 +254,19 @@ private Q_SLOTS:
     void addingFolderTakesSupportedFilesAndSelectsThem()
     {
         MainWindowController &window = controller();
+        // The first one comes by drag and drop.
         const QString first = image(u"first.jpg"_s);
-        QVERIFY(add({first}));
+        QMimeData dropped;
+        dropped.setUrls({QUrl::fromLocalFile(first)});
+        QDropEvent drop(QPointF(20, 20), Qt::CopyAction, &dropped, Qt::LeftButton, Qt::NoModifier);
+        QDragEnterEvent enter(QPoint(20, 20), Qt::CopyAction, &dropped, Qt::LeftButton,
+                              Qt::NoModifier);
+        QCoreApplication::sendEvent(window.filesTable()->viewport(), &enter);
+        QVERIFY(enter.isAccepted());
+        QCoreApplication::sendEvent(window.filesTable()->viewport(), &drop);
+        QVERIFY(drop.isAccepted());
+        QVERIFY(window.waitForPendingReads());
+        QCOMPARE(names(window.files()), QStringList{u"first.jpg"_s});
         const QString folder = m_dir.filePath(u"shoot"_s);
         QVERIFY(!image(u"shoot/a.jpg"_s).isEmpty());
         QVERIFY(!image(u"shoot/deeper/B.JPG"_s).isEmpty());
