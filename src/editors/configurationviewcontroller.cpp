@@ -135,6 +135,12 @@ void ConfigurationViewController::createUserInterface()
     m_isBuilt = true;
     m_theme = ApertureTheme::Key;
     m_view->setBackgroundColor(FormBackground);
+    // The application's light-on-dark text would vanish on the form's light grey; headings keep
+    // the dark band of the theme.
+    m_view->setStyleSheet(u"QLabel { color: rgb(20, 20, 20); }"
+                          "QLabel:disabled { color: rgb(90, 90, 90); }"
+                          "QLabel#heading { color: rgb(235, 235, 235);"
+                          " background: rgb(56, 56, 56); }"_qs);
     m_view->setUpdatesEnabled(false);
 
     const QList<GroupPtr> &groups = m_catalogue->groups();

@@ -36,6 +36,7 @@ QLabel *GroupEditor::createHeadingLabel(QWidget *parent, const QString &text, in
     font.setBold(true);
     font.setPointSize(pointSize);
     label->setFont(font);
+    label->setObjectName(u"heading"_qs);
     label->setAutoFillBackground(true);
     label->setBackgroundRole(QPalette::Button);
     label->setTextInteractionFlags(Qt::NoTextInteraction);

@@ -127,9 +127,9 @@ void PresetsWindowController::updateSkin()
     windowPalette.setColor(QPalette::Window, ApertureTheme::normalSolidFill());
     setPalette(windowPalette);
     m_configurationsTable->setProperty("theme", ApertureTheme::Key);
-    QPalette tablePalette = m_configurationsTable->palette();
-    tablePalette.setColor(QPalette::Base, TableBackground);
-    m_configurationsTable->setPalette(tablePalette);
+    // The application's style sheet would override a palette colour.
+    m_configurationsTable->setStyleSheet(
+        u"QTableView { background: %1; color: rgb(20, 20, 20); }"_qs.arg(TableBackground.name()));
 }
 
 QString PresetsWindowController::selectedIdentifier() const
