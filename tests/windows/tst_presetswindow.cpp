@@ -195,20 +195,6 @@ private Q_SLOTS:
         QVERIFY(nameEditor);
         QCOMPARE(nameEditor->selectedText(), u"New Configuration"_qs);
     }
-
-    void duplicateImportAndExportChangeNothing()
-    {
-        addPreset(u"One"_qs);
-        PresetsWindowController window(nullptr, *m_store);
-        const QString before = ExifSettings::configurationToXml(
-            *m_store->loadConfiguration(window.configNames().first()));
-        window.duplicateConfiguration();
-        window.importConfigurations();
-        window.exportConfigurations();
-        QCOMPARE(window.configNames().size(), 1);
-        QCOMPARE(m_store->configurations().size(), 1);
-        QCOMPARE(ExifSettings::configurationToXml(*m_store->configurations().first()), before);
-    }
 };
 
 QTEST_MAIN(TestPresetsWindow)
