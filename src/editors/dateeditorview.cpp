@@ -409,9 +409,18 @@ void DateEditorView::saveValue(const QDateTime &date)
         return;
 
     const bool writesToDisk = !m_runner.isNull();
+    const bool shifts = newValue && m_focus == FocusOffset;
+    const bool isZeroShift = shifts && parseDateOffset(*newValue).hasSameUnits(DateComponents());
     for (const ExifFileInfoPtr &file : std::as_const(m_files)) {
         if (!newValue) {
             file->removeExifValue(key);
+            continue;
+        }
+        // A file without the date has nothing to shift; a shift back to zero is no change.
+        if (shifts && file->exifValue(key).isEmpty())
+            continue;
+        if (isZeroShift) {
+            restoreOriginal(file);
             continue;
         }
         QString value = *newValue;
@@ -426,6 +435,15 @@ void DateEditorView::saveValue(const QDateTime &date)
     // Unlike the row editors the panel names no source: the row showing the field must refresh.
     ExifFilesUpdateCenter::instance().post(key, m_files, newValue, m_files, nullptr);
     queueSave();
+}
+
+void DateEditorView::restoreOriginal(const ExifFileInfoPtr &file) const
+{
+    const QString original = originalValue(file);
+    if (original.isEmpty())
+        file->removeExifValue(m_field->xmlName());
+    else
+        file->setExifValue(m_field->xmlName(), original);
 }
 
 void DateEditorView::setBackgroundRunner(ExifBackgroundRunner *runner)

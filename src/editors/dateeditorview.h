@@ -79,6 +79,7 @@ protected:
 private:
     void buildRows();
     QString originalValue(const ExifFileInfoPtr &file) const;
+    void restoreOriginal(const ExifFileInfoPtr &file) const;
     QDateTime firstOriginalDate() const;
     void setOriginalDate(const QString &value);
     void synchronizeFromDate(const QDateTime &date);

@@ -118,6 +118,10 @@ private Q_SLOTS:
             << Keys{{3, Qt::Key_1}, {4, Qt::Key_2}} << QString()
             << QStringList{u"2010:05:02 12:00:00"_qs, u"2012:01:02 01:30:00"_qs,
                            u"2013:03:31 02:30:00"_qs, u"2013:04:01 01:30:00"_qs};
+        QTest::newRow("a shift passes over a file without the date")
+            << DateTimeOriginal << QStringList{Original, QString()}
+            << Keys{{3, Qt::Key_1}, {4, Qt::Key_2}} << QString()
+            << QStringList{u"2010:05:02 12:00:00"_qs, u"-"_qs};
         QTest::newRow("absolute date over mixed originals")
             << DateTimeOriginal << QStringList{Original, QString(), u"1999:12:31 23:59:59"_qs}
             << Keys{} << u"2021:07:04 08:09:10"_qs << QStringList(3, u"2021:07:04 08:09:10"_qs);
