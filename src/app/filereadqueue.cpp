@@ -3,7 +3,6 @@
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QThread>
-#include <QTimer>
 #include <QtConcurrent/QtConcurrentRun>
 
 FileReadQueue::FileReadQueue(QObject *parent)
@@ -11,6 +10,9 @@ FileReadQueue::FileReadQueue(QObject *parent)
 {
     connect(&m_watcher, &QFutureWatcher<ExifReadResult>::finished, this,
             &FileReadQueue::handleFinished);
+    // Polled rather than signalled per record: ExifTool reports hundreds of files a second.
+    m_progressTimer.setInterval(150);
+    connect(&m_progressTimer, &QTimer::timeout, this, &FileReadQueue::reportProgress);
 }
 
 FileReadQueue::~FileReadQueue()
@@ -20,29 +22,13 @@ FileReadQueue::~FileReadQueue()
     m_watcher.waitForFinished();
 }
 
-bool FileReadQueue::isQueued(const QString &path) const
-{
-    const auto holds = [&path](const Batch &batch) {
-        for (const ExifFileInfoPtr &file : batch.files) {
-            if (file->fileName() == path)
-                return true;
-        }
-        return false;
-    };
-    if (m_isReading && holds(m_current))
-        return true;
-    for (const Batch &batch : m_queue) {
-        if (holds(batch))
-            return true;
-    }
-    return false;
-}
-
 void FileReadQueue::enqueue(Batch batch)
 {
     const bool wasBusy = isBusy();
+    for (const ExifFileInfoPtr &file : std::as_const(batch.files))
+        m_pendingPaths.insert(file->fileName());
     // Adds that arrive before the next read starts (the desktop hands over files one by one)
-    // share one ExifTool run and one selection.
+    // share one read and one selection.
     if (m_queue.empty()) {
         m_queue.push_back(std::move(batch));
     } else {
@@ -60,31 +46,93 @@ void FileReadQueue::enqueue(Batch batch)
     }
 }
 
+void FileReadQueue::cancel()
+{
+    if (!isBusy())
+        return;
+    m_queue.clear();
+    if (m_isReading) {
+        m_isChunkAbandoned = m_isChunkRunning;
+        finishBatch(m_readCount);
+    }
+    m_pendingPaths.clear();
+    Q_EMIT busyChanged(false);
+}
+
 void FileReadQueue::startNext()
 {
-    if (m_isReading || m_queue.empty())
+    // An abandoned chunk still holds the runner's thread; its end starts the next batch.
+    if (m_isReading || m_isChunkRunning || m_queue.empty())
         return;
     m_current = std::move(m_queue.front());
     m_queue.pop_front();
     m_isReading = true;
+    m_readCount = 0;
+    Q_EMIT progressChanged(0, int(m_current.files.size()));
+    m_progressTimer.start();
+    startChunk();
+}
+
+void FileReadQueue::startChunk()
+{
+    const QList<ExifFileInfoPtr> chunk = m_current.files.mid(m_readCount, m_chunkSize);
+    m_chunkCount = chunk.size();
+    m_chunkProgress.storeRelaxed(0);
+    m_isChunkRunning = true;
     // The records go to the pool thread by shared pointer; the main thread does not look at
-    // them until the batch comes back. A runner per read: it is not reentrant.
-    m_watcher.setFuture(QtConcurrent::run([files = m_current.files] {
+    // them until the chunk comes back. A runner per read: it is not reentrant.
+    m_watcher.setFuture(QtConcurrent::run([chunk, progress = &m_chunkProgress] {
         ExifRunner runner;
-        return runner.loadExifInformations(files);
+        runner.setRecordsReadHandler(
+            [progress](qsizetype records) { progress->storeRelaxed(qint32(records)); });
+        return runner.loadExifInformations(chunk);
     }));
 }
 
 void FileReadQueue::handleFinished()
 {
-    m_current.result = m_watcher.result();
-    m_isReading = false;
-    Batch done = std::move(m_current);
-    m_current = Batch();
-    Q_EMIT batchRead(done);
+    m_isChunkRunning = false;
+    const ExifReadResult result = m_watcher.result();
+    if (m_isChunkAbandoned) {
+        m_isChunkAbandoned = false;
+        startNext();
+        return;
+    }
+    m_readCount += m_chunkCount;
+    if (!result.ok() && m_current.result.ok())
+        m_current.result = result;
+    reportProgress();
+    // When ExifTool cannot be started the rest would fail alike; the unread records stay not
+    // valid and are told as such.
+    if (m_readCount < m_current.files.size() && result.ok()) {
+        startChunk();
+        return;
+    }
+    finishBatch(m_current.files.size());
     if (!isBusy())
         Q_EMIT busyChanged(false);
     startNext();
+}
+
+void FileReadQueue::finishBatch(qsizetype keptFiles)
+{
+    m_progressTimer.stop();
+    m_isReading = false;
+    Batch done = std::move(m_current);
+    m_current = Batch();
+    for (const ExifFileInfoPtr &file : std::as_const(done.files))
+        m_pendingPaths.remove(file->fileName());
+    done.files.resize(keptFiles);
+    Q_EMIT batchRead(done);
+}
+
+void FileReadQueue::reportProgress()
+{
+    if (!m_isReading)
+        return;
+    const qsizetype inChunk = m_isChunkRunning ? m_chunkProgress.loadRelaxed() : 0;
+    Q_EMIT progressChanged(int(m_readCount + qMin(inChunk, m_chunkCount)),
+                           int(m_current.files.size()));
 }
 
 bool FileReadQueue::waitForIdle(int timeoutMs)

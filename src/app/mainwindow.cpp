@@ -7,7 +7,10 @@
 #include "windows/fileinfocell.h"
 
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QHBoxLayout>
+#include <QLabel>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QSplitter>
 #include <QToolButton>
@@ -53,6 +56,7 @@ MainWindow::MainWindow(bool debug, QWidget *parent)
     m_filesTable->setStyleSheet(
         QStringLiteral("FileListView { background-color: rgb(153,153,153); }"));
     listLayout->addWidget(m_filesTable, 1);
+    listLayout->addWidget(buildReadingBar());
     listLayout->addWidget(buildBottomBar(debug));
     m_splitter->addWidget(listSide);
     m_splitter->setStretchFactor(0, 0);
@@ -98,6 +102,32 @@ QWidget *MainWindow::buildBottomBar(bool debug)
     m_processButton->setDefault(true);
     layout->addWidget(m_processButton);
     return bar;
+}
+
+QWidget *MainWindow::buildReadingBar()
+{
+    m_readingBar = new QWidget(this);
+    auto *layout = new QHBoxLayout(m_readingBar);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(6);
+    m_readingLabel = new QLabel(m_readingBar);
+    m_readingProgress = new QProgressBar(m_readingBar);
+    m_readingProgress->setTextVisible(false);
+    m_readingProgress->setMaximumHeight(8);
+    m_cancelReadingButton = new QPushButton(localized("Cancel"), m_readingBar);
+    layout->addWidget(m_readingLabel);
+    layout->addWidget(m_readingProgress, 1);
+    layout->addWidget(m_cancelReadingButton);
+    m_readingBar->hide();
+    return m_readingBar;
+}
+
+void MainWindow::showReadingProgress(int read, int total)
+{
+    m_readingLabel->setText(
+        QCoreApplication::translate("Localizable", "Reading %1 of %2 files…").arg(read).arg(total));
+    m_readingProgress->setRange(0, qMax(total, 1));
+    m_readingProgress->setValue(read);
 }
 
 void MainWindow::setFormArea(QWidget *form)

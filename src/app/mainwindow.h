@@ -6,6 +6,8 @@
 
 class FileListView;
 class IndeterminateProgressIndicatorCell;
+class QLabel;
+class QProgressBar;
 class QPushButton;
 class QSplitter;
 class QToolButton;
@@ -31,6 +33,10 @@ public:
     QToolButton *presetsButton() const { return m_presetsButton; }
     QPushButton *processButton() const { return m_processButton; }
     IndeterminateProgressIndicatorCell *readingIndicator() const { return m_readingIndicator; }
+    // Shown while added files are read: "Reading N of M files…" and a Cancel button.
+    QWidget *readingBar() const { return m_readingBar; }
+    QPushButton *cancelReadingButton() const { return m_cancelReadingButton; }
+    void showReadingProgress(int read, int total);
     // Only in debug mode; null otherwise.
     QPushButton *loadTestFilesButton() const { return m_loadTestFilesButton; }
     QPushButton *presetsQuickButton() const { return m_presetsQuickButton; }
@@ -41,6 +47,7 @@ protected:
 
 private:
     QWidget *buildBottomBar(bool debug);
+    QWidget *buildReadingBar();
 
     std::function<bool()> m_closeHandler;
     QWidget *m_content = nullptr;
@@ -51,6 +58,10 @@ private:
     QToolButton *m_presetsButton = nullptr;
     QPushButton *m_processButton = nullptr;
     IndeterminateProgressIndicatorCell *m_readingIndicator = nullptr;
+    QWidget *m_readingBar = nullptr;
+    QLabel *m_readingLabel = nullptr;
+    QProgressBar *m_readingProgress = nullptr;
+    QPushButton *m_cancelReadingButton = nullptr;
     QPushButton *m_loadTestFilesButton = nullptr;
     QPushButton *m_presetsQuickButton = nullptr;
     QPushButton *m_resultsButton = nullptr;

@@ -29,6 +29,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QSet>
 #include <QToolButton>
 
 #include <algorithm>
@@ -56,6 +57,8 @@ MainWindowController::MainWindowController(TagsmithAppDelegate *delegate,
     connect(m_readQueue, &FileReadQueue::batchRead, this, &MainWindowController::handleBatchRead);
     connect(m_readQueue, &FileReadQueue::busyChanged, this,
             &MainWindowController::handleReadingChanged);
+    connect(m_readQueue, &FileReadQueue::progressChanged, this,
+            [this](int read, int total) { m_window->showReadingProgress(read, total); });
     m_terminateReply = [this](bool terminate) {
         if (m_delegate)
             m_delegate->replyToApplicationShouldTerminate(terminate);
@@ -79,6 +82,8 @@ void MainWindowController::buildWindow()
     m_filesTable = m_window->filesTable();
     m_processButton = m_window->processButton();
     m_readingIndicator = m_window->readingIndicator();
+    connect(m_window->cancelReadingButton(), &QPushButton::clicked, this,
+            &MainWindowController::cancelReading);
 
     m_model = new FileListModel(this);
     m_filesTable->setModel(m_model);
@@ -188,11 +193,13 @@ bool MainWindowController::addFiles(const QStringList &paths)
         paths, [this](const QString &path) { return hasFileInList(path); });
     FileReadQueue::Batch batch;
     batch.rejected = admitted.rejected;
+    QSet<QString> seen;
     for (const QString &path : admitted.accepted) {
         // A folder may name the same file twice through a link; one row each.
-        if (std::none_of(batch.files.cbegin(), batch.files.cend(),
-                         [&path](const ExifFileInfoPtr &f) { return f->fileName() == path; }))
+        if (!seen.contains(path)) {
+            seen.insert(path);
             batch.files.append(std::make_shared<ExifFileInfo>(path));
+        }
     }
     if (batch.files.isEmpty()) {
         m_addFilesNote->showRejections(batch.rejected);
@@ -207,13 +214,23 @@ bool MainWindowController::waitForPendingReads(int timeoutMs)
     return m_readQueue->waitForIdle(timeoutMs);
 }
 
+void MainWindowController::cancelReading()
+{
+    m_readQueue->cancel();
+}
+
 void MainWindowController::handleBatchRead(const FileReadQueue::Batch &batch)
 {
     QList<ExifFileInfoPtr> valid;
     QList<FileRejection> rejected = batch.rejected;
+    // Another add may have brought the same path in the meantime; one lookup table for the
+    // batch, as both the list and the batch can hold thousands of files.
+    QSet<QString> listed;
+    listed.reserve(files().size());
+    for (const ExifFileInfoPtr &file : files())
+        listed.insert(file->fileName());
     for (const ExifFileInfoPtr &file : batch.files) {
-        // Another add may have brought the same path in the meantime.
-        if (file->isValid() && !m_model->hasFileInList(file->fileName()))
+        if (file->isValid() && !listed.contains(file->fileName()))
             valid.append(file);
         else if (!file->isValid())
             rejected.append({file->fileName(), FileRejection::Reason::Unreadable});
@@ -244,6 +261,7 @@ void MainWindowController::handleBatchRead(const FileReadQueue::Batch &batch)
 void MainWindowController::handleReadingChanged(bool busy)
 {
     m_readingIndicator->setVisible(busy);
+    m_window->readingBar()->setVisible(busy);
     if (busy) {
         m_readingIndicator->startAnimation();
         QGuiApplication::setOverrideCursor(Qt::BusyCursor);

@@ -71,6 +71,9 @@ public:
     bool addFiles(const QStringList &paths);
     bool hasFileInList(const QString &path) const;
     bool waitForPendingReads(int timeoutMs = 30000);
+    // Stops reading added files; the files read so far are added and selected.
+    void cancelReading();
+    FileReadQueue *readQueue() const { return m_readQueue; }
 
     const QList<ExifFileInfoPtr> &files() const;
     const QList<ExifFileInfoPtr> &currentFiles() const { return m_currentFiles; }

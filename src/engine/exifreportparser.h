@@ -21,6 +21,9 @@ public:
     // Resets the parser for the next report.
     QHash<QString, TagDictionary> finish();
 
+    // Records completed so far in this report.
+    qsizetype recordCount() const { return m_filesDictionary.size(); }
+
     // True once the report turned out malformed; later data is ignored.
     bool hasFailed() const { return m_failed; }
 

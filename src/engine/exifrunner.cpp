@@ -56,9 +56,12 @@ ExifRunner::Report ExifRunner::readReport(const QStringList &paths)
             bytes += paths.at(end++).toUtf8().size() + 1;
 
         ExifReportParser parser;
-        const ExifToolResult run =
-            m_command.run(readCommandArguments(paths.mid(first, end - first)),
-                          [&parser](QByteArrayView chunk) { parser.addData(chunk.toByteArray()); });
+        const ExifToolResult run = m_command.run(
+            readCommandArguments(paths.mid(first, end - first)), [&](QByteArrayView chunk) {
+                parser.addData(chunk.toByteArray());
+                if (m_recordsRead)
+                    m_recordsRead(report.records.size() + parser.recordCount());
+            });
         report.records.insert(parser.finish());
         if (run.outcome != ExifToolResult::Outcome::Finished) {
             // After a crash, what did arrive is still the files' true content.
@@ -90,12 +93,14 @@ ExifReadResult ExifRunner::loadExifInformations(const QList<ExifFileInfoPtr> &fi
     if (kept.isEmpty())
         return {};
 
-    const Report report = readReport(paths);
+    Report report = readReport(paths);
     if (!report.ran)
         return report.result;
     m_cachesFormatters = true;
+    StringPool pool;
+    // Each parsed record is let go once formatted, so the batch is never held twice.
     for (const ExifFileInfoPtr &file : std::as_const(kept))
-        file->setReadData(preformatValues(report.records.value(file->fileName())));
+        file->setReadData(preformatValues(report.records.take(file->fileName()), pool));
     m_cachesFormatters = false;
     m_formatters.clear();
     return report.result;
@@ -147,6 +152,20 @@ QString ExifRunner::formatNumberFromExifTool(const QString &value, const ExifFie
     if (!formatter)
         formatter = field.createFormatter();
     return formatter->stringFromNumber(leadingNumber(value));
+}
+
+TagDictionary ExifRunner::preformatValues(const TagDictionary &values, StringPool &pool)
+{
+    const ExifFieldsController *catalogue = ExifFieldsController::defaultInstance();
+    TagDictionary formatted;
+    formatted.reserve(values.size());
+    for (auto it = values.cbegin(); it != values.cend(); ++it) {
+        const ExifFieldPtr field = catalogue->field(it.key());
+        formatted.insert(pool.intern(it.key()),
+                         pool.intern(field ? formatValue(it.value(), *field) : it.value()));
+    }
+    filterLeicaLensData(formatted);
+    return formatted;
 }
 
 void ExifRunner::filterLeicaLensData(TagDictionary &values)

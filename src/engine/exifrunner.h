@@ -2,6 +2,7 @@
 
 #include "engine/exiffileinfo.h"
 #include "engine/exiftoolcommand.h"
+#include "engine/stringpool.h"
 #include "engine/tagdictionary.h"
 
 #include <QHash>
@@ -9,6 +10,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 #include <unordered_map>
 
@@ -38,6 +40,12 @@ public:
     bool backupFiles() const { return m_backupFiles; }
     void setBackupFiles(bool backup) { m_backupFiles = backup; }
 
+    // Told, on the reading thread, how many records of the current ExifTool run are complete.
+    void setRecordsReadHandler(std::function<void(qsizetype records)> handler)
+    {
+        m_recordsRead = std::move(handler);
+    }
+
     // Missing files become not valid and stay out of the run; every other file is valid
     // afterwards, with empty dictionaries when ExifTool reported nothing for it.
     ExifReadResult loadExifInformations(const QList<ExifFileInfoPtr> &files);
@@ -51,6 +59,9 @@ public:
     static QStringList readCommandArguments(const QStringList &paths);
 
     TagDictionary preformatValues(const TagDictionary &values);
+    // The same, with keys and values shared with equal ones already in the pool: a batch of
+    // files repeats most of its keys and many values, and keeps them for as long as it is open.
+    TagDictionary preformatValues(const TagDictionary &values, StringPool &pool);
     QString formatValue(const QString &value, const ExifField &field);
     QString formatNumberFromExifTool(const QString &value, const ExifField &field);
     static void filterLeicaLensData(TagDictionary &values);
@@ -68,6 +79,7 @@ private:
     Report readReport(const QStringList &paths);
 
     ExifToolCommand m_command;
+    std::function<void(qsizetype)> m_recordsRead;
     bool m_backupFiles = false;
     // A formatter per field for the length of one batch; making one per value would dominate a
     // large read. Only within a batch, as the catalogue is the only owner of the fields.
