@@ -102,6 +102,9 @@ void FileReadQueue::handleFinished()
     if (!result.ok() && m_current.result.ok())
         m_current.result = result;
     reportProgress();
+    // A cancel from the progress signal has already told the batch.
+    if (!m_isReading)
+        return;
     // When ExifTool cannot be started the rest would fail alike; the unread records stay not
     // valid and are told as such.
     if (m_readCount < m_current.files.size() && result.ok()) {
