@@ -20,6 +20,7 @@
 #include <QApplication>
 #include <QFontMetricsF>
 #include <QHash>
+#include <QPalette>
 #include <QPushButton>
 #include <QScrollArea>
 
@@ -135,12 +136,20 @@ void ConfigurationViewController::createUserInterface()
     m_isBuilt = true;
     m_theme = ApertureTheme::Key;
     m_view->setBackgroundColor(FormBackground);
-    // The application's light-on-dark text would vanish on the form's light grey; headings keep
-    // the dark band of the theme.
-    m_view->setStyleSheet(u"QLabel { color: rgb(20, 20, 20); }"
-                          "QLabel:disabled { color: rgb(90, 90, 90); }"
-                          "QLabel#heading { color: rgb(235, 235, 235);"
-                          " background: rgb(56, 56, 56); }"_qs);
+    // The application's light-on-dark text would vanish on the form's light grey, so the form's
+    // own labels turn dark; headings keep the theme's dark band, and popups opened from a row
+    // keep its light text.
+    m_view->setStyleSheet(
+        u"ConfigurationView > QLabel { color: rgb(20, 20, 20); }"
+        "ConfigurationView > QLabel:disabled { color: rgb(90, 90, 90); }"
+        "QLabel#fieldValue { color: rgb(235, 235, 235);"
+        " background: rgba(0, 0, 0, 90); border: 1px solid rgba(255, 255, 255, 60);"
+        " border-radius: 3px; padding: 0px 4px; }"
+        // Also makes "Multiple values" a half-transparent white, readable
+        // on the darkened fields over the grey.
+        "ConfigurationView > QLineEdit { color: rgb(245, 245, 245); }"
+        "QLabel#heading { color: rgb(235, 235, 235);"
+        " background: rgb(56, 56, 56); }"_qs);
     m_view->setUpdatesEnabled(false);
 
     const QList<GroupPtr> &groups = m_catalogue->groups();

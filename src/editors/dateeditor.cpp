@@ -32,6 +32,7 @@ void DateEditor::setBackgroundRunner(ExifBackgroundRunner *runner)
 int DateEditor::createEditorContent(QWidget *parent, QRect frame)
 {
     m_currentDateLabel = new QLabel(parent);
+    m_currentDateLabel->setObjectName(QStringLiteral("fieldValue"));
     m_currentDateLabel->setGeometry(frame);
     m_currentDateLabel->setAutoFillBackground(true);
     m_currentDateLabel->setBackgroundRole(QPalette::Button);
@@ -47,7 +48,6 @@ int DateEditor::createEditorContent(QWidget *parent, QRect frame)
             &DateEditor::receiveFilesUpdateNotification);
     return frame.height();
 }
-
 
 int DateEditor::hideEditor(int top)
 {

@@ -58,6 +58,8 @@ int SectionEditor::createInParent(QWidget *parent, int top, bool first)
         font.setPointSize(9);
         m_additionalButton->setFont(font);
         m_additionalButton->setFocusPolicy(Qt::NoFocus);
+        // The theme's button padding would not leave room for the text in so small a button.
+        m_additionalButton->setStyleSheet(u"QPushButton { padding: 0px 2px; }"_qs);
         m_additionalButton->setGeometry(width - 80, top + 4, ButtonWidth, ButtonHeight);
         m_additionalButton->show();
     }
