@@ -24,46 +24,32 @@ add_custom_command(
     COMMENT "Installing the pinned npm packages (ExifTool, Leaflet)"
     VERBATIM)
 
-# Links <dir>/Contents/Resources/exiftool to the bundled ExifTool's bin folder, so the script
-# finds its lib folder beside it.
-function(tagsmith_link_exiftool dir)
-    set(link ${dir}/Contents/Resources/exiftool)
+# Makes the symbolic link `link` to `target` once the npm packages are in place.
+function(tagsmith_link link target)
     string(MAKE_C_IDENTIFIER "${link}" stamp_name)
     set(stamp ${CMAKE_BINARY_DIR}/CMakeFiles/${stamp_name}.stamp)
+    get_filename_component(parent ${link} DIRECTORY)
     add_custom_command(
         OUTPUT ${stamp}
-        COMMAND ${CMAKE_COMMAND} -E make_directory ${dir}/Contents/Resources
+        COMMAND ${CMAKE_COMMAND} -E make_directory ${parent}
         COMMAND ${CMAKE_COMMAND} -E rm -rf ${link}
-        COMMAND ${CMAKE_COMMAND} -E create_symlink ${TAGSMITH_EXIFTOOL_DIR} ${link}
+        COMMAND ${CMAKE_COMMAND} -E create_symlink ${target} ${link}
         COMMAND ${CMAKE_COMMAND} -E touch ${stamp}
         DEPENDS ${TAGSMITH_NPM_STAMP}
         VERBATIM)
     set_property(GLOBAL APPEND PROPERTY TAGSMITH_EXIFTOOL_LINKS ${stamp})
 endfunction()
 
-tagsmith_link_exiftool(${CMAKE_BINARY_DIR})
-tagsmith_link_exiftool(${CMAKE_BINARY_DIR}/tests)
-tagsmith_link_exiftool(${CMAKE_BINARY_DIR}/bench)
-# The map page and Leaflet sit at <directory of an executable>/Contents/Resources/map, as links
-# to the sources and to the npm folder, so the page can be edited without a rebuild.
-function(tagsmith_link_map dir)
-    set(map ${dir}/Contents/Resources/map)
-    string(MAKE_C_IDENTIFIER "${map}" stamp_name)
-    set(stamp ${CMAKE_BINARY_DIR}/CMakeFiles/${stamp_name}.stamp)
-    add_custom_command(
-        OUTPUT ${stamp}
-        COMMAND ${CMAKE_COMMAND} -E make_directory ${map}
-        COMMAND ${CMAKE_COMMAND} -E rm -rf ${map}/page ${map}/leaflet
-        COMMAND ${CMAKE_COMMAND} -E create_symlink ${PROJECT_SOURCE_DIR}/resources/map ${map}/page
-        COMMAND ${CMAKE_COMMAND} -E create_symlink ${TAGSMITH_LEAFLET_DIR} ${map}/leaflet
-        COMMAND ${CMAKE_COMMAND} -E touch ${stamp}
-        DEPENDS ${TAGSMITH_NPM_STAMP}
-        VERBATIM)
-    set_property(GLOBAL APPEND PROPERTY TAGSMITH_EXIFTOOL_LINKS ${stamp})
-endfunction()
-
-tagsmith_link_map(${CMAKE_BINARY_DIR})
-tagsmith_link_map(${CMAKE_BINARY_DIR}/tests)
+# <dir>/Contents/Resources/exiftool is the bundled ExifTool's bin folder, so the script finds its
+# lib folder beside it. The map page and Leaflet sit in .../map, as links to the sources and to
+# the npm folder, so the page can be edited without a rebuild.
+foreach(dir ${CMAKE_BINARY_DIR} ${CMAKE_BINARY_DIR}/tests ${CMAKE_BINARY_DIR}/bench)
+    tagsmith_link(${dir}/Contents/Resources/exiftool ${TAGSMITH_EXIFTOOL_DIR})
+endforeach()
+foreach(dir ${CMAKE_BINARY_DIR} ${CMAKE_BINARY_DIR}/tests)
+    tagsmith_link(${dir}/Contents/Resources/map/page ${PROJECT_SOURCE_DIR}/resources/map)
+    tagsmith_link(${dir}/Contents/Resources/map/leaflet ${TAGSMITH_LEAFLET_DIR})
+endforeach()
 get_property(exiftool_links GLOBAL PROPERTY TAGSMITH_EXIFTOOL_LINKS)
 add_custom_target(bundled_packages ALL DEPENDS ${TAGSMITH_NPM_STAMP} ${exiftool_links})
 
