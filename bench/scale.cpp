@@ -32,6 +32,8 @@
 #include <QTextStream>
 #include <QThread>
 
+#include <malloc.h>
+
 #include <cstdio>
 
 namespace {

@@ -27,6 +27,7 @@ QHash<QString, TagDictionary> ExifReportParser::finish()
     m_reader.clear();
     m_reader.setNamespaceProcessing(false);
     m_failed = false;
+    m_recordCount = 0;
     m_filesDictionary.clear();
     m_currentParserDictionary.clear();
     m_currentElementName.clear();
@@ -87,9 +88,14 @@ void ExifReportParser::handleEnd(QStringView name)
 {
     if (name == descriptionElement) {
         // A record without its path parts can match no file, so it is not kept.
-        if (!m_currentDirName.isNull() && !m_currentFileName.isNull())
-            m_filesDictionary.insert(m_currentDirName + QLatin1Char('/') + m_currentFileName,
-                                     m_currentParserDictionary);
+        if (!m_currentDirName.isNull() && !m_currentFileName.isNull()) {
+            const QString path = m_currentDirName + QLatin1Char('/') + m_currentFileName;
+            ++m_recordCount;
+            if (m_recordHandler)
+                m_recordHandler(path, std::move(m_currentParserDictionary));
+            else
+                m_filesDictionary.insert(path, m_currentParserDictionary);
+        }
         m_currentParserDictionary = TagDictionary();
         m_currentDirName = QString();
         m_currentFileName = QString();

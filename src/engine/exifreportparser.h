@@ -8,6 +8,8 @@
 #include <QStringView>
 #include <QXmlStreamReader>
 
+#include <functional>
+
 // Turns ExifTool's RDF/XML report ("-g1 -X") into one tag dictionary per file, keyed by
 // "<System:Directory>/<System:FileName>" as ExifTool printed them. Fed in chunks as the output
 // arrives, so a large batch is parsed while ExifTool is still reading files.
@@ -16,13 +18,19 @@ class ExifReportParser
 public:
     ExifReportParser();
 
+    using RecordHandler = std::function<void(const QString &path, TagDictionary record)>;
+
+    // When set, each record is handed over as soon as it is complete instead of being kept
+    // for finish(), so a reader can use it while ExifTool still works on the next files.
+    void setRecordHandler(RecordHandler handler) { m_recordHandler = std::move(handler); }
+
     void addData(const QByteArray &chunk);
     // The records completed so far; a malformed report keeps those before the fault.
     // Resets the parser for the next report.
     QHash<QString, TagDictionary> finish();
 
     // Records completed so far in this report.
-    qsizetype recordCount() const { return m_filesDictionary.size(); }
+    qsizetype recordCount() const { return m_recordCount; }
 
     // True once the report turned out malformed; later data is ignored.
     bool hasFailed() const { return m_failed; }
@@ -35,6 +43,8 @@ private:
     void handleEnd(QStringView name);
 
     QXmlStreamReader m_reader;
+    RecordHandler m_recordHandler;
+    qsizetype m_recordCount = 0;
     bool m_failed = false;
     QHash<QString, TagDictionary> m_filesDictionary;
     TagDictionary m_currentParserDictionary;

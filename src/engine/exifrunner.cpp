@@ -42,12 +42,15 @@ ExifToolResult ExifRunner::executeRawCommand_FileInfo(const QStringList &paths) 
     return m_command.run(readCommandArguments(paths));
 }
 
-ExifRunner::Report ExifRunner::readReport(const QStringList &paths)
+ExifRunner::Report
+ExifRunner::readReport(const QStringList &paths,
+                       const std::function<void(const QString &, TagDictionary)> &onRecord)
 {
     // One run for the batch, unless its paths would pass the kernel's limit on the size of an
     // argument list (2 MiB on Linux); a folder of many thousand files can get there.
     constexpr qsizetype argumentBytesPerRun = 1024 * 1024;
     Report report;
+    qsizetype recordsHanded = 0;
     qsizetype first = 0;
     while (first < paths.size()) {
         qsizetype end = first;
@@ -56,12 +59,15 @@ ExifRunner::Report ExifRunner::readReport(const QStringList &paths)
             bytes += paths.at(end++).toUtf8().size() + 1;
 
         ExifReportParser parser;
+        parser.setRecordHandler(onRecord);
+        const qsizetype recordsBefore = report.records.size() + recordsHanded;
         const ExifToolResult run = m_command.run(
             readCommandArguments(paths.mid(first, end - first)), [&](QByteArrayView chunk) {
                 parser.addData(chunk.toByteArray());
                 if (m_recordsRead)
-                    m_recordsRead(report.records.size() + parser.recordCount());
+                    m_recordsRead(recordsBefore + parser.recordCount());
             });
+        recordsHanded += onRecord ? parser.recordCount() : 0;
         report.records.insert(parser.finish());
         if (run.outcome != ExifToolResult::Outcome::Finished) {
             // After a crash, what did arrive is still the files' true content.
@@ -93,14 +99,32 @@ ExifReadResult ExifRunner::loadExifInformations(const QList<ExifFileInfoPtr> &fi
     if (kept.isEmpty())
         return {};
 
-    Report report = readReport(paths);
-    if (!report.ran)
-        return report.result;
+    // A list may hold two records of one path; both get its values.
+    QHash<QString, QList<ExifFileInfoPtr>> byPath;
+    byPath.reserve(kept.size());
+    for (const ExifFileInfoPtr &file : std::as_const(kept))
+        byPath[file->fileName()].append(file);
     m_cachesFormatters = true;
     StringPool pool;
-    // Each parsed record is let go once formatted, so the batch is never held twice.
-    for (const ExifFileInfoPtr &file : std::as_const(kept))
-        file->setReadData(preformatValues(report.records.take(file->fileName()), pool));
+    // Each record is formatted as it arrives, on this thread while ExifTool works on the next
+    // files, and the parsed form is let go at once, so the batch is never held twice.
+    const Report report =
+        readReport(paths, [this, &byPath, &pool](const QString &path, TagDictionary record) {
+            const auto waiting = byPath.constFind(path);
+            if (waiting == byPath.cend())
+                return;
+            const TagDictionary formatted = preformatValues(record, pool);
+            for (const ExifFileInfoPtr &file : *waiting)
+                file->setReadData(formatted);
+            byPath.erase(waiting);
+        });
+    if (report.ran) {
+        // What ExifTool reported nothing for is still read, with nothing in it.
+        for (const QList<ExifFileInfoPtr> &files : std::as_const(byPath)) {
+            for (const ExifFileInfoPtr &file : files)
+                file->setReadData({});
+        }
+    }
     m_cachesFormatters = false;
     m_formatters.clear();
     return report.result;

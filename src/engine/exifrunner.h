@@ -76,7 +76,9 @@ private:
         ExifReadResult result;
         bool ran = false;
     };
-    Report readReport(const QStringList &paths);
+    // With a handler, records go to it as they arrive and the report keeps none.
+    Report readReport(const QStringList &paths,
+                      const std::function<void(const QString &, TagDictionary)> &onRecord = {});
 
     ExifToolCommand m_command;
     std::function<void(qsizetype)> m_recordsRead;
