@@ -60,6 +60,7 @@ public:
     bool hasDiretyFiles() const override;
     void setSaveStatus(int status) override { m_saveStatus = status; }
     bool openFile(const QString &path) override;
+    bool openFiles(const QStringList &paths) override { return addFiles(paths); }
 
     int saveStatus() const { return m_saveStatus; }
     bool isSaving() const { return m_saving; }

@@ -79,10 +79,13 @@ void TagsmithAppDelegate::applicationWillFinishLaunching(const QStringList &argu
     m_mainWindowController->window()->show();
 
     // The desktop hands over files to open as arguments (the .desktop file's %F).
+    QStringList paths;
     for (qsizetype i = 1; i < arguments.size(); ++i) {
         if (!arguments.at(i).startsWith(u'-'))
-            openFile(arguments.at(i));
+            paths.append(arguments.at(i));
     }
+    if (!paths.isEmpty() && m_mainWindowController)
+        m_mainWindowController->openFiles(paths);
 }
 
 std::unique_ptr<AppMainWindow> TagsmithAppDelegate::createMainWindow()

@@ -24,6 +24,15 @@ public:
     // 1 tells the main window that a quit waits for its close question.
     virtual void setSaveStatus(int status) = 0;
     virtual bool openFile(const QString &path) = 0;
+    // Several paths handed over at once (the command line): one add, so one note lists every
+    // path that was not added.
+    virtual bool openFiles(const QStringList &paths)
+    {
+        bool opened = false;
+        for (const QString &path : paths)
+            opened = openFile(path) || opened;
+        return opened;
+    }
 };
 
 // The application's shell: settings, start-up, the one main window, quitting, preferences and
