@@ -230,10 +230,14 @@ void MainWindowController::handleBatchRead(const FileReadQueue::Batch &batch)
     for (const ExifFileInfoPtr &file : files())
         listed.insert(file->fileName());
     for (const ExifFileInfoPtr &file : batch.files) {
-        if (file->isValid() && !listed.contains(file->fileName()))
-            valid.append(file);
-        else if (!file->isValid())
+        if (!file->isValid()) {
             rejected.append({file->fileName(), FileRejection::Reason::Unreadable});
+        } else if (const auto reason =
+                       FileAdmission::rejectionAfterReading(file->originalExifData())) {
+            rejected.append({file->fileName(), *reason});
+        } else if (!listed.contains(file->fileName())) {
+            valid.append(file);
+        }
     }
     if (!batch.result.ok()) {
         qCWarning(lcTagsmith).noquote() << batch.result.errorMessage;

@@ -133,6 +133,18 @@ FileAdmission::preprocessFilesToBeAdded(const QStringList &paths,
     return admission.result;
 }
 
+std::optional<FileRejection::Reason>
+FileAdmission::rejectionAfterReading(const TagDictionary &record)
+{
+    if (!record.contains(QStringLiteral("File:FileType")))
+        return FileRejection::Reason::Unreadable;
+    const QString mimeType = record.value(QStringLiteral("File:MIMEType"));
+    if (!mimeType.isEmpty() && !mimeType.startsWith(QStringLiteral("image/")) &&
+        mimeType != QStringLiteral("application/vnd.adobe.photoshop"))
+        return FileRejection::Reason::NotAnImage;
+    return std::nullopt;
+}
+
 QString FileAdmission::reasonText(FileRejection::Reason reason)
 {
     switch (reason) {
@@ -146,6 +158,8 @@ QString FileAdmission::reasonText(FileRejection::Reason reason)
         return QCoreApplication::translate("Localizable", "hidden");
     case FileRejection::Reason::Missing:
         return QCoreApplication::translate("Localizable", "not found");
+    case FileRejection::Reason::NotAnImage:
+        return QCoreApplication::translate("Localizable", "not an image");
     }
     return {};
 }

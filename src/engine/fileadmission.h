@@ -1,15 +1,18 @@
 #pragma once
 
+#include "engine/tagdictionary.h"
+
 #include <QList>
 #include <QString>
 #include <QStringList>
 
 #include <functional>
+#include <optional>
 
 // Why a path given to "add files" did not become a row.
 struct FileRejection
 {
-    enum class Reason { Unsupported, Unreadable, AlreadyInList, Hidden, Missing };
+    enum class Reason { Unsupported, Unreadable, AlreadyInList, Hidden, Missing, NotAnImage };
     QString path;
     Reason reason = Reason::Unsupported;
 };
@@ -34,6 +37,10 @@ public:
     static FileAdmissionResult
     preprocessFilesToBeAdded(const QStringList &paths,
                              const std::function<bool(const QString &)> &hasFileInList);
+
+    // After reading: why a file ExifTool read is no image it can write (a text file or one of
+    // unknown format named like a photo), or none.
+    static std::optional<FileRejection::Reason> rejectionAfterReading(const TagDictionary &record);
 
     // The user-visible text of a reason.
     static QString reasonText(FileRejection::Reason reason);
