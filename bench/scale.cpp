@@ -2,7 +2,7 @@
 // chunked read against one bare ExifTool read of all files, resident memory once loaded, showing
 // all files in the form, a caption edit over all files, and optionally saving them all against
 // one ExifTool batch write of the same value.
-//   bench_scale [files=10000] [--save]
+//   bench_scale [files=10000] [--save] [--one-run]
 //
 // The files are copies of one picture written once by ExifTool; each copy gets its own serial
 // number, caption, title and identifiers by overwriting a placeholder of the same length in the
@@ -10,6 +10,7 @@
 
 #include "app/filelistmodel.h"
 #include "app/filelistview.h"
+#include "app/filereadqueue.h"
 #include "app/mainwindowcontroller.h"
 #include "catalogue/exiffieldscontroller.h"
 #include "editors/configurationviewcontroller.h"
@@ -274,9 +275,10 @@ int main(int argc, char *argv[])
     QApplication app(argc, argv);
     QStringList args = app.arguments().mid(1);
     const bool save = args.removeAll(QStringLiteral("--save")) > 0;
+    const bool oneRun = args.removeAll(QStringLiteral("--one-run")) > 0;
     const int count = args.isEmpty() ? 10000 : args.first().toInt();
     if (count < 1) {
-        std::printf("usage: bench_scale [files=10000] [--save]\n");
+        std::printf("usage: bench_scale [files=10000] [--save] [--one-run]\n");
         return 2;
     }
 
@@ -314,6 +316,28 @@ int main(int argc, char *argv[])
     std::fflush(stdout);
 
     ExifFieldsController::defaultInstance()->initializeConfigurations();
+    if (oneRun) {
+        // Our read without the window and without chunks, to tell the chunks' share apart.
+        QList<ExifFileInfoPtr> files;
+        for (const QString &path : paths)
+            files.append(std::make_shared<ExifFileInfo>(path));
+        timer.restart();
+        ExifRunner(exifTool).loadExifInformations(files);
+        std::printf("one ExifRunner read of all files: %.0f ms, ratio %.3f\n",
+                    timer.nsecsElapsed() / 1e6, timer.nsecsElapsed() / 1e6 / bare);
+        std::fflush(stdout);
+        // The same chunks as the window's, without the window.
+        FileReadQueue queue;
+        files.clear();
+        for (const QString &path : paths)
+            files.append(std::make_shared<ExifFileInfo>(path));
+        timer.restart();
+        queue.enqueue({files, {}, {}});
+        queue.waitForIdle(3600 * 1000);
+        std::printf("chunked read without the window: %.0f ms, ratio %.3f\n",
+                    timer.nsecsElapsed() / 1e6, timer.nsecsElapsed() / 1e6 / bare);
+        std::fflush(stdout);
+    }
     MainWindowController controller;
     controller.window()->resize(1200, 800);
     controller.window()->show();
@@ -340,6 +364,9 @@ int main(int argc, char *argv[])
     std::printf("resident: %.1f MB before adding, %.1f MB with %d files (limit 300); "
                 "%.1f KiB per file\n",
                 rssBefore / 1024.0, rssAfter / 1024.0, count, double(rssAfter - rssBefore) / count);
+    // What is live, apart from what the allocator keeps after the read's short-lived texts.
+    const struct mallinfo2 heap = mallinfo2();
+    std::printf("heap in use: %.1f MB\n", double(heap.uordblks + heap.hblkhd) / (1024 * 1024));
 
     ConfigurationViewController &form = *controller.configController();
     form.setExifFiles({});

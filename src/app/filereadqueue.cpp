@@ -11,7 +11,7 @@ FileReadQueue::FileReadQueue(QObject *parent)
     connect(&m_watcher, &QFutureWatcher<ExifReadResult>::finished, this,
             &FileReadQueue::handleFinished);
     // Polled rather than signalled per record: ExifTool reports hundreds of files a second.
-    m_progressTimer.setInterval(150);
+    m_progressTimer.setInterval(250);
     connect(&m_progressTimer, &QTimer::timeout, this, &FileReadQueue::reportProgress);
 }
 

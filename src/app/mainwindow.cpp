@@ -111,6 +111,13 @@ QWidget *MainWindow::buildReadingBar()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(6);
     m_readingLabel = new QLabel(m_readingBar);
+    // A width that fits the longest count, so a new count repaints the label, not the window.
+    m_readingLabel->setFixedWidth(
+        m_readingLabel->fontMetrics().horizontalAdvance(
+            QCoreApplication::translate("Localizable", "Reading %1 of %2 files…")
+                .arg(999999)
+                .arg(999999)) +
+        8);
     m_readingProgress = new QProgressBar(m_readingBar);
     m_readingProgress->setTextVisible(false);
     m_readingProgress->setMaximumHeight(8);

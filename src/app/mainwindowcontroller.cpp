@@ -277,10 +277,17 @@ void MainWindowController::handleReadingChanged(bool busy)
 
 void MainWindowController::selectRows(const QList<int> &rows)
 {
+    // One range per run of neighbouring rows: a selection of thousands of single rows makes
+    // every later selection query slow.
+    QList<int> sorted = rows;
+    std::sort(sorted.begin(), sorted.end());
     QItemSelection selection;
-    for (const int row : rows) {
-        const QModelIndex index = m_model->index(row);
-        selection.select(index, index);
+    for (qsizetype i = 0; i < sorted.size();) {
+        qsizetype last = i;
+        while (last + 1 < sorted.size() && sorted.at(last + 1) <= sorted.at(last) + 1)
+            ++last;
+        selection.select(m_model->index(sorted.at(i)), m_model->index(sorted.at(last)));
+        i = last + 1;
     }
     m_filesTable->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
     if (!rows.isEmpty())
