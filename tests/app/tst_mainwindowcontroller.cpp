@@ -21,7 +21,6 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QMessageBox>
-#include <QSignalSpy>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
@@ -33,42 +32,30 @@ namespace {
 
 const QString Artist = u"IFD0:Artist"_s;
 
-// Records what the window asks of the runner; the test plays the runner's finishProcessing.
+QStringList names(const QList<ExifFileInfoPtr> &files)
+{
+    QStringList result;
+    for (const ExifFileInfoPtr &file : files)
+        result.append(QFileInfo(file->fileName()).fileName());
+    return result;
+}
+
+// Records what the window asks of the runner ("kind options files"); the test plays
+// the runner's finishProcessing.
 class FakeRunner : public ExifBackgroundRunner
 {
 public:
-    struct Call
-    {
-        QString kind;
-        QStringList files;
-        quint32 options = 0;
-    };
-
     qsizetype saveFiles(const QList<ExifFileInfoPtr> &files, quint32 options) override
     {
-        return record(u"save"_s, files, options);
+        calls << u"save %1 %2"_s.arg(options).arg(names(files).join(u','));
+        return files.size();
     }
     qsizetype removeAllMetadata(const QList<ExifFileInfoPtr> &files, quint32 options) override
     {
-        return record(u"remove"_s, files, options);
-    }
-    qsizetype removeMakerNotesFromFiles(const QList<ExifFileInfoPtr> &files,
-                                        quint32 options) override
-    {
-        return record(u"makernotes"_s, files, options);
-    }
-
-    QList<Call> calls;
-
-private:
-    qsizetype record(const QString &kind, const QList<ExifFileInfoPtr> &files, quint32 options)
-    {
-        Call call{kind, {}, options};
-        for (const ExifFileInfoPtr &file : files)
-            call.files.append(QFileInfo(file->fileName()).fileName());
-        calls.append(call);
+        calls << u"remove %1 %2"_s.arg(options).arg(names(files).join(u','));
         return files.size();
     }
+    QStringList calls;
 };
 
 QMessageBox *visibleBox(QWidget *window)
@@ -83,23 +70,13 @@ QMessageBox *visibleBox(QWidget *window)
 bool clickButton(QWidget *window, const QString &text)
 {
     QMessageBox *box = visibleBox(window);
-    if (!box)
-        return false;
-    for (QAbstractButton *button : box->buttons()) {
+    for (QAbstractButton *button : box ? box->buttons() : QList<QAbstractButton *>()) {
         if (button->text() == text) {
             button->click();
             return true;
         }
     }
     return false;
-}
-
-QStringList names(const QList<ExifFileInfoPtr> &files)
-{
-    QStringList result;
-    for (const ExifFileInfoPtr &file : files)
-        result.append(QFileInfo(file->fileName()).fileName());
-    return result;
 }
 
 } // namespace
@@ -129,11 +106,9 @@ class TestMainWindowController : public QObject
     {
         const QString path = m_dir.filePath(name);
         QDir().mkpath(QFileInfo(path).path());
-        const QString failure = Fixtures::makeImage(path, arguments);
-        return failure.isEmpty() ? path : QString();
+        return Fixtures::makeImage(path, arguments).isEmpty() ? path : QString();
     }
 
-    // Adds and waits for the read; the paths must be new.
     bool add(const QStringList &paths)
     {
         return m_controller->addFiles(paths) && m_controller->waitForPendingReads();
@@ -163,7 +138,6 @@ private Q_SLOTS:
     void closeAnswers_data()
     {
         QTest::addColumn<bool>("quit");
-        QTest::addColumn<bool>("modified");
         QTest::addColumn<QString>("answer");
         QTest::addColumn<bool>("saveFails");
         QTest::addColumn<bool>("closed");
@@ -171,55 +145,48 @@ private Q_SLOTS:
         QTest::addColumn<int>("status");
         const QString none, save = u"Save"_s, cancel = u"Cancel"_s, dontSave = u"Don't Save"_s;
         // clang-format off
-        QTest::newRow("clean close") << false << false << none << false << true << QList<bool>{} << 0;
-        QTest::newRow("clean quit") << true << false << none << false << true << QList<bool>{true} << 1;
-        QTest::newRow("don't save, close") << false << true << dontSave << false << true << QList<bool>{} << 0;
-        QTest::newRow("don't save, quit") << true << true << dontSave << false << false << QList<bool>{true} << 1;
-        QTest::newRow("cancel, close") << false << true << cancel << false << false << QList<bool>{} << 0;
-        QTest::newRow("cancel, quit") << true << true << cancel << false << false << QList<bool>{false} << 0;
-        QTest::newRow("save, close") << false << true << save << false << true << QList<bool>{} << 0;
-        QTest::newRow("save, quit") << true << true << save << false << false << QList<bool>{true} << 3;
+        QTest::newRow("clean close") << false << none << false << true << QList<bool>{} << 0;
+        QTest::newRow("clean quit") << true << none << false << true << QList<bool>{true} << 1;
+        QTest::newRow("don't save, close") << false << dontSave << false << true << QList<bool>{} << 0;
+        QTest::newRow("don't save, quit") << true << dontSave << false << false << QList<bool>{true} << 1;
+        QTest::newRow("cancel, close") << false << cancel << false << false << QList<bool>{} << 0;
+        QTest::newRow("cancel, quit") << true << cancel << false << false << QList<bool>{false} << 0;
+        QTest::newRow("save, close") << false << save << false << true << QList<bool>{} << 0;
+        QTest::newRow("save, quit") << true << save << false << false << QList<bool>{true} << 3;
         // "Don't Exit" has always exited: the kept quirk of the failed-save alert.
-        QTest::newRow("save fails, close") << false << true << save << true << true << QList<bool>{} << 0;
-        QTest::newRow("save fails, quit") << true << true << save << true << false << QList<bool>{true} << 3;
+        QTest::newRow("save fails, close") << false << save << true << true << QList<bool>{} << 0;
+        QTest::newRow("save fails, quit") << true << save << true << false << QList<bool>{true} << 3;
         // clang-format on
     }
 
     void closeAnswers()
     {
         QFETCH(bool, quit);
-        QFETCH(bool, modified);
         QFETCH(QString, answer);
+        const bool modified = !answer.isEmpty();
         QFETCH(bool, saveFails);
 
         MainWindowController &window = controller();
         const QString path = image(u"close.jpg"_s);
         QVERIFY(add({path}));
-        const ExifFileInfoPtr file = window.files().value(0);
-        QVERIFY(file);
         if (modified)
-            file->setExifValue(Artist, u"Bob"_s);
+            window.files().value(0)->setExifValue(Artist, u"Bob"_s);
         if (quit)
             window.setSaveStatus(MainWindowController::QuitWaiting);
 
         window.window()->close();
         QCOMPARE(visibleBox(window.window()) != nullptr, modified);
-        if (!answer.isEmpty()) {
+        if (modified) {
             QVERIFY(clickButton(window.window(), answer));
             if (answer == u"Save"_s) {
-                QCOMPARE(m_runner->calls.size(), 1);
-                QCOMPARE(m_runner->calls.first().kind, u"save"_s);
-                QCOMPARE(m_runner->calls.first().files, QStringList{u"close.jpg"_s});
-                QCOMPARE(m_runner->calls.first().options, 1u);
+                QCOMPARE(m_runner->calls, QStringList{u"save 1 close.jpg"_s});
                 QVERIFY(window.isSaving());
-                QHash<QString, ErrorMessagesPtr> results;
                 auto messages = std::make_shared<ErrorMessages>(path);
                 if (saveFails)
                     messages->addError(u"Error: disk full"_s);
                 else
                     messages->addWarning(u"Warning: minor"_s);
-                results.insert(path, messages);
-                window.finishProcessing(results);
+                window.finishProcessing({{path, messages}});
                 if (saveFails)
                     QVERIFY(clickButton(window.window(), u"Don't Exit"_s));
             }
@@ -237,24 +204,19 @@ private Q_SLOTS:
         const ExifFileInfoPtr file = window.files().value(0);
         file->setExifValue(Artist, u"Bob"_s);
         window.processFiles();
-        QVERIFY(window.isSaving() && window.progressPanel());
-
+        QVERIFY(window.isSaving());
         window.setSaveStatus(MainWindowController::QuitWaiting);
         window.window()->close();
-        QVERIFY(window.window()->isVisible());
-        QVERIFY(!visibleBox(window.window()));
-
+        QVERIFY(window.window()->isVisible() && !visibleBox(window.window()));
         file->setReadData(file->exifData()); // what a successful save leaves
         window.finishProcessing({});
-        QVERIFY(!window.isSaving());
-        QVERIFY(!window.window()->isVisible());
+        QVERIFY(!window.isSaving() && !window.window()->isVisible());
         QCOMPARE(m_replies, QList<bool>{true});
     }
 
     void addingFolderTakesSupportedFilesAndSelectsThem()
     {
         MainWindowController &window = controller();
-        // The first one comes by drag and drop.
         const QString first = image(u"first.jpg"_s);
         QMimeData dropped;
         dropped.setUrls({QUrl::fromLocalFile(first)});
@@ -262,36 +224,28 @@ private Q_SLOTS:
         QDragEnterEvent enter(QPoint(20, 20), Qt::CopyAction, &dropped, Qt::LeftButton,
                               Qt::NoModifier);
         QCoreApplication::sendEvent(window.filesTable()->viewport(), &enter);
-        QVERIFY(enter.isAccepted());
         QCoreApplication::sendEvent(window.filesTable()->viewport(), &drop);
-        QVERIFY(drop.isAccepted());
-        QVERIFY(window.waitForPendingReads());
+        QVERIFY(enter.isAccepted() && drop.isAccepted() && window.waitForPendingReads());
         QCOMPARE(names(window.files()), QStringList{u"first.jpg"_s});
-        const QString folder = m_dir.filePath(u"shoot"_s);
-        QVERIFY(!image(u"shoot/a.jpg"_s).isEmpty());
-        QVERIFY(!image(u"shoot/deeper/B.JPG"_s).isEmpty());
+        QVERIFY(!image(u"shoot/a.jpg"_s).isEmpty() && !image(u"shoot/deeper/B.JPG"_s).isEmpty());
         QVERIFY(!image(u"shoot/c.png"_s, {}).isEmpty());
         QFile notes(m_dir.filePath(u"shoot/notes.txt"_s));
         QVERIFY(notes.open(QIODevice::WriteOnly) && notes.write("hello") == 5);
         notes.close();
 
-        QVERIFY(add({folder}));
-        QStringList rows = names(window.files());
-        QCOMPARE(rows.size(), 4);
+        QVERIFY(add({m_dir.filePath(u"shoot"_s)}));
+        const QStringList rows = names(window.files()), added = rows.mid(1);
+        QStringList sorted = added;
+        sorted.sort();
         QCOMPARE(rows.first(), u"first.jpg"_s);
-        QStringList added = rows.mid(1);
-        added.sort();
-        QCOMPARE(added, (QStringList{u"B.JPG"_s, u"a.jpg"_s, u"c.png"_s}));
-        QCOMPARE(names(window.selectedFiles()), rows.mid(1));
-        QCOMPARE(names(window.configController()->exifFiles()), rows.mid(1));
+        QCOMPARE(sorted, (QStringList{u"B.JPG"_s, u"a.jpg"_s, u"c.png"_s}));
+        QCOMPARE(names(window.selectedFiles()), added);
+        QCOMPARE(names(window.configController()->exifFiles()), added);
         const QList<FileRejection> rejected = window.addFilesNote()->rejections();
         QCOMPARE(rejected.size(), 1);
-        QCOMPARE(QFileInfo(rejected.first().path).fileName(), u"notes.txt"_s);
         QCOMPARE(rejected.first().reason, FileRejection::Reason::Unsupported);
 
-        // The same file again keeps its one row, and the user is told why.
-        QVERIFY(!window.addFiles({first}));
-        QVERIFY(window.waitForPendingReads());
+        QVERIFY(!window.addFiles({first}) && window.waitForPendingReads());
         QCOMPARE(window.files().size(), 4);
         QCOMPARE(window.addFilesNote()->rejections().value(0).reason,
                  FileRejection::Reason::AlreadyInList);
@@ -318,7 +272,6 @@ private Q_SLOTS:
         const QStringList tags{u"-Artist=Ann"_s, u"-Software=Editor"_s};
         QVERIFY(add({image(u"one.jpg"_s, tags), image(u"two.jpg"_s, tags)}));
         window.selectRows({1});
-        QCOMPARE(window.model()->data(window.model()->index(1), FileInfoCell::ModifiedRole), false);
         window.menus()->configsMenu()->actions().at(1)->trigger();
 
         const ExifFileInfoPtr one = window.files().at(0), two = window.files().at(1);
@@ -326,20 +279,15 @@ private Q_SLOTS:
         QVERIFY(!two->hasExifValue(u"IFD0:Software"_s));
         QCOMPARE(one->exifValue(Artist), u"Ann"_s);
         const auto modified = [&window](int row) {
-            return window.model()->data(window.model()->index(row), FileInfoCell::ModifiedRole);
+            return window.model()->index(row).data(FileInfoCell::ModifiedRole).toBool();
         };
-        QCOMPARE(modified(0), false);
-        QCOMPARE(modified(1), true);
-        QVERIFY(window.window()->isWindowModified());
+        QVERIFY(!modified(0) && modified(1) && window.window()->isWindowModified());
 
-        // An edit elsewhere reaches the list through the update notification.
-        QSignalSpy changed(window.model(), &QAbstractItemModel::dataChanged);
+        // An edit made elsewhere reaches the list only through the update notification.
         one->setExifValue(Artist, u"Carl"_s);
         ExifFilesUpdateCenter::instance().post(Artist, {one}, u"Carl"_s, {one}, nullptr);
-        QCOMPARE(changed.size(), 1);
-        QCOMPARE(modified(0), true);
+        QVERIFY(modified(0));
 
-        // A preset saved later joins the menu in its place.
         m_store->saveConfiguration(
             std::make_shared<ExifConfiguration>(m_store->findUnusedNewIdentifier(), u"0"_s));
         QCOMPARE(presetTitles(), (QStringList{u"0"_s, u"a"_s, u"b"_s, u"c"_s}));
@@ -350,47 +298,40 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("files");
         QTest::addColumn<QString>("informativeText");
         QTest::addColumn<QString>("answer");
-        QTest::addColumn<QStringList>("removed");
+        QTest::addColumn<QStringList>("calls");
         const QString plain = u"All tags will be removed imediatelly."_s;
         const QString strong =
             StringTables::instance().localizedString(u"REMOVE_ALL_METADATA_WARNING2"_s);
         const QString remove = u"Remove All Metadata"_s;
-        QTest::newRow("only PNG: nothing happens")
-            << QStringList{u"p.png"_s} << QString() << QString() << QStringList();
-        QTest::newRow("JPEG and PNG: both go") << QStringList{u"j.jpg"_s, u"p.png"_s} << plain
-                                               << remove << QStringList{u"j.jpg"_s, u"p.png"_s};
-        QTest::newRow("TIFF gets the stronger warning")
-            << QStringList{u"t.tif"_s} << strong << remove << QStringList{u"t.tif"_s};
-        QTest::newRow("declined") << QStringList{u"j.jpg"_s} << plain << u"Don't Remove"_s
-                                  << QStringList();
+        const QStringList both{u"j.jpg"_s, u"p.png"_s}, none;
+        // clang-format off
+        QTest::newRow("PNG only") << QStringList{u"p.png"_s} << QString() << QString() << none;
+        QTest::newRow("JPEG+PNG") << both << plain << remove << QStringList{u"remove 1 j.jpg,p.png"_s};
+        QTest::newRow("TIFF") << QStringList{u"t.tif"_s} << strong << remove << QStringList{u"remove 1 t.tif"_s};
+        QTest::newRow("declined") << both << plain << u"Don't Remove"_s << none;
+        // clang-format on
     }
 
     void removeAllMetadata()
     {
         QFETCH(QStringList, files);
         QFETCH(QString, informativeText);
-        QFETCH(QStringList, removed);
         MainWindowController &window = controller();
         QStringList paths;
         for (const QString &name : std::as_const(files))
             paths.append(image(name, {}));
         QVERIFY(add(paths));
-        QCOMPARE(window.selectedFiles().size(), files.size());
 
         window.removeAllMetadata();
         QMessageBox *sheet = visibleBox(window.window());
         QCOMPARE(sheet ? sheet->informativeText() : QString(), informativeText);
         if (sheet) {
-            QCOMPARE(sheet->text(), u"Do you want to remove all metadata?"_s);
             QFETCH(QString, answer);
             QVERIFY(clickButton(window.window(), answer));
         }
-        QCOMPARE(m_runner->calls.size(), removed.isEmpty() ? 0 : 1);
-        if (removed.isEmpty())
+        QTEST(m_runner->calls, "calls");
+        if (m_runner->calls.isEmpty())
             return;
-        QCOMPARE(m_runner->calls.first().kind, u"remove"_s);
-        QCOMPARE(m_runner->calls.first().files, removed);
-        QCOMPARE(m_runner->calls.first().options, 1u);
         QVERIFY(window.isSaving() && window.progressPanel());
         window.finishProcessing({});
         QVERIFY(!window.isSaving());
@@ -418,14 +359,8 @@ private Q_SLOTS:
         fresh->setReadData({{Artist, u"Ann"_s}});
         fresh->setExifValue(Artist, u"Bob"_s);
         model.replaceFile(1, fresh);
-        const QModelIndex row = model.index(1);
-        QCOMPARE(row.data(Qt::DisplayRole), u"IMG_2.jpg"_s);
-        QCOMPARE(row.data(FileInfoCell::SubtitleRole), u"/photos/day 2"_s);
-        QCOMPARE(row.data(FileInfoCell::PathRole), fresh->fileName());
-        QCOMPARE(row.data(FileInfoCell::ModifiedRole), true);
+        QCOMPARE(model.index(1).data(FileInfoCell::ModifiedRole), true);
         QCOMPARE(model.index(0).data(FileInfoCell::ModifiedRole), false);
-        model.setFiles({});
-        QCOMPARE(model.rowCount(), 0);
     }
 };
 
