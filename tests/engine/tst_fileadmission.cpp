@@ -69,36 +69,31 @@ private Q_SLOTS:
 
         // Entries come in byte order, so hidden ones (".") come first and capitals before
         // lower case; the folder "b" is expanded in its place.
-        const QStringList folder{u"accepted @/d/PHOTO.JPG"_qs,
-                                 u"accepted @/d/b/x.heic"_qs,
-                                 u"accepted @/d/y.CR3"_qs,
-                                 u"hidden @/d/.cache"_qs,
-                                 u"hidden @/d/.hidden.jpg"_qs,
-                                 u"unsupported type @/d/3fr/old.3fr"_qs,
-                                 u"not found @/d/b/dangling.jpg"_qs,
-                                 u"unsupported type @/d/b/pipe.jpg"_qs,
-                                 u"unsupported type @/d/notes.txt"_qs,
-                                 u"already in the list @/d/z.jpg"_qs};
+        const QStringList folder =
+            QStringLiteral(
+                "accepted @/d/PHOTO.JPG|accepted @/d/b/x.heic|accepted @/d/y.CR3|hidden @/d/.cache|"
+                "hidden @/d/.hidden.jpg|unsupported type @/d/3fr/old.3fr|"
+                "not found @/d/b/dangling.jpg|unsupported type @/d/b/pipe.jpg|"
+                "unsupported type @/d/notes.txt|already in the list @/d/z.jpg")
+                .split(u'|');
+        const QStringList none;
         QTest::newRow("folder") << QStringList{u"@/d"_qs} << QStringList{u"@/d/z.jpg"_qs} << folder;
-        QTest::newRow("folder with a trailing slash joins with one slash")
+        QTest::newRow("trailing slash")
             << QStringList{u"@/d/"_qs} << QStringList{u"@/d/z.jpg"_qs} << folder;
-        QTest::newRow("paths one by one keep the order given")
-            << QStringList{u"@/d/y.CR3"_qs, u"@/nothing.jpg"_qs, u"@/d/PHOTO.JPG"_qs,
-                           u"@/d/y.CR3"_qs, u"@/d/notes.txt"_qs, u"@/d/.hidden.jpg"_qs,
-                           u"@/d/z.jpg"_qs}
-            << QStringList{}
-            << QStringList{u"accepted @/d/y.CR3"_qs,
-                           u"accepted @/d/PHOTO.JPG"_qs,
-                           u"accepted @/d/.hidden.jpg"_qs,
-                           u"accepted @/d/z.jpg"_qs,
-                           u"not found @/nothing.jpg"_qs,
-                           u"already in the list @/d/y.CR3"_qs,
-                           u"unsupported type @/d/notes.txt"_qs};
-        QTest::newRow("a file and then its folder")
-            << QStringList{u"@/d/b/x.heic"_qs, u"@/d/b"_qs, u"@/d/b"_qs} << QStringList{}
-            << QStringList{u"accepted @/d/b/x.heic"_qs, u"not found @/d/b/dangling.jpg"_qs,
-                           u"unsupported type @/d/b/pipe.jpg"_qs,
-                           u"already in the list @/d/b/x.heic"_qs, u"already in the list @/d/b"_qs};
+        QTest::newRow("one by one, in order")
+            << u"@/d/y.CR3 @/nothing.jpg @/d/PHOTO.JPG @/d/y.CR3 @/d/notes.txt @/d/.hidden.jpg "
+               u"@/d/z.jpg"_qs.split(u' ')
+            << none
+            << QStringLiteral("accepted @/d/y.CR3|accepted @/d/PHOTO.JPG|accepted @/d/.hidden.jpg|"
+                              "accepted @/d/z.jpg|not found @/nothing.jpg|"
+                              "already in the list @/d/y.CR3|unsupported type @/d/notes.txt")
+                   .split(u'|');
+        QTest::newRow("file, then its folder")
+            << QStringList{u"@/d/b/x.heic"_qs, u"@/d/b"_qs, u"@/d/b"_qs} << none
+            << QStringLiteral("accepted @/d/b/x.heic|not found @/d/b/dangling.jpg|"
+                              "unsupported type @/d/b/pipe.jpg|already in the list @/d/b/x.heic|"
+                              "already in the list @/d/b")
+                   .split(u'|');
     }
 
     void admitsWithReasons()
@@ -119,19 +114,16 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("path");
         QTest::addColumn<bool>("isSupported");
-        QTest::newRow("capitals") << u"/a/IMG_1.CR3"_qs << true;
-        QTest::newRow("phone") << u"/a/IMG_1.HEIC"_qs << true;
-        QTest::newRow("web") << u"/a/b.jxl"_qs << true;
+        QTest::newRow("capitals") << u"/a/IMG_1.HEIC"_qs << true;
         QTest::newRow("no extension") << u"/a/jpg"_qs << false;
-        QTest::newRow("dot in folder only") << u"/a.jpg/readme"_qs << false;
+        QTest::newRow("dot in folder") << u"/a.jpg/readme"_qs << false;
         QTest::newRow("sidecar") << u"/a/IMG_1.xmp"_qs << false;
     }
 
     void supportsByLowerCasedExtension()
     {
         QFETCH(QString, path);
-        QFETCH(bool, isSupported);
-        QCOMPARE(FileAdmission::supportsFile(path), isSupported);
+        QTEST(FileAdmission::supportsFile(path), "isSupported");
     }
 
     // A file admitted that ExifTool cannot write would fail only at saving.
@@ -153,7 +145,6 @@ private Q_SLOTS:
         if (QStandardPaths::findExecutable(u"setpriv"_qs).isEmpty())
             QSKIP("setpriv (util-linux) is not installed");
         QTemporaryDir dir;
-        QVERIFY(dir.isValid());
         const QString root = dir.path();
         QVERIFY(QFile::setPermissions(root, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
                                                 QFile::ReadOther | QFile::ExeOther));
@@ -165,8 +156,7 @@ private Q_SLOTS:
         QProcess process;
         process.start(u"setpriv"_qs, {u"--reuid=nobody"_qs, u"--regid=nogroup"_qs,
                                       u"--clear-groups"_qs, AdmitPaths, root});
-        QVERIFY(process.waitForFinished(30000));
-        if (process.exitCode() != 0)
+        if (!process.waitForFinished(30000) || process.exitCode() != 0)
             QSKIP(qPrintable(u"Cannot run as nobody here: "_qs +
                              QString::fromLocal8Bit(process.readAllStandardError())));
         const QStringList lines =
