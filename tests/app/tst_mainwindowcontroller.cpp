@@ -345,15 +345,15 @@ private Q_SLOTS:
                                         QAbstractItemModelTester::FailureReportingMode::QtTest);
         QList<ExifFileInfoPtr> files;
         for (int i = 0; i < 5; ++i) {
-            files.append(std::make_shared<ExifFileInfo>(u"/photos/day %1/IMG_%1.jpg"_s.arg(i)));
+            files.append(std::make_shared<ExifFileInfo>(u"/photos/IMG_%1.jpg"_s.arg(i)));
             files.last()->setReadData({{Artist, u"Ann"_s}});
         }
         model.appendFiles(files.mid(0, 3));
         model.appendFiles(files.mid(3));
-        model.removeRowsAt({3, 0, 3, 9});
+        model.removeRowsAt({3, 0, 3, 9}); // duplicates and rows past the end are ignored
         QCOMPARE(names(model.files()),
                  (QStringList{u"IMG_1.jpg"_s, u"IMG_2.jpg"_s, u"IMG_4.jpg"_s}));
-        QCOMPARE(model.rowOf(u"/photos/day 4/IMG_4.jpg"_s), 2);
+        QCOMPARE(model.rowOf(u"/photos/IMG_4.jpg"_s), 2);
 
         auto fresh = std::make_shared<ExifFileInfo>(files.at(2)->fileName());
         fresh->setReadData({{Artist, u"Ann"_s}});

@@ -110,10 +110,8 @@ private Q_SLOTS:
 
         const int none = -1, date = DateEditorTypeDate, dateTime = DateEditorTypeDateTime;
         // clang-format off
-        QTest::newRow("fraction") << 6 << true << false << u"TextEditor"_qs << none;
         QTest::newRow("enum") << 4 << true << false << u"EnumEditor"_qs << none;
         QTest::newRow("read-only date") << 2 << false << true << u"ReadonlyEditor"_qs << none;
-        QTest::newRow("multi-enum") << 5 << true << false << u"MultiEnumEditor"_qs << none;
         QTest::newRow("strings") << 9 << true << true << u"StringsEditor"_qs << none;
         QTest::newRow("datetime, files") << 3 << true << false << u"DateEditor"_qs << dateTime;
         QTest::newRow("date, presets") << 2 << true << true << u"DateOffsetEditor"_qs << date;
