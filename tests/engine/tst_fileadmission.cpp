@@ -1,5 +1,8 @@
 #include "engine/fileadmission.h"
 
+#include "engine/exiffileinfo.h"
+#include "engine/exifrunner.h"
+
 #include "../support/fixtures.h"
 
 #include <QDir>
@@ -124,6 +127,33 @@ private Q_SLOTS:
     {
         QFETCH(QString, path);
         QTEST(FileAdmission::supportsFile(path), "isSupported");
+    }
+
+    // Named like photos; what ExifTool finds inside decides.
+    void contentDecidesAfterReading_data()
+    {
+        QTest::addColumn<QByteArray>("content"); // empty: a real JPEG
+        QTest::addColumn<int>("reason");         // -1: kept
+        QTest::newRow("photo") << QByteArray() << -1;
+        QTest::newRow("text") << QByteArray("not an image\n")
+                              << int(FileRejection::Reason::NotAnImage);
+        QTest::newRow("unknown bytes") << QByteArray("\x00\x01\xfe\xff", 4).repeated(1024)
+                                       << int(FileRejection::Reason::Unreadable);
+    }
+
+    void contentDecidesAfterReading()
+    {
+        QFETCH(QByteArray, content);
+        QTemporaryDir dir;
+        const QString path = dir.filePath(u"IMG_1.jpg"_qs);
+        if (content.isEmpty())
+            QVERIFY(Fixtures::makeImage(path).isEmpty());
+        else
+            QVERIFY(Fixtures::writeBytes(path, content));
+        auto file = std::make_shared<ExifFileInfo>(path);
+        QVERIFY(ExifRunner().loadExifInformation(file).ok());
+        const auto reason = FileAdmission::rejectionAfterReading(file->originalExifData());
+        QTEST(reason ? int(*reason) : -1, "reason");
     }
 
     // A file admitted that ExifTool cannot write would fail only at saving.
