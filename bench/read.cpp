@@ -7,6 +7,8 @@
 #include "engine/exifrunner.h"
 #include "catalogue/exiffieldscontroller.h"
 
+#include "benchexiftool.h"
+
 #include <QColor>
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -23,17 +25,6 @@
 namespace {
 
 const QString exifTool = QStringLiteral(TAGSMITH_BENCH_EXIFTOOL);
-
-bool runExifTool(const QStringList &arguments, QByteArray *output = nullptr)
-{
-    QProcess process;
-    process.start(exifTool, arguments);
-    if (!process.waitForStarted(-1) || !process.waitForFinished(-1))
-        return false;
-    if (output)
-        *output = process.readAllStandardOutput();
-    return process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
-}
 
 // One picture with the metadata a camera and a photographer typically leave, copied N times.
 QStringList makeFiles(const QString &directory, int count)

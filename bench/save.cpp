@@ -11,6 +11,8 @@
 #include "engine/exifrunner.h"
 #include "values/usersettings.h"
 
+#include "benchexiftool.h"
+
 #include <QColor>
 #include <QCoreApplication>
 #include <QDir>
@@ -33,16 +35,6 @@
 namespace {
 
 const QString exifTool = QStringLiteral(TAGSMITH_BENCH_EXIFTOOL);
-
-bool runExifTool(const QStringList &arguments)
-{
-    QProcess process;
-    process.setStandardOutputFile(QProcess::nullDevice());
-    process.start(exifTool, arguments);
-    if (!process.waitForStarted(-1) || !process.waitForFinished(-1))
-        return false;
-    return process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
-}
 
 bool makeTemplate(const QString &path)
 {

@@ -20,6 +20,8 @@
 #include "values/usersettings.h"
 #include "windows/fileinfocell.h"
 
+#include "benchexiftool.h"
+
 #include <QApplication>
 #include <QColor>
 #include <QElapsedTimer>
@@ -42,16 +44,6 @@ namespace {
 const QString exifTool = QStringLiteral(TAGSMITH_BENCH_EXIFTOOL);
 const QByteArray placeholder = QByteArrayLiteral("QQQQQQQQ");
 const QString caption = QStringLiteral("Evening light over the harbour");
-
-bool runExifTool(const QStringList &arguments)
-{
-    QProcess process;
-    process.setStandardOutputFile(QProcess::nullDevice());
-    process.start(exifTool, arguments);
-    if (!process.waitForStarted(-1) || !process.waitForFinished(-1))
-        return false;
-    return process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
-}
 
 // Tags a camera, a phone's GPS and a photographer's cataloguing leave; with the XMP mirrors of
 // the EXIF tags and ExifTool's own File, JFIF and Composite tags, about 215 per file.
