@@ -56,16 +56,27 @@ ExifFileInfoPtr FileListModel::fileAt(int row) const
 
 int FileListModel::rowOf(const QString &path) const
 {
-    const auto it =
-        std::find_if(m_files.cbegin(), m_files.cend(),
-                     [&path](const ExifFileInfoPtr &f) { return f->fileName() == path; });
-    return it == m_files.cend() ? -1 : int(it - m_files.cbegin());
+    return rows().value(path, -1);
+}
+
+const QHash<QString, int> &FileListModel::rows() const
+{
+    if (!m_rowsValid) {
+        m_rows.clear();
+        m_rows.reserve(m_files.size());
+        // The first row wins, as a search from the top would find it.
+        for (int row = int(m_files.size()) - 1; row >= 0; --row)
+            m_rows.insert(m_files.at(row)->fileName(), row);
+        m_rowsValid = true;
+    }
+    return m_rows;
 }
 
 void FileListModel::setFiles(const QList<ExifFileInfoPtr> &files)
 {
     beginResetModel();
     m_files = files;
+    m_rowsValid = false;
     endResetModel();
 }
 
@@ -76,6 +87,7 @@ void FileListModel::appendFiles(const QList<ExifFileInfoPtr> &files)
     const int first = int(m_files.size());
     beginInsertRows(QModelIndex(), first, first + int(files.size()) - 1);
     m_files.append(files);
+    m_rowsValid = false;
     endInsertRows();
 }
 
@@ -84,6 +96,7 @@ void FileListModel::replaceFile(int row, const ExifFileInfoPtr &file)
     if (row < 0 || row >= m_files.size() || !file)
         return;
     m_files[row] = file;
+    m_rowsValid = false;
     const QModelIndex changed = index(row);
     Q_EMIT dataChanged(changed, changed);
 }
@@ -98,16 +111,28 @@ void FileListModel::removeRowsAt(QList<int> rows)
             continue;
         beginRemoveRows(QModelIndex(), row, row);
         m_files.removeAt(row);
+        m_rowsValid = false;
         endRemoveRows();
     }
 }
 
 void FileListModel::refreshFiles(const QList<ExifFileInfoPtr> &files)
 {
+    QList<int> changed;
+    changed.reserve(files.size());
     for (const ExifFileInfoPtr &file : files) {
-        const int row = int(m_files.indexOf(file));
-        if (row >= 0)
-            Q_EMIT dataChanged(index(row), index(row));
+        const int row = rowOf(file->fileName());
+        if (row >= 0 && m_files.at(row) == file)
+            changed.append(row);
+    }
+    std::sort(changed.begin(), changed.end());
+    // One signal per run of neighbouring rows: an edit over all files repaints once.
+    for (qsizetype first = 0; first < changed.size();) {
+        qsizetype last = first;
+        while (last + 1 < changed.size() && changed.at(last + 1) <= changed.at(last) + 1)
+            ++last;
+        Q_EMIT dataChanged(index(changed.at(first)), index(changed.at(last)));
+        first = last + 1;
     }
 }
 

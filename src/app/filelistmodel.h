@@ -3,6 +3,7 @@
 #include "engine/exiffileinfo.h"
 
 #include <QAbstractListModel>
+#include <QHash>
 #include <QList>
 #include <QString>
 
@@ -37,5 +38,11 @@ public:
     static QString errorText();
 
 private:
+    // Path -> row, built on first use after a change: lists of thousands of files are looked up
+    // once per file added, saved or refreshed.
+    const QHash<QString, int> &rows() const;
+
     QList<ExifFileInfoPtr> m_files;
+    mutable QHash<QString, int> m_rows;
+    mutable bool m_rowsValid = false;
 };

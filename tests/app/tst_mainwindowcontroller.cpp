@@ -13,6 +13,7 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemModelTester>
+#include <QSignalSpy>
 #include <QAction>
 #include <QDir>
 #include <QDropEvent>
@@ -361,6 +362,15 @@ private Q_SLOTS:
         model.replaceFile(1, fresh);
         QCOMPARE(model.index(1).data(FileInfoCell::ModifiedRole), true);
         QCOMPARE(model.index(0).data(FileInfoCell::ModifiedRole), false);
+        QCOMPARE(model.rowOf(fresh->fileName()), 1);
+        QCOMPARE(model.rowOf(files.at(0)->fileName()), -1);
+
+        // The replaced record repaints nothing; the three listed rows repaint as one run.
+        QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
+        model.refreshFiles({files.at(4), files.at(2), files.at(1), fresh});
+        QCOMPARE(changed.size(), 1);
+        QCOMPARE(changed.at(0).at(0).toModelIndex().row(), 0);
+        QCOMPARE(changed.at(0).at(1).toModelIndex().row(), 2);
     }
 };
 
