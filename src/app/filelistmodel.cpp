@@ -125,15 +125,22 @@ void FileListModel::refreshFiles(const QList<ExifFileInfoPtr> &files)
         if (row >= 0 && m_files.at(row) == file)
             changed.append(row);
     }
-    std::sort(changed.begin(), changed.end());
     // One signal per run of neighbouring rows: an edit over all files repaints once.
-    for (qsizetype first = 0; first < changed.size();) {
-        qsizetype last = first;
-        while (last + 1 < changed.size() && changed.at(last + 1) <= changed.at(last) + 1)
-            ++last;
-        Q_EMIT dataChanged(index(changed.at(first)), index(changed.at(last)));
-        first = last + 1;
+    for (const auto &[first, last] : rowRuns(changed))
+        Q_EMIT dataChanged(index(first), index(last));
+}
+
+QList<std::pair<int, int>> FileListModel::rowRuns(QList<int> rows)
+{
+    std::sort(rows.begin(), rows.end());
+    QList<std::pair<int, int>> runs;
+    for (const int row : std::as_const(rows)) {
+        if (!runs.isEmpty() && row <= runs.last().second + 1)
+            runs.last().second = std::max(runs.last().second, row);
+        else
+            runs.append({row, row});
     }
+    return runs;
 }
 
 void FileListModel::refreshAll()

@@ -7,6 +7,8 @@
 #include <QList>
 #include <QString>
 
+#include <utility>
+
 // The main window's files, one row each, in list order. Exposes what the list's cell draws
 // through FileInfoCell's roles; the modified flag is asked of the change model on every read,
 // so a row never shows a stale mark.
@@ -36,6 +38,8 @@ public:
     void refreshAll();
 
     static QString errorText();
+    // The rows as runs of neighbours (first, last), in order; duplicates are merged.
+    static QList<std::pair<int, int>> rowRuns(QList<int> rows);
 
 private:
     // Path -> row, built on first use after a change: lists of thousands of files are looked up

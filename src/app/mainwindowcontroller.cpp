@@ -10,6 +10,7 @@
 #include "editors/configurationviewcontroller.h"
 #include "editors/exiffilesupdate.h"
 #include "engine/exifbackgroundrunner.h"
+#include "engine/exifrunnerremovemetadataoperation.h"
 #include "engine/exifutil.h"
 #include "engine/fileadmission.h"
 #include "windows/addfilesnote.h"
@@ -29,7 +30,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScrollArea>
-#include <QSet>
 #include <QToolButton>
 
 #include <algorithm>
@@ -193,14 +193,9 @@ bool MainWindowController::addFiles(const QStringList &paths)
         paths, [this](const QString &path) { return hasFileInList(path); });
     FileReadQueue::Batch batch;
     batch.rejected = admitted.rejected;
-    QSet<QString> seen;
-    for (const QString &path : admitted.accepted) {
-        // A folder may name the same file twice through a link; one row each.
-        if (!seen.contains(path)) {
-            seen.insert(path);
-            batch.files.append(std::make_shared<ExifFileInfo>(path));
-        }
-    }
+    // Admission has already dropped paths given twice.
+    for (const QString &path : admitted.accepted)
+        batch.files.append(std::make_shared<ExifFileInfo>(path));
     if (batch.files.isEmpty()) {
         m_addFilesNote->showRejections(batch.rejected);
         return false;
@@ -223,19 +218,14 @@ void MainWindowController::handleBatchRead(const FileReadQueue::Batch &batch)
 {
     QList<ExifFileInfoPtr> valid;
     QList<FileRejection> rejected = batch.rejected;
-    // Another add may have brought the same path in the meantime; one lookup table for the
-    // batch, as both the list and the batch can hold thousands of files.
-    QSet<QString> listed;
-    listed.reserve(files().size());
-    for (const ExifFileInfoPtr &file : files())
-        listed.insert(file->fileName());
     for (const ExifFileInfoPtr &file : batch.files) {
         if (!file->isValid()) {
             rejected.append({file->fileName(), FileRejection::Reason::Unreadable});
         } else if (const auto reason =
                        FileAdmission::rejectionAfterReading(file->originalExifData())) {
             rejected.append({file->fileName(), *reason});
-        } else if (!listed.contains(file->fileName())) {
+        } else if (!m_model->hasFileInList(file->fileName())) {
+            // Another add may have brought the same path in the meantime.
             valid.append(file);
         }
     }
@@ -279,16 +269,9 @@ void MainWindowController::selectRows(const QList<int> &rows)
 {
     // One range per run of neighbouring rows: a selection of thousands of single rows makes
     // every later selection query slow.
-    QList<int> sorted = rows;
-    std::sort(sorted.begin(), sorted.end());
     QItemSelection selection;
-    for (qsizetype i = 0; i < sorted.size();) {
-        qsizetype last = i;
-        while (last + 1 < sorted.size() && sorted.at(last + 1) <= sorted.at(last) + 1)
-            ++last;
-        selection.select(m_model->index(sorted.at(i)), m_model->index(sorted.at(last)));
-        i = last + 1;
-    }
+    for (const auto &[first, last] : FileListModel::rowRuns(rows))
+        selection.select(m_model->index(first), m_model->index(last));
     m_filesTable->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
     if (!rows.isEmpty())
         m_filesTable->selectionModel()->setCurrentIndex(m_model->index(rows.first()),
@@ -398,8 +381,6 @@ void MainWindowController::loadTestFiles()
 
 MainWindowMenus::State MainWindowController::commandState() const
 {
-    static const QStringList removable{QStringLiteral("image/jpeg"), QStringLiteral("image/tiff"),
-                                       QStringLiteral("application/vnd.adobe.photoshop")};
     MainWindowMenus::State state;
     state.saving = m_saving;
     state.hasFiles = !files().isEmpty();
@@ -408,8 +389,8 @@ MainWindowMenus::State MainWindowController::commandState() const
     for (const ExifFileInfoPtr &file : selected) {
         state.selectionHasError = state.selectionHasError || file->hasError();
         state.selectionCanLoseMetadata =
-            state.selectionCanLoseMetadata ||
-            removable.contains(file->exifValue(QStringLiteral("File:MIMEType")));
+            state.selectionCanLoseMetadata || ExifRunnerRemoveMetadataOperation::canStrip(
+                                                  file->exifValue(QStringLiteral("File:MIMEType")));
     }
     return state;
 }

@@ -7,6 +7,7 @@
 #include "catalogue/ui/presetswindowcontroller.h"
 #include "editors/configurationviewcontroller.h"
 #include "engine/exifbackgroundrunner.h"
+#include "engine/exifrunnerremovemetadataoperation.h"
 #include "values/tagsmithexception.h"
 #include "windows/mapwindowcontroller.h"
 #include "windows/progresspanel.h"
@@ -65,15 +66,13 @@ void MainWindowController::removeAllMetadata()
     const QList<ExifFileInfoPtr> selected = selectedFiles();
     if (files().isEmpty() || m_saving || selected.isEmpty())
         return;
-    static const QStringList removable{QStringLiteral("image/jpeg"), QStringLiteral("image/tiff"),
-                                       QStringLiteral("application/vnd.adobe.photoshop")};
     static const QStringList plain{QStringLiteral("image/jpeg"), QStringLiteral("image/tiff"),
                                    QStringLiteral("image/png"), QStringLiteral("image/gif")};
     bool any = false;
     bool needsStrongWarning = false;
     for (const ExifFileInfoPtr &file : selected) {
         const QString mime = file->exifValue(MimeTypeKey);
-        if (!removable.contains(mime))
+        if (!ExifRunnerRemoveMetadataOperation::canStrip(mime))
             continue;
         any = true;
         needsStrongWarning =

@@ -91,7 +91,7 @@ void MainWindowController::showMap()
 void MainWindowController::reloadMapFiles()
 {
     if (m_mapWindowController)
-        m_mapWindowController->setFiles(selectedFiles());
+        m_mapWindowController->setFiles(m_currentFiles);
 }
 
 void MainWindowController::showHideResultsWindow()
