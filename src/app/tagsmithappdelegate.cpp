@@ -64,10 +64,8 @@ void TagsmithAppDelegate::applicationWillFinishLaunching(const QStringList &argu
         ApertureTheme::apply(*application);
     m_themeKey = ApertureTheme::Key;
 
-    m_labelFont = QApplication::font();
-    m_labelFont.setPointSize(11);
-    m_labelBoldFont = m_labelFont;
-    m_labelBoldFont.setBold(true);
+    m_labelFont = ApertureTheme::labelFont();
+    m_labelBoldFont = ApertureTheme::labelFont(true);
 
     ExifFieldsController::defaultInstance()->initializeConfigurations();
     ExifSettings::instance().initializeSettings();

@@ -15,6 +15,21 @@ QColor ApertureTheme::normalSolidFill()
     return QColor(38, 38, 38, 242);
 }
 
+const QFont &ApertureTheme::labelFont(bool bold)
+{
+    static const QFont normal = [] {
+        QFont font = QApplication::font();
+        font.setPointSize(11);
+        return font;
+    }();
+    static const QFont boldFont = [] {
+        QFont font = normal;
+        font.setBold(true);
+        return font;
+    }();
+    return bold ? boldFont : normal;
+}
+
 QColor ApertureTheme::listBackground()
 {
     return QColor::fromRgbF(0.6f, 0.6f, 0.6f, 1.0f);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <QFont>
 #include <QPalette>
 #include <QString>
 
@@ -21,4 +22,6 @@ public:
     static QColor normalSolidFill();
     // The grey behind file and preset lists.
     static QColor listBackground();
+    // The font of the form's labels and values; the application must exist first.
+    static const QFont &labelFont(bool bold = false);
 };

@@ -17,7 +17,6 @@
 #include "values/logging.h"
 #include "values/tagsmithexception.h"
 
-#include <QApplication>
 #include <QFontMetricsF>
 #include <QHash>
 #include <QPalette>
@@ -49,16 +48,6 @@ bool fitsMaker(const FieldEditor *editor, const std::optional<QString> &maker)
 {
     const QString &fieldMaker = editor->field()->maker();
     return fieldMaker.isEmpty() || (maker && fieldMaker == *maker);
-}
-
-// The rows' label font: the application shell builds its bold label font the same way, and
-// this layer may not ask the shell for it.
-QFont boldLabelFont()
-{
-    QFont font = QApplication::font();
-    font.setPointSize(11);
-    font.setBold(true);
-    return font;
 }
 
 QString localized(const QString &key)
@@ -115,7 +104,7 @@ void ConfigurationViewController::setBackgroundRunner(ExifBackgroundRunner *runn
 
 double ConfigurationViewController::calculateMaxLabelWidth(const QList<GroupPtr> &groups)
 {
-    const QFontMetricsF metrics(boldLabelFont());
+    const QFontMetricsF metrics(ApertureTheme::labelFont(true));
     double width = 0;
     bool any = false;
     for (const GroupPtr &group : groups) {

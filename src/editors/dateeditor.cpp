@@ -4,6 +4,7 @@
 #include "editors/datewallclock.h"
 #include "editors/exiffilesupdate.h"
 
+#include "controls/aperturetheme.h"
 #include "engine/exifbackgroundrunner.h"
 #include "values/dateoffset.h"
 #include "values/datevalue.h"
@@ -36,9 +37,7 @@ int DateEditor::createEditorContent(QWidget *parent, QRect frame)
     m_currentDateLabel->setGeometry(frame);
     m_currentDateLabel->setAutoFillBackground(true);
     m_currentDateLabel->setBackgroundRole(QPalette::Button);
-    QFont font = m_currentDateLabel->font();
-    font.setPointSize(11);
-    m_currentDateLabel->setFont(font);
+    m_currentDateLabel->setFont(ApertureTheme::labelFont());
     m_currentDateLabel->setCursor(Qt::PointingHandCursor);
     m_currentDateLabel->installEventFilter(this);
     setContentControl(m_currentDateLabel, 2);

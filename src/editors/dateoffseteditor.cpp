@@ -20,8 +20,6 @@ int DateOffsetEditor::createEditorContent(QWidget *parent, QRect frame)
     return size.height();
 }
 
-
-
 void DateOffsetEditor::focusControl()
 {
     if (m_editor)

@@ -3,6 +3,7 @@
 #include "editors/exiffilesupdate.h"
 
 #include "catalogue/exifconfiguration.h"
+#include "controls/aperturetheme.h"
 #include "values/tagsmithexception.h"
 
 #include <QComboBox>
@@ -34,9 +35,7 @@ int EnumEditor::createEditorContent(QWidget *parent, QRect frame)
 {
     m_popupButton = new QComboBox(parent);
     m_popupButton->setGeometry(frame.x(), frame.y(), frame.width(), 22);
-    QFont font = m_popupButton->font();
-    font.setPointSize(11);
-    m_popupButton->setFont(font);
+    m_popupButton->setFont(ApertureTheme::labelFont());
     m_popupButton->addItem(QString(), EmptyTag);
     const auto &map = field()->values();
     for (int i = 0; i < m_values.size(); ++i)
@@ -52,8 +51,6 @@ int EnumEditor::createEditorContent(QWidget *parent, QRect frame)
     stretchWithRow(m_popupButton);
     return 22;
 }
-
-
 
 bool EnumEditor::menuHasItemWithTag(int tag) const
 {

@@ -4,9 +4,9 @@
 
 #include "catalogue/exifconfiguration.h"
 #include "catalogue/stringtables.h"
+#include "controls/aperturetheme.h"
 #include "values/tagsmithexception.h"
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QEvent>
 #include <QLabel>
@@ -16,23 +16,6 @@
 #include <algorithm>
 
 namespace {
-
-// The application shell's label fonts (it sits above this layer, so they are made the same way
-// here rather than asked for).
-const QFont &labelFont(bool bold)
-{
-    static const QFont normal = [] {
-        QFont font = QApplication::font();
-        font.setPointSize(11);
-        return font;
-    }();
-    static const QFont boldFont = [] {
-        QFont font = normal;
-        font.setBold(true);
-        return font;
-    }();
-    return bold ? boldFont : normal;
-}
 
 constexpr int LabelHeight = 20;
 constexpr int MinimumRowHeight = 25;
@@ -164,7 +147,7 @@ void FieldEditor::updateModifiedLabel()
     if (bold == m_labelIsBold)
         return;
     m_labelIsBold = bold;
-    m_label->setFont(labelFont(bold));
+    m_label->setFont(ApertureTheme::labelFont(bold));
 }
 
 int FieldEditor::createEditor(QWidget *parent, int top)
@@ -199,7 +182,7 @@ int FieldEditor::createLabel(QWidget *parent)
 {
     m_label = new QLabel(m_field->title() + u':', parent);
     m_label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    m_label->setFont(labelFont(false));
+    m_label->setFont(ApertureTheme::labelFont());
     m_label->setGeometry(5, m_top + 2, static_cast<int>(m_maxLabelWidth), LabelHeight);
     m_label->setProperty("theme", m_theme);
     m_label->installEventFilter(this);

@@ -1,6 +1,7 @@
 #include "editors/multienumeditor.h"
 
 #include "catalogue/exifconfiguration.h"
+#include "controls/aperturetheme.h"
 #include "values/logging.h"
 #include "values/taglist.h"
 
@@ -52,9 +53,7 @@ int MultiEnumEditor::createEditorContent(QWidget *parent, QRect frame)
     const auto &map = field()->values();
     for (int i = 0; i < m_values.size(); ++i) {
         auto *box = new QCheckBox(map ? map->value(m_values.at(i)) : m_values.at(i), m_container);
-        QFont font = box->font();
-        font.setPointSize(11);
-        box->setFont(font);
+        box->setFont(ApertureTheme::labelFont());
         box->setFixedHeight(BoxHeight);
         connect(box, &QCheckBox::clicked, this, [this, box] { checkValueChanged(box); });
         layout->addWidget(box, i / Columns, i % Columns);
@@ -71,7 +70,6 @@ int MultiEnumEditor::showEditor(int top)
     const int next = FieldEditor::showEditor(top);
     return m_container ? std::max(next, top + m_container->height() + 3) : next;
 }
-
 
 void MultiEnumEditor::setExifFiles(const QList<ExifFileInfoPtr> &files)
 {

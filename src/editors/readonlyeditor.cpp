@@ -1,5 +1,6 @@
 #include "editors/readonlyeditor.h"
 
+#include "controls/aperturetheme.h"
 #include "values/numberformatter.h"
 
 #include <QLineEdit>
@@ -54,16 +55,12 @@ int ReadonlyEditor::createEditorContent(QWidget *parent, QRect frame)
     m_editor->setGeometry(frame.x(), frame.y(), frame.width(), 20);
     m_editor->setReadOnly(true);
     m_editor->setFocusPolicy(Qt::ClickFocus);
-    QFont font = m_editor->font();
-    font.setPointSize(11);
-    m_editor->setFont(font);
+    m_editor->setFont(ApertureTheme::labelFont());
     setContentControl(m_editor);
     m_editor->show();
     stretchWithRow(m_editor);
     return 20;
 }
-
-
 
 bool ReadonlyEditor::isModified() const
 {

@@ -47,7 +47,6 @@ int StringsEditor::showEditor(int top)
     return m_editor ? std::max(next, top + m_editor->height() + 3) : next;
 }
 
-
 void StringsEditor::setEnabled(bool enabled)
 {
     FieldEditor::setEnabled(enabled);

@@ -3,6 +3,7 @@
 #include "editors/exiffilesupdate.h"
 
 #include "catalogue/exifconfiguration.h"
+#include "controls/aperturetheme.h"
 #include "controls/attachedwindow.h"
 #include "controls/numberformattervalidator.h"
 #include "values/gpslocation.h"
@@ -84,9 +85,7 @@ int TextEditor::createEditorContent(QWidget *parent, QRect frame)
 {
     m_editor = new QLineEdit(parent);
     m_editor->setGeometry(frame.x(), frame.y(), frame.width(), 20);
-    QFont font = m_editor->font();
-    font.setPointSize(11);
-    m_editor->setFont(font);
+    m_editor->setFont(ApertureTheme::labelFont());
     m_editor->setReadOnly(!hasExifFiles());
     if (field()->dataRepresentation() == FieldDataRepresentation::Number) {
         m_formatter = field()->createFormatter();
