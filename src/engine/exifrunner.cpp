@@ -113,7 +113,7 @@ ExifReadResult ExifRunner::loadExifInformations(const QList<ExifFileInfoPtr> &fi
             const auto waiting = byPath.constFind(path);
             if (waiting == byPath.cend())
                 return;
-            const TagDictionary formatted = preformatValues(record, pool);
+            const TagDictionary formatted = preformatValues(record, &pool);
             for (const ExifFileInfoPtr &file : *waiting)
                 file->setReadData(formatted);
             byPath.erase(waiting);
@@ -146,19 +146,6 @@ ExifReadResult ExifRunner::updateOriginalExifInformation(const ExifFileInfoPtr &
     return report.result;
 }
 
-TagDictionary ExifRunner::preformatValues(const TagDictionary &values)
-{
-    const ExifFieldsController *catalogue = ExifFieldsController::defaultInstance();
-    TagDictionary formatted;
-    formatted.reserve(values.size());
-    for (auto it = values.cbegin(); it != values.cend(); ++it) {
-        const ExifFieldPtr field = catalogue->field(it.key());
-        formatted.insert(it.key(), field ? formatValue(it.value(), *field) : it.value());
-    }
-    filterLeicaLensData(formatted);
-    return formatted;
-}
-
 QString ExifRunner::formatValue(const QString &value, const ExifField &field)
 {
     if (field.dataRepresentation() == FieldDataRepresentation::Number)
@@ -178,15 +165,16 @@ QString ExifRunner::formatNumberFromExifTool(const QString &value, const ExifFie
     return formatter->stringFromNumber(leadingNumber(value));
 }
 
-TagDictionary ExifRunner::preformatValues(const TagDictionary &values, StringPool &pool)
+TagDictionary ExifRunner::preformatValues(const TagDictionary &values, StringPool *pool)
 {
     const ExifFieldsController *catalogue = ExifFieldsController::defaultInstance();
+    const auto shared = [pool](const QString &text) { return pool ? pool->intern(text) : text; };
     TagDictionary formatted;
     formatted.reserve(values.size());
     for (auto it = values.cbegin(); it != values.cend(); ++it) {
         const ExifFieldPtr field = catalogue->field(it.key());
-        formatted.insert(pool.intern(it.key()),
-                         pool.intern(field ? formatValue(it.value(), *field) : it.value()));
+        formatted.insert(shared(it.key()),
+                         shared(field ? formatValue(it.value(), *field) : it.value()));
     }
     filterLeicaLensData(formatted);
     return formatted;

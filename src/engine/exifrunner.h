@@ -58,10 +58,9 @@ public:
     ExifToolResult executeRawCommand_FileInfo(const QStringList &paths) const;
     static QStringList readCommandArguments(const QStringList &paths);
 
-    TagDictionary preformatValues(const TagDictionary &values);
-    // The same, with keys and values shared with equal ones already in the pool: a batch of
-    // files repeats most of its keys and many values, and keeps them for as long as it is open.
-    TagDictionary preformatValues(const TagDictionary &values, StringPool &pool);
+    // With a pool, keys and values are shared with equal ones already in it: a batch of files
+    // repeats most of its keys and many values, and keeps them for as long as it is open.
+    TagDictionary preformatValues(const TagDictionary &values, StringPool *pool = nullptr);
     QString formatValue(const QString &value, const ExifField &field);
     QString formatNumberFromExifTool(const QString &value, const ExifField &field);
     static void filterLeicaLensData(TagDictionary &values);

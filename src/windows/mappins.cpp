@@ -99,9 +99,10 @@ void MapPins::setFiles(const QList<ExifFileInfoPtr> &files)
         if (std::optional<MapPin> pin = createPointAnnotation(*file))
             m_annotations.insert(pin->fileName, *pin);
     }
-    Q_EMIT pinsChanged(pins());
+    const QList<MapPin> shown = pins();
+    Q_EMIT pinsChanged(shown);
 
-    if (std::optional<MapRegion> region = regionForPins(pins())) {
+    if (std::optional<MapRegion> region = regionForPins(shown)) {
         m_region = region;
         Q_EMIT regionChanged(*region);
     }
