@@ -98,6 +98,8 @@ QWidget *MainWindow::buildBottomBar(bool debug)
         layout->addWidget(m_presetsQuickButton);
         layout->addWidget(m_resultsButton);
     }
+    m_reviewButton = new QPushButton(localized("Review…"), bar);
+    layout->addWidget(m_reviewButton);
     m_processButton = new QPushButton(localized("Save"), bar);
     m_processButton->setDefault(true);
     layout->addWidget(m_processButton);

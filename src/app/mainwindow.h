@@ -32,6 +32,7 @@ public:
     QPushButton *removeButton() const { return m_removeButton; }
     QToolButton *presetsButton() const { return m_presetsButton; }
     QPushButton *processButton() const { return m_processButton; }
+    QPushButton *reviewButton() const { return m_reviewButton; }
     IndeterminateProgressIndicatorCell *readingIndicator() const { return m_readingIndicator; }
     // Shown while added files are read: "Reading N of M files…" and a Cancel button.
     QWidget *readingBar() const { return m_readingBar; }
@@ -57,6 +58,7 @@ private:
     QPushButton *m_removeButton = nullptr;
     QToolButton *m_presetsButton = nullptr;
     QPushButton *m_processButton = nullptr;
+    QPushButton *m_reviewButton = nullptr;
     IndeterminateProgressIndicatorCell *m_readingIndicator = nullptr;
     QWidget *m_readingBar = nullptr;
     QLabel *m_readingLabel = nullptr;

@@ -128,6 +128,11 @@ void MainWindowController::connectCommands()
     on(C::ShowMap, &MainWindowController::showMap);
     on(C::ShowResults, &MainWindowController::showHideResultsWindow);
     on(C::QuickLook, &MainWindowController::showHideQuickLook);
+    on(C::ReviewChanges, &MainWindowController::reviewChanges);
+    on(C::RevertLastSave, &MainWindowController::revertLastSave);
+    on(C::CopyMetadata, &MainWindowController::copyMetadata);
+    on(C::PasteMetadata, &MainWindowController::pasteMetadata);
+    on(C::GeotagFromTrackLog, &MainWindowController::geotagFromTrackLog);
     connect(m_menus->action(C::SelectAll), &QAction::triggered, m_filesTable,
             &QAbstractItemView::selectAll);
     if (m_delegate) {
@@ -147,6 +152,8 @@ void MainWindowController::connectCommands()
     connect(m_window->removeButton(), &QPushButton::clicked, this,
             &MainWindowController::removeFilesClick);
     connect(m_processButton, &QPushButton::clicked, this, &MainWindowController::processFiles);
+    connect(m_window->reviewButton(), &QPushButton::clicked, this,
+            &MainWindowController::reviewChanges);
     connect(m_menus->configsMenu(), &QMenu::triggered, this, [this](QAction *action) {
         const int tag = action->data().toInt();
         if (tag >= 0)
@@ -386,6 +393,11 @@ MainWindowMenus::State MainWindowController::commandState() const
     state.hasFiles = !files().isEmpty();
     const QList<ExifFileInfoPtr> selected = selectedFiles();
     state.hasSelection = !selected.isEmpty();
+    state.singleSelection = selected.size() == 1;
+    // Kept up to date on every edit, so no pass over all files here.
+    state.hasModifiedFiles = m_window->isWindowModified();
+    state.canRevertLastSave = canRevertLastSave();
+    state.hasCopiedMetadata = hasCopiedMetadata();
     for (const ExifFileInfoPtr &file : selected) {
         state.selectionHasError = state.selectionHasError || file->hasError();
         state.selectionCanLoseMetadata =
@@ -402,6 +414,8 @@ void MainWindowController::recheckUIEnablement()
     m_window->removeButton()->setEnabled(
         MainWindowMenus::isCommandEnabled(MainWindowMenus::Command::RemoveFiles, state));
     m_processButton->setEnabled(true);
+    m_window->reviewButton()->setEnabled(
+        MainWindowMenus::isCommandEnabled(MainWindowMenus::Command::ReviewChanges, state));
 }
 
 void MainWindowController::updateWindowModified()

@@ -95,6 +95,19 @@ public:
     void showHideQuickLook();
     void loadTestFiles();
 
+    // Review of pending changes and taking back the last save (mainwindowreview.cpp).
+    void reviewChanges();
+    void revertLastSave();
+    bool canRevertLastSave() const;
+
+    // Copying metadata between files (mainwindowcopy.cpp).
+    void copyMetadata();
+    void pasteMetadata();
+    bool hasCopiedMetadata() const;
+
+    // Geotagging from track logs (mainwindowgeotag.cpp).
+    void geotagFromTrackLog();
+
     // Presets.
     void updateConfigurations() override;
     const QStringList &configIds() const { return m_configIds; }
@@ -171,4 +184,10 @@ private:
     bool m_saving = false;
     // A close asked for while a batch ran; put again when it ends.
     bool m_closeAfterSaving = false;
+
+    // Review and revert (mainwindowreview.cpp).
+
+    // Copy and paste (mainwindowcopy.cpp).
+
+    // Geotagging (mainwindowgeotag.cpp).
 };

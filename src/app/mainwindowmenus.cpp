@@ -23,6 +23,8 @@ MainWindowMenus::MainWindowMenus(QMenuBar *menuBar, QObject *parent)
     QMenu *file = menuBar->addMenu(localized("&File"));
     add(file, C::Open, localized("Add Files…"), QKeySequence::Open);
     add(file, C::Process, localized("Save"), QKeySequence::Save);
+    add(file, C::ReviewChanges, localized("Review Changes…"),
+        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
     add(file, C::Reload, localized("Reload Selected Files"), QKeySequence(Qt::CTRL | Qt::Key_R));
     file->addSeparator();
     add(file, C::RemoveFiles, localized("Remove from List"), QKeySequence::Delete);
@@ -42,7 +44,18 @@ MainWindowMenus::MainWindowMenus(QMenuBar *menuBar, QObject *parent)
     quit->setMenuRole(QAction::QuitRole);
 
     QMenu *edit = menuBar->addMenu(localized("&Edit"));
+    // A focused text field takes the undo key first, so it undoes typing there.
+    add(edit, C::RevertLastSave, localized("Revert Last Save"), QKeySequence::Undo);
+    edit->addSeparator();
     add(edit, C::SelectAll, localized("Select All"), QKeySequence::SelectAll);
+    edit->addSeparator();
+    add(edit, C::CopyMetadata, localized("Copy Metadata"),
+        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C));
+    add(edit, C::PasteMetadata, localized("Paste Metadata…"),
+        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_V));
+    edit->addSeparator();
+    add(edit, C::GeotagFromTrackLog, localized("Geotag from Track Log…"),
+        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_T));
 
     m_configsMenu = menuBar->addMenu(localized("&Presets"));
     QAction *editPresets = add(m_configsMenu, C::ShowConfigurations, localized("Edit Presets…"),
@@ -94,6 +107,16 @@ bool MainWindowMenus::isCommandEnabled(Command command, const State &state)
         return state.selectionHasError;
     case Command::RemoveAllMetadata:
         return state.selectionCanLoseMetadata;
+    case Command::ReviewChanges:
+        return state.hasModifiedFiles;
+    case Command::RevertLastSave:
+        return state.canRevertLastSave;
+    case Command::CopyMetadata:
+        return state.singleSelection;
+    case Command::PasteMetadata:
+        return state.hasSelection && state.hasCopiedMetadata;
+    case Command::GeotagFromTrackLog:
+        return state.hasSelection;
     default:
         return true;
     }

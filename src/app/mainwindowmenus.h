@@ -32,6 +32,11 @@ public:
         Help,
         Support,
         WebSite,
+        ReviewChanges,
+        RevertLastSave,
+        CopyMetadata,
+        PasteMetadata,
+        GeotagFromTrackLog,
     };
 
     // What enablement depends on.
@@ -44,6 +49,13 @@ public:
         bool selectionHasError = false;
         // Some selected file is a JPEG, TIFF or Photoshop file.
         bool selectionCanLoseMetadata = false;
+        // Some file in the list has unsaved edits.
+        bool hasModifiedFiles = false;
+        // The last save of some listed file can be taken back.
+        bool canRevertLastSave = false;
+        // Metadata copied from a file waits to be pasted.
+        bool hasCopiedMetadata = false;
+        bool singleSelection = false;
     };
 
     // The presets menu's fixed item; presets are inserted below it.

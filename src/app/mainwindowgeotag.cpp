@@ -1,0 +1,6 @@
+#include "app/mainwindowcontroller.h"
+
+void MainWindowController::geotagFromTrackLog()
+{
+    // Placeholder: geotagging replaces this.
+}
