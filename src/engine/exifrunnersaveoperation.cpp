@@ -4,6 +4,7 @@
 #include "catalogue/exiffieldscontroller.h"
 #include "engine/exifrunner.h"
 #include "engine/exifutil.h"
+#include "engine/revertrecord.h"
 #include "values/dateoffset.h"
 #include "values/datevalue.h"
 #include "values/leadingnumber.h"
@@ -94,12 +95,18 @@ void ExifRunnerSaveOperation::run()
         return;
     }
 
+    // What the file held in these tags, so the save can be taken back.
+    std::optional<RevertEntry> revert = RevertRecord::captureBeforeSave(
+        exifToolSession(), fileName(), m_itemsToChange.keys() + m_itemsToRemove.values(), *errors);
     const WriteResult result = writeFile(arguments, *errors);
     QMutexLocker locker(&m_lock);
     // An original kept after a failed check is left exactly as it was, dates included.
     if (result.replaced)
         updateFileDates();
     locker.unlock();
+    if (result.replaced)
+        RevertRecord::storeAfterSave(std::move(revert), efi()->originalExifData(), result.reRead,
+                                     *errors);
     storeResults(errors, reReads() ? result.reRead : std::nullopt);
 }
 

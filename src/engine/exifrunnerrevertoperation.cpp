@@ -1,0 +1,111 @@
+#include "engine/exifrunnerrevertoperation.h"
+
+#include "engine/exifrunnersaveoperation.h"
+
+#include "values/datevalue.h"
+
+#include <QCoreApplication>
+#include <QMutexLocker>
+#include <QDir>
+#include <QTemporaryFile>
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("ExifRunnerRevertOperation", text);
+}
+
+} // namespace
+
+std::shared_ptr<ExifRunnerRevertOperation> ExifRunnerRevertOperation::create(ExifFileInfoPtr efi,
+                                                                             quint32 options)
+{
+    std::optional<RevertEntry> entry = RevertRecord::load(efi->fileName());
+    if (!entry || entry->isEmpty())
+        return nullptr;
+    return std::make_shared<ExifRunnerRevertOperation>(std::move(efi), options, std::move(*entry));
+}
+
+ExifRunnerRevertOperation::ExifRunnerRevertOperation(ExifFileInfoPtr efi, quint32 options,
+                                                     RevertEntry entry)
+    : ExifRunnerFileModifiyOperation(std::move(efi), options)
+    , m_entry(std::move(entry))
+{
+}
+
+QStringList ExifRunnerRevertOperation::exifToolArguments(const QString &importPath) const
+{
+    QStringList arguments;
+    if (!m_entry.previous.isEmpty())
+        arguments.append(QStringLiteral("-j=") + importPath);
+    for (const QString &key : m_entry.absent)
+        arguments.append(u'-' + key + u'=');
+    return arguments + ExifRunnerSaveOperation::otherExifFileArguments();
+}
+
+void ExifRunnerRevertOperation::run()
+{
+    auto errors = std::make_shared<ErrorMessages>(fileName());
+    if (!m_entry.matchesDisk()) {
+        // Writing the old values over someone else's later changes would lose those.
+        errors->addError(tr("The file was changed after the last save (its size or modification "
+                            "date differ), so that save was not reverted."));
+        storeResults(errors, std::nullopt);
+        return;
+    }
+    QTemporaryFile import(QDir::tempPath() + QStringLiteral("/tagsmith-revert-XXXXXX.json"));
+    if (!m_entry.previous.isEmpty() &&
+        (!import.open() || import.write(RevertRecord::importJson(m_entry)) < 0 ||
+         !import.flush())) {
+        errors->addError(tr("The last save could not be reverted: %1").arg(import.errorString()));
+        storeResults(errors, std::nullopt);
+        return;
+    }
+    const WriteResult result = writeFile(exifToolArguments(import.fileName()), *errors);
+    QMutexLocker locker(&m_lock);
+    if (result.replaced)
+        updateFileDates();
+    locker.unlock();
+    if (result.replaced)
+        RevertRecord::discard(fileName());
+    storeResults(errors, reReads() ? result.reRead : std::nullopt);
+}
+
+void ExifRunnerRevertOperation::postProcessInMainThread()
+{
+    const std::optional<TagDictionary> data = oldData();
+    if (reReads() && data) {
+        // The reverted tags take their values on disk, unless the user has edited one since.
+        const TagDictionary before = efi()->originalExifData();
+        const auto adopt = [&](const QString &key) {
+            if (efi()->exifValue(key) != before.value(key))
+                return;
+            const auto value = data->constFind(key);
+            if (value != data->cend())
+                efi()->setExifValue(key, value.value());
+            else
+                efi()->removeExifValue(key);
+        };
+        for (auto it = m_entry.previous.constBegin(); it != m_entry.previous.constEnd(); ++it)
+            adopt(it.key());
+        for (const QString &key : m_entry.absent)
+            adopt(key);
+    }
+    ExifRunnerFileModifiyOperation::postProcessInMainThread();
+}
+
+std::optional<QDateTime> ExifRunnerRevertOperation::findDateForFile(const QString &key) const
+{
+    // The working values still hold what was saved; the file's date follows what it reverts to.
+    if (m_entry.absent.contains(key))
+        return std::nullopt;
+    const auto previous = m_entry.previous.constFind(key);
+    if (previous == m_entry.previous.constEnd())
+        return ExifRunnerFileModifiyOperation::findDateForFile(key);
+    const auto components = parseDateTimeValue(previous.value().toString());
+    if (!components)
+        return std::nullopt;
+    const QDateTime date = dateFromComponents(*components);
+    return date.isValid() ? std::optional<QDateTime>(date) : std::nullopt;
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "engine/exifrunnerfilemodifiyoperation.h"
+#include "engine/revertrecord.h"
+
+#include <memory>
+
+// Writes back what a file held before its last save, through the same road as the save, and
+// then forgets the record. A file changed on disk since that save is left alone.
+class ExifRunnerRevertOperation : public ExifRunnerFileModifiyOperation
+{
+public:
+    // Null when the file has no record.
+    static std::shared_ptr<ExifRunnerRevertOperation> create(ExifFileInfoPtr efi, quint32 options);
+
+    ExifRunnerRevertOperation(ExifFileInfoPtr efi, quint32 options, RevertEntry entry);
+
+    void run() override;
+    void postProcessInMainThread() override;
+
+    const RevertEntry &entry() const { return m_entry; }
+    // ExifTool's arguments, up to but without "-o" and the paths; importPath is the JSON file of
+    // the previous values (unused when there are none).
+    QStringList exifToolArguments(const QString &importPath) const;
+
+protected:
+    std::optional<QDateTime> findDateForFile(const QString &key) const override;
+
+private:
+    const RevertEntry m_entry;
+};

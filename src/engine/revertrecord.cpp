@@ -1,0 +1,262 @@
+#include "engine/revertrecord.h"
+
+#include "engine/errormessages.h"
+#include "engine/exiftoolsession.h"
+
+#include <QCoreApplication>
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QMutex>
+#include <QMutexLocker>
+#include <QSaveFile>
+#include <QStandardPaths>
+
+#include <sys/stat.h>
+
+namespace {
+
+QMutex s_lock;
+QString s_directory;
+// Names of the record files, read once: the menus ask about every selected file.
+std::optional<QSet<QString>> s_names;
+
+QString recordName(const QString &path)
+{
+    return QString::fromLatin1(
+               QCryptographicHash::hash(path.toUtf8(), QCryptographicHash::Sha1).toHex()) +
+           QStringLiteral(".json");
+}
+
+QString directoryLocked()
+{
+    if (!s_directory.isEmpty())
+        return s_directory;
+    return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) +
+           QStringLiteral("/revert");
+}
+
+QSet<QString> &namesLocked()
+{
+    if (!s_names) {
+        const QStringList entries =
+            QDir(directoryLocked()).entryList({QStringLiteral("*.json")}, QDir::Files);
+        s_names = QSet<QString>(entries.cbegin(), entries.cend());
+    }
+    return *s_names;
+}
+
+bool statFile(const QString &path, qint64 &size, qint64 &modifiedNs)
+{
+    struct stat st
+    {
+    };
+    if (::stat(QFile::encodeName(path).constData(), &st) != 0)
+        return false;
+    size = st.st_size;
+    modifiedNs = qint64(st.st_mtim.tv_sec) * 1'000'000'000 + st.st_mtim.tv_nsec;
+    return true;
+}
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("RevertRecord", text);
+}
+
+// Tags of the file itself and ExifTool's computed ones are not metadata a write can remove.
+bool isMetadataKey(const QString &key)
+{
+    static const QStringList derived{QStringLiteral("System:"), QStringLiteral("File:"),
+                                     QStringLiteral("Composite:"), QStringLiteral("ExifTool:"),
+                                     QStringLiteral("IFD1:")};
+    return std::none_of(derived.cbegin(), derived.cend(),
+                        [&](const QString &prefix) { return key.startsWith(prefix); });
+}
+
+} // namespace
+
+bool RevertEntry::matchesDisk() const
+{
+    qint64 diskSize = -1;
+    qint64 diskModified = 0;
+    return statFile(path, diskSize, diskModified) && diskSize == size && diskModified == modifiedNs;
+}
+
+void RevertRecord::setDirectory(const QString &directory)
+{
+    QMutexLocker locker(&s_lock);
+    s_directory = directory;
+    s_names.reset();
+}
+
+QString RevertRecord::directory()
+{
+    QMutexLocker locker(&s_lock);
+    return directoryLocked();
+}
+
+QStringList RevertRecord::keysWrittenWith(const QStringList &keys)
+{
+    QStringList all = keys;
+    const auto inGroup = [&](QStringView prefix) {
+        return std::any_of(keys.cbegin(), keys.cend(),
+                           [&](const QString &key) { return key.startsWith(prefix); });
+    };
+    const QString charset = QStringLiteral("IPTC:CodedCharacterSet");
+    if (inGroup(u"IPTC:") && !all.contains(charset))
+        all.append(charset);
+    const QString toolkit = QStringLiteral("XMP-x:XMPToolkit");
+    if (inGroup(u"XMP-") && !all.contains(toolkit))
+        all.append(toolkit);
+    return all;
+}
+
+std::optional<RevertEntry> RevertRecord::capture(ExifToolSession &session, const QString &path,
+                                                 const QStringList &keys, int timeoutMs,
+                                                 QString *error)
+{
+    // Quoted numbers keep "1.50" and "007" as they are; -b brings binary values as base64.
+    QStringList arguments{QStringLiteral("-j"),       QStringLiteral("-n"),
+                          QStringLiteral("-b"),       QStringLiteral("-G1"),
+                          QStringLiteral("-api"),     QStringLiteral("StructFormat=JSONQ"),
+                          QStringLiteral("-charset"), QStringLiteral("filename=UTF8")};
+    for (const QString &key : keys)
+        arguments.append(u'-' + key);
+    arguments.append(path);
+    const ExifToolResult result = session.execute(arguments, timeoutMs);
+    QJsonParseError parseError{};
+    const QJsonDocument document = QJsonDocument::fromJson(result.standardOutput, &parseError);
+    if (result.outcome != ExifToolResult::Outcome::Finished || !document.isArray() ||
+        document.array().size() != 1) {
+        if (error) {
+            *error = result.outcome != ExifToolResult::Outcome::Finished
+                         ? result.errorMessage
+                         : QString::fromUtf8(result.standardError).trimmed();
+        }
+        return std::nullopt;
+    }
+    const QJsonObject values = document.array().first().toObject();
+    RevertEntry entry;
+    entry.path = path;
+    for (const QString &key : keys) {
+        const auto value = values.constFind(key);
+        if (value != values.constEnd())
+            entry.previous.insert(key, value.value());
+        else
+            entry.absent.append(key);
+    }
+    return entry;
+}
+
+std::optional<RevertEntry> RevertRecord::captureBeforeSave(ExifToolSession &session,
+                                                           const QString &path,
+                                                           const QStringList &keys,
+                                                           ErrorMessages &errors)
+{
+    QString error;
+    // The same limit the write itself starts from.
+    auto entry = capture(session, path, keysWrittenWith(keys), 120'000, &error);
+    if (!entry)
+        errors.addWarning(tr("The previous values could not be read (%1); this save cannot be "
+                             "reverted.")
+                              .arg(error));
+    return entry;
+}
+
+void RevertRecord::storeAfterSave(std::optional<RevertEntry> entry,
+                                  const QHash<QString, QString> &original,
+                                  const std::optional<QHash<QString, QString>> &reRead,
+                                  ErrorMessages &errors)
+{
+    if (!entry)
+        return;
+    if (reRead) {
+        for (auto it = reRead->cbegin(); it != reRead->cend(); ++it) {
+            const QString &key = it.key();
+            if (original.contains(key) || entry->previous.contains(key) ||
+                entry->absent.contains(key) || !isMetadataKey(key)) {
+                continue;
+            }
+            entry->absent.append(key);
+        }
+    }
+    QString error;
+    if (!store(std::move(*entry), &error))
+        errors.addWarning(tr("This save cannot be reverted: %1").arg(error));
+}
+
+bool RevertRecord::store(RevertEntry entry, QString *error)
+{
+    if (!statFile(entry.path, entry.size, entry.modifiedNs)) {
+        if (error)
+            *error = QStringLiteral("%1 is gone").arg(entry.path);
+        return false;
+    }
+    QJsonObject object{{QStringLiteral("path"), entry.path},
+                       {QStringLiteral("size"), QString::number(entry.size)},
+                       {QStringLiteral("modified"), QString::number(entry.modifiedNs)},
+                       {QStringLiteral("previous"), entry.previous},
+                       {QStringLiteral("absent"), QJsonArray::fromStringList(entry.absent)}};
+    QMutexLocker locker(&s_lock);
+    const QString folder = directoryLocked();
+    QDir().mkpath(folder);
+    const QString name = recordName(entry.path);
+    QSaveFile file(folder + u'/' + name);
+    if (!file.open(QIODevice::WriteOnly) ||
+        file.write(QJsonDocument(object).toJson(QJsonDocument::Compact)) < 0 || !file.commit()) {
+        if (error)
+            *error = file.errorString();
+        return false;
+    }
+    namesLocked().insert(name);
+    return true;
+}
+
+std::optional<RevertEntry> RevertRecord::load(const QString &path)
+{
+    QMutexLocker locker(&s_lock);
+    const QString name = recordName(path);
+    if (!namesLocked().contains(name))
+        return std::nullopt;
+    QFile file(directoryLocked() + u'/' + name);
+    if (!file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    const QJsonObject object = QJsonDocument::fromJson(file.readAll()).object();
+    // Two paths could only share a name by a SHA-1 collision, but a record must never be
+    // applied to another file.
+    if (object.value(QStringLiteral("path")).toString() != path)
+        return std::nullopt;
+    RevertEntry entry;
+    entry.path = path;
+    entry.size = object.value(QStringLiteral("size")).toString().toLongLong();
+    entry.modifiedNs = object.value(QStringLiteral("modified")).toString().toLongLong();
+    entry.previous = object.value(QStringLiteral("previous")).toObject();
+    for (const QJsonValue &key : object.value(QStringLiteral("absent")).toArray())
+        entry.absent.append(key.toString());
+    return entry;
+}
+
+bool RevertRecord::contains(const QString &path)
+{
+    QMutexLocker locker(&s_lock);
+    return namesLocked().contains(recordName(path));
+}
+
+void RevertRecord::discard(const QString &path)
+{
+    QMutexLocker locker(&s_lock);
+    const QString name = recordName(path);
+    QFile::remove(directoryLocked() + u'/' + name);
+    namesLocked().remove(name);
+}
+
+QByteArray RevertRecord::importJson(const RevertEntry &entry)
+{
+    QJsonObject values;
+    for (auto it = entry.previous.constBegin(); it != entry.previous.constEnd(); ++it)
+        values.insert(it.key() + u'#', it.value());
+    return QJsonDocument(QJsonArray{values}).toJson(QJsonDocument::Compact);
+}
