@@ -123,8 +123,12 @@ std::optional<RevertEntry> RevertRecord::capture(ExifToolSession &session, const
                           QStringLiteral("-b"),       QStringLiteral("-G1"),
                           QStringLiteral("-api"),     QStringLiteral("StructFormat=JSONQ"),
                           QStringLiteral("-charset"), QStringLiteral("filename=UTF8")};
-    for (const QString &key : keys)
+    for (const QString &key : keys) {
         arguments.append(u'-' + key);
+        // Writing a language alternative without a language drops the other languages.
+        if (key.startsWith(u"XMP-"))
+            arguments.append(u'-' + key + QStringLiteral("-*"));
+    }
     arguments.append(path);
     const ExifToolResult result = session.execute(arguments, timeoutMs);
     QJsonParseError parseError{};
@@ -142,11 +146,12 @@ std::optional<RevertEntry> RevertRecord::capture(ExifToolSession &session, const
     RevertEntry entry;
     entry.path = path;
     for (const QString &key : keys) {
-        const auto value = values.constFind(key);
-        if (value != values.constEnd())
-            entry.previous.insert(key, value.value());
-        else
+        if (!values.contains(key))
             entry.absent.append(key);
+    }
+    for (auto it = values.constBegin(); it != values.constEnd(); ++it) {
+        if (it.key() != QStringLiteral("SourceFile"))
+            entry.previous.insert(it.key(), it.value());
     }
     return entry;
 }
