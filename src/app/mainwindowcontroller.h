@@ -33,6 +33,9 @@ class QPushButton;
 class QuickLookImageCache;
 class ResultsWindowController;
 struct ExifFilesUpdate;
+class MetadataClipboard; // copy and paste
+struct MetadataSelection;
+class PasteMetadataDialog;
 
 // The one main window: the list of files, the form for the selected ones, the commands, and
 // the close / save / quit state machine.
@@ -188,6 +191,10 @@ private:
     // Review and revert (mainwindowreview.cpp).
 
     // Copy and paste (mainwindowcopy.cpp).
+    void pasteSelection(const MetadataSelection &selection);
+    // Shared only so the header needs no definition of the class.
+    std::shared_ptr<MetadataClipboard> m_clipboard;
+    QPointer<PasteMetadataDialog> m_pasteDialog;
 
     // Geotagging (mainwindowgeotag.cpp).
 };

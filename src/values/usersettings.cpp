@@ -49,7 +49,8 @@ QVariant UserSettings::defaultValue(const QString &key)
 {
     if (key == GpsFormat || key == FileModifyDate || key == FileCreateDate)
         return 0;
-    if (key == ForceFixBase || key == IgnoreMinorErrors)
+    if (key == ForceFixBase || key == IgnoreMinorErrors || key == WriteXmpSidecars ||
+        key == PasteEverything)
         return false;
     return {};
 }
@@ -146,4 +147,9 @@ bool UserSettings::isCameraRawFile(const QString &path)
     if (dot < 0 || path.indexOf(u'/', dot) >= 0)
         return false;
     return rawSuffixes.contains(path.mid(dot + 1).toLower());
+}
+
+bool UserSettings::writesXmpSidecars()
+{
+    return value(WriteXmpSidecars).toBool();
 }

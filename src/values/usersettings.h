@@ -21,6 +21,12 @@ public:
     // "Verify image data when saving": true or false once the user chose; until then camera
     // raw files are checked and others not.
     static inline const QString VerifyImageData = QStringLiteral("VERIFY_IMAGE_DATA");
+    // "Write XMP to sidecars for raw files": a raw file without a sidecar gets one at its
+    // first XMP edit. Off by default.
+    static inline const QString WriteXmpSidecars = QStringLiteral("WRITE_XMP_SIDECARS");
+    // The last choice of the paste dialog.
+    static inline const QString PasteEverything = QStringLiteral("PASTE_METADATA_EVERYTHING");
+    static inline const QString PasteSections = QStringLiteral("PASTE_METADATA_SECTIONS");
 
     enum class GpsDisplay {
         DegreesMinutesSeconds = 0,
@@ -55,6 +61,7 @@ public:
     static bool verifiesImageData(const QString &path);
     // By extension: the camera raw formats the program opens.
     static bool isCameraRawFile(const QString &path);
+    static bool writesXmpSidecars();
 
 private:
     static int intValue(const QString &key);
