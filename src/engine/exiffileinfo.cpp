@@ -76,6 +76,18 @@ void ExifFileInfo::setValid(bool valid)
     m_valid = valid;
 }
 
+QString ExifFileInfo::sidecarPath() const
+{
+    QMutexLocker locker(&m_mutex);
+    return m_sidecarPath;
+}
+
+void ExifFileInfo::setSidecarPath(const QString &path)
+{
+    QMutexLocker locker(&m_mutex);
+    m_sidecarPath = path;
+}
+
 bool ExifFileInfo::hasError() const
 {
     QMutexLocker locker(&m_mutex);

@@ -35,6 +35,10 @@ public:
     bool isValid() const;
     void setValid(bool valid);
 
+    // The XMP sidecar whose values were read over the file's own XMP; empty when none.
+    QString sidecarPath() const;
+    void setSidecarPath(const QString &path);
+
     // True when ExifTool could not decode the maker notes.
     bool hasError() const;
 
@@ -48,6 +52,7 @@ private:
     TagDictionary m_exifData;
     TagDictionary m_originalExifData;
     bool m_valid = false;
+    QString m_sidecarPath;
 };
 
 using ExifFileInfoPtr = std::shared_ptr<ExifFileInfo>;

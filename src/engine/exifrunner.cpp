@@ -2,6 +2,7 @@
 
 #include "engine/errormessages.h"
 #include "engine/exifreportparser.h"
+#include "engine/xmpsidecar.h"
 #include "catalogue/exiffield.h"
 #include "catalogue/exiffieldscontroller.h"
 #include "values/leadingnumber.h"
@@ -88,6 +89,9 @@ ExifReadResult ExifRunner::loadExifInformations(const QList<ExifFileInfoPtr> &fi
 {
     QList<ExifFileInfoPtr> kept;
     QStringList paths;
+    // Raw files' sidecars are read in the same run, each right after its file.
+    XmpSidecar::Finder sidecars;
+    QHash<QString, TagDictionary> sidecarValues;
     for (const ExifFileInfoPtr &file : files) {
         if (!existsOnDisk(file->fileName())) {
             file->setValid(false);
@@ -95,6 +99,12 @@ ExifReadResult ExifRunner::loadExifInformations(const QList<ExifFileInfoPtr> &fi
         }
         kept.append(file);
         paths.append(file->fileName());
+        const QString sidecar = sidecars.sidecarFor(file->fileName());
+        file->setSidecarPath(sidecar);
+        if (!sidecar.isEmpty() && !sidecarValues.contains(sidecar)) {
+            sidecarValues.insert(sidecar, {});
+            paths.append(sidecar);
+        }
     }
     if (kept.isEmpty())
         return {};
@@ -108,8 +118,13 @@ ExifReadResult ExifRunner::loadExifInformations(const QList<ExifFileInfoPtr> &fi
     StringPool pool;
     // Each record is formatted as it arrives, on this thread while ExifTool works on the next
     // files, and the parsed form is let go at once, so the batch is never held twice.
-    const Report report =
-        readReport(paths, [this, &byPath, &pool](const QString &path, TagDictionary record) {
+    const Report report = readReport(
+        paths, [this, &byPath, &pool, &sidecarValues](const QString &path, TagDictionary record) {
+            const auto sidecar = sidecarValues.find(path);
+            if (sidecar != sidecarValues.end()) {
+                *sidecar = preformatValues(XmpSidecar::xmpPart(record), &pool);
+                return;
+            }
             const auto waiting = byPath.constFind(path);
             if (waiting == byPath.cend())
                 return;
@@ -125,9 +140,25 @@ ExifReadResult ExifRunner::loadExifInformations(const QList<ExifFileInfoPtr> &fi
                 file->setReadData({});
         }
     }
+    if (!sidecarValues.isEmpty()) {
+        for (const ExifFileInfoPtr &file : std::as_const(kept)) {
+            const QString sidecar = file->sidecarPath();
+            if (!sidecar.isEmpty() && file->isValid())
+                file->setReadData(
+                    withSidecarValues(file->originalExifData(), sidecarValues.value(sidecar)));
+        }
+    }
     m_cachesFormatters = false;
     m_formatters.clear();
     return report.result;
+}
+
+TagDictionary ExifRunner::withSidecarValues(TagDictionary fileValues,
+                                            const TagDictionary &sidecarXmp)
+{
+    // The sidecar is the raw file's XMP as far as it goes.
+    fileValues.insert(sidecarXmp);
+    return fileValues;
 }
 
 ExifReadResult ExifRunner::loadExifInformation(const ExifFileInfoPtr &file)
@@ -139,10 +170,16 @@ ExifReadResult ExifRunner::updateOriginalExifInformation(const ExifFileInfoPtr &
 {
     if (!existsOnDisk(file->fileName()))
         return {};
-    const Report report = readReport({file->fileName()});
+    const QString sidecar = file->sidecarPath();
+    const Report report = readReport(sidecar.isEmpty() ? QStringList{file->fileName()}
+                                                       : QStringList{file->fileName(), sidecar});
     if (!report.ran)
         return report.result;
-    file->setOriginalExifData(preformatValues(report.records.value(file->fileName())));
+    TagDictionary values = preformatValues(report.records.value(file->fileName()));
+    if (!sidecar.isEmpty())
+        values = withSidecarValues(
+            values, preformatValues(XmpSidecar::xmpPart(report.records.value(sidecar))));
+    file->setOriginalExifData(values);
     return report.result;
 }
 

@@ -64,6 +64,9 @@ public:
     QString formatValue(const QString &value, const ExifField &field);
     QString formatNumberFromExifTool(const QString &value, const ExifField &field);
     static void filterLeicaLensData(TagDictionary &values);
+    // A raw file's values with its sidecar's XMP values over them.
+    static TagDictionary withSidecarValues(TagDictionary fileValues,
+                                           const TagDictionary &sidecarXmp);
 
     // Copies the file to its first free backup name. Failures go to errors.
     static bool backupExifFile(const ExifFileInfo &file, ErrorMessages &errors);
