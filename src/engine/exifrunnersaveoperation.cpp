@@ -64,7 +64,7 @@ std::shared_ptr<ExifRunnerSaveOperation> ExifRunnerSaveOperation::create(ExifFil
                                                                          quint32 options)
 {
     auto operation = std::make_shared<ExifRunnerSaveOperation>(std::move(efi), options);
-    if (operation->m_itemsToChange.isEmpty() && operation->m_itemsToRemove.isEmpty())
+    if (!operation->writesFile() && operation->m_sidecarPath.isEmpty())
         return nullptr;
     return operation;
 }
@@ -74,6 +74,7 @@ ExifRunnerSaveOperation::ExifRunnerSaveOperation(ExifFileInfoPtr efi, quint32 op
 {
     m_itemsToRemove = gatherFieldsToRemove();
     m_itemsToChange = ExifUtil::changedFieldsDictionary(*this->efi());
+    routeToSidecar();
 }
 
 QSet<QString> ExifRunnerSaveOperation::gatherFieldsToRemove() const
@@ -86,6 +87,7 @@ void ExifRunnerSaveOperation::run()
     auto errors = std::make_shared<ErrorMessages>(fileName());
     QStringList failures;
     const QStringList arguments = exifToolArguments(&failures);
+    sidecarArguments(&failures);
     if (!failures.isEmpty()) {
         // Nothing is written rather than a file with one edit quietly missing; the edits stay
         // pending so the user can correct them.
@@ -95,18 +97,25 @@ void ExifRunnerSaveOperation::run()
         return;
     }
 
-    // What the file held in these tags, so the save can be taken back.
-    std::optional<RevertEntry> revert = RevertRecord::captureBeforeSave(
-        exifToolSession(), fileName(), m_itemsToChange.keys() + m_itemsToRemove.values(), *errors);
-    const WriteResult result = writeFile(arguments, *errors);
-    QMutexLocker locker(&m_lock);
-    // An original kept after a failed check is left exactly as it was, dates included.
-    if (result.replaced)
-        updateFileDates();
-    locker.unlock();
-    if (result.replaced)
-        RevertRecord::storeAfterSave(std::move(revert), efi()->originalExifData(), result.reRead,
-                                     *errors);
+    WriteResult result;
+    // An edit of XMP tags alone leaves a raw file with a sidecar untouched.
+    if (writesFile()) {
+        // What the file held in these tags, so the save can be taken back.
+        std::optional<RevertEntry> revert = RevertRecord::captureBeforeSave(
+            exifToolSession(), fileName(), m_itemsToChange.keys() + m_itemsToRemove.values(),
+            *errors);
+        result = writeFile(arguments, *errors);
+        QMutexLocker locker(&m_lock);
+        // An original kept after a failed check is left exactly as it was, dates included.
+        if (result.replaced)
+            updateFileDates();
+        locker.unlock();
+        if (result.replaced)
+            RevertRecord::storeAfterSave(std::move(revert), efi()->originalExifData(),
+                                         result.reRead, *errors);
+    }
+    if (!m_sidecarPath.isEmpty())
+        writeSidecar(*errors, result);
     storeResults(errors, reReads() ? result.reRead : std::nullopt);
 }
 

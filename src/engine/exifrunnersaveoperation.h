@@ -22,8 +22,14 @@ public:
 
     void run() override;
 
+    // What goes to the file itself; a raw file's XMP tags go to its sidecar instead.
     const TagDictionary &itemsToChange() const { return m_itemsToChange; }
     const QSet<QString> &itemsToRemove() const { return m_itemsToRemove; }
+    // The XMP sidecar this save writes, or empty; sidecarCreated: it does not exist yet.
+    const QString &sidecarPath() const { return m_sidecarPath; }
+    bool createsSidecar() const { return m_createsSidecar; }
+    const TagDictionary &sidecarItemsToChange() const { return m_sidecarChanges; }
+    const QSet<QString> &sidecarItemsToRemove() const { return m_sidecarRemovals; }
     QSet<QString> gatherFieldsToRemove() const;
 
     // ExifTool's arguments for this file, up to but without "-o" and the paths. A value that
@@ -47,9 +53,25 @@ protected:
     void verifyWrittenValues(const TagDictionary &written, ErrorMessages &errors) override;
 
 private:
+    // Sidecar of a raw file (exifrunnersidecarsave.cpp).
+    void routeToSidecar();
+    bool writesFile() const { return !m_itemsToChange.isEmpty() || !m_itemsToRemove.isEmpty(); }
+    QStringList sidecarArguments(QStringList *failures) const;
+    // Writes the sidecar and, with the re-read option, puts its values over the file's in
+    // result.reRead.
+    void writeSidecar(ErrorMessages &errors, WriteResult &result);
+    std::optional<TagDictionary> replaceSidecar(const QStringList &arguments,
+                                                ErrorMessages &errors);
+    std::optional<TagDictionary> createSidecar(const QStringList &arguments, ErrorMessages &errors);
+    std::optional<TagDictionary> readSidecar(const QString &path, ErrorMessages &errors);
+
     bool readsBackAsWritten(const QString &key, const QString &value,
                             const TagDictionary &written) const;
 
     TagDictionary m_itemsToChange;
     QSet<QString> m_itemsToRemove;
+    QString m_sidecarPath;
+    bool m_createsSidecar = false;
+    TagDictionary m_sidecarChanges;
+    QSet<QString> m_sidecarRemovals;
 };
