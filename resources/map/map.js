@@ -26,6 +26,7 @@ L.Icon.Default.imagePath = '../leaflet/images/';
 const map = L.map('map', { worldCopyJump: true }).setView([0, 0], 2);
 const types = mapTypes();
 const markers = L.layerGroup().addTo(map);
+const track = L.layerGroup().addTo(map);
 const notice = document.getElementById('notice');
 let currentType = -1;
 let bridge = null;
@@ -68,6 +69,28 @@ function showPins(pins) {
     }
 }
 
+// A track log with the positions it proposes; the proposals are not draggable, since nothing is
+// decided until the user applies them.
+function showTrack(line, proposed) {
+    track.clearLayers();
+    const bounds = L.latLngBounds([]);
+    if (line.length > 0) {
+        const polyline = L.polyline(line, { color: '#ff7a1a', weight: 3, opacity: 0.9 });
+        track.addLayer(polyline);
+        bounds.extend(polyline.getBounds());
+    }
+    for (const pin of proposed) {
+        const marker = L.circleMarker([pin.latitude, pin.longitude],
+            { radius: 6, color: '#ffffff', weight: 2, fillColor: '#2f7de1', fillOpacity: 1 });
+        marker.bindTooltip(pin.title);
+        marker.options.title = pin.title;
+        track.addLayer(marker);
+        bounds.extend(marker.getLatLng());
+    }
+    if (bounds.isValid())
+        map.fitBounds(bounds, { padding: [40, 40], maxZoom: 17 });
+}
+
 function frame(latitude, longitude, latitudeSpan, longitudeSpan) {
     const south = Math.max(latitude - latitudeSpan / 2, -85);
     const north = Math.min(latitude + latitudeSpan / 2, 85);
@@ -92,6 +115,11 @@ window.tagsmithMap = {
     pinTitles: () => markers.getLayers().map(marker => marker.options.title).sort(),
     tileCounts: () => ({ loaded: loadedTiles, failed: failedTiles }),
     noticeShown: () => !notice.hidden,
+    trackShown: () => ({
+        lines: track.getLayers().filter(layer => layer instanceof L.Polyline).length,
+        proposed: track.getLayers().filter(layer => layer instanceof L.CircleMarker)
+            .map(marker => marker.options.title).sort(),
+    }),
 };
 
 new QWebChannel(qt.webChannelTransport, channel => {
@@ -99,6 +127,7 @@ new QWebChannel(qt.webChannelTransport, channel => {
     bridge.pinsUpdated.connect(showPins);
     bridge.regionUpdated.connect(frame);
     bridge.mapTypeUpdated.connect(setMapType);
+    bridge.trackUpdated.connect(showTrack);
     window.tagsmithMap.connected = true;
     reportCentre();
     bridge.pageReady();

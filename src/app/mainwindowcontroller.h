@@ -33,6 +33,7 @@ class QPushButton;
 class QuickLookImageCache;
 class ResultsWindowController;
 struct ExifFilesUpdate;
+class GeotagDialog; // geotagging
 class MetadataClipboard; // copy and paste
 struct MetadataSelection;
 class PasteMetadataDialog;
@@ -197,4 +198,5 @@ private:
     QPointer<PasteMetadataDialog> m_pasteDialog;
 
     // Geotagging (mainwindowgeotag.cpp).
+    QPointer<GeotagDialog> m_geotagDialog;
 };

@@ -22,6 +22,15 @@ void MapBridge::pageReady()
     sendPins();
     if (const std::optional<MapRegion> region = m_pins->region())
         sendRegion(*region);
+    if (!m_trackLine.isEmpty() || !m_trackProposed.isEmpty())
+        Q_EMIT trackUpdated(m_trackLine, m_trackProposed);
+}
+
+void MapBridge::showTrack(const QVariantList &line, const QVariantList &proposed)
+{
+    m_trackLine = line;
+    m_trackProposed = proposed;
+    Q_EMIT trackUpdated(line, proposed);
 }
 
 void MapBridge::pinDragged(const QString &fileName, double latitude, double longitude)

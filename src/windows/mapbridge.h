@@ -23,12 +23,17 @@ public:
 
     bool isTilesFailed() const { return m_tilesFailed; }
 
+    // A track log drawn as a line, as [latitude, longitude] pairs, with the positions proposed
+    // for files as {title, latitude, longitude}; empty lists take them away.
+    void showTrack(const QVariantList &line, const QVariantList &proposed);
+
 Q_SIGNALS:
     // Each pin as {fileName, title, latitude, longitude}.
     void pinsUpdated(const QVariantList &pins);
     void regionUpdated(double latitude, double longitude, double latitudeSpan,
                        double longitudeSpan);
     void mapTypeUpdated(int type);
+    void trackUpdated(const QVariantList &line, const QVariantList &proposed);
 
 private:
     void sendPins();
@@ -36,4 +41,6 @@ private:
 
     MapPins *m_pins;
     bool m_tilesFailed = false;
+    QVariantList m_trackLine;
+    QVariantList m_trackProposed;
 };

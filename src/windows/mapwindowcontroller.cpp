@@ -114,6 +114,21 @@ void MapWindowController::setFiles(const QList<ExifFileInfoPtr> &files)
     m_pins->setFiles(files);
 }
 
+void MapWindowController::showTrack(const QList<TrackPoint> &points, const QList<MapPin> &proposed)
+{
+    QVariantList line;
+    line.reserve(points.size());
+    for (const TrackPoint &point : points)
+        line << QVariant(QVariantList{point.latitude, point.longitude});
+    QVariantList pins;
+    for (const MapPin &pin : proposed) {
+        pins << QVariantMap{{QStringLiteral("title"), pin.title},
+                            {QStringLiteral("latitude"), pin.latitude},
+                            {QStringLiteral("longitude"), pin.longitude}};
+    }
+    m_bridge->showTrack(line, pins);
+}
+
 QString MapWindowController::pagePath()
 {
     return QDir(QCoreApplication::applicationDirPath())

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "engine/exiffileinfo.h"
+#include "engine/gpxtrack.h"
+#include "windows/mappins.h"
 
 #include <QList>
 #include <QWidget>
@@ -26,6 +28,11 @@ public:
     // The main window's selection; rebuilds the pins and frames them.
     void setFiles(const QList<ExifFileInfoPtr> &files);
     const QList<ExifFileInfoPtr> &files() const { return m_files; }
+
+    // A track log and the pins it proposes, drawn apart from the files' own pins and framed;
+    // nothing is written into the files. Empty lists take the track away.
+    void showTrack(const QList<TrackPoint> &points, const QList<MapPin> &proposed);
+    void clearTrack() { showTrack({}, {}); }
 
     // The page beside the executable: Contents/Resources/map/page/map.html.
     static QString pagePath();

@@ -1,0 +1,322 @@
+#include "windows/geotagdialog.h"
+
+#include "catalogue/stringtables.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QCompleter>
+#include <QDateTimeEdit>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSpinBox>
+#include <QTimeZone>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+namespace {
+
+QString text(const char *key)
+{
+    return StringTables::instance().localizedString(QString::fromUtf8(key));
+}
+
+const QString TimeFormat = QStringLiteral("yyyy-MM-dd HH:mm:ss");
+
+} // namespace
+
+GeotagDialog::GeotagDialog(const QList<ExifFileInfoPtr> &files, QWidget *parent)
+    : QDialog(parent)
+    , m_files(files)
+{
+    setWindowTitle(text("Geotag from Track Log"));
+    resize(720, 640);
+
+    // Track logs.
+    auto *logsBox = new QGroupBox(text("Track Logs (GPX)"), this);
+    m_gpxList = new QListWidget(logsBox);
+    m_gpxList->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    m_gpxList->setMaximumHeight(80);
+    auto *addButton = new QPushButton(text("Add GPX Files…"), logsBox);
+    auto *removeButton = new QPushButton(text("Remove"), logsBox);
+    connect(addButton, &QPushButton::clicked, this, &GeotagDialog::onAddGpxFiles);
+    connect(removeButton, &QPushButton::clicked, this, &GeotagDialog::onRemoveGpxFiles);
+    m_trackLabel = new QLabel(text("No track log chosen."), logsBox);
+    m_trackLabel->setWordWrap(true);
+    auto *logButtons = new QVBoxLayout;
+    logButtons->addWidget(addButton);
+    logButtons->addWidget(removeButton);
+    logButtons->addStretch();
+    auto *logsRow = new QHBoxLayout;
+    logsRow->addWidget(m_gpxList, 1);
+    logsRow->addLayout(logButtons);
+    auto *logsLayout = new QVBoxLayout(logsBox);
+    logsLayout->addLayout(logsRow);
+    logsLayout->addWidget(m_trackLabel);
+
+    // The camera's clock.
+    auto *clockBox = new QGroupBox(text("Camera Clock"), this);
+    m_zoneCombo = new QComboBox(clockBox);
+    m_zoneCombo->setEditable(true);
+    m_zoneCombo->setInsertPolicy(QComboBox::NoInsert);
+    const QByteArray systemZone = QTimeZone::systemTimeZoneId();
+    m_zoneCombo->addItem(QString::fromLatin1(systemZone));
+    m_zoneCombo->addItem(QStringLiteral("UTC"));
+    for (const QByteArray &id : QTimeZone::availableTimeZoneIds()) {
+        if (id != systemZone && id != "UTC")
+            m_zoneCombo->addItem(QString::fromLatin1(id));
+    }
+    m_zoneCombo->completer()->setFilterMode(Qt::MatchContains);
+    m_zoneCombo->completer()->setCompletionMode(QCompleter::PopupCompletion);
+
+    m_rightButton = new QRadioButton(text("The camera's clock was right"), clockBox);
+    m_rightButton->setChecked(true);
+    m_lateButton = new QRadioButton(text("The camera was"), clockBox);
+    m_lateMinutes = new QSpinBox(clockBox);
+    m_lateMinutes->setRange(0, 24 * 60 * 7);
+    m_lateMinutes->setSuffix(text(" minutes"));
+    m_lateDirection = new QComboBox(clockBox);
+    m_lateDirection->addItem(text("late"));
+    m_lateDirection->addItem(text("early"));
+    auto *lateRow = new QHBoxLayout;
+    lateRow->addWidget(m_lateButton);
+    lateRow->addWidget(m_lateMinutes);
+    lateRow->addWidget(m_lateDirection);
+    lateRow->addStretch();
+
+    m_referenceButton = new QRadioButton(text("A photo of the GPS device's screen:"), clockBox);
+    m_referencePhoto = new QComboBox(clockBox);
+    for (const ExifFileInfoPtr &file : std::as_const(m_files))
+        m_referencePhoto->addItem(QFileInfo(file->fileName()).fileName());
+    m_referenceTime = new QDateTimeEdit(clockBox);
+    m_referenceTime->setDisplayFormat(TimeFormat);
+    m_referenceTime->setTimeSpec(Qt::UTC);
+    auto *referenceRow = new QHBoxLayout;
+    referenceRow->addWidget(m_referenceButton);
+    referenceRow->addWidget(m_referencePhoto, 1);
+    referenceRow->addWidget(new QLabel(text("showed"), clockBox));
+    referenceRow->addWidget(m_referenceTime);
+
+    auto *clockLayout = new QFormLayout(clockBox);
+    clockLayout->addRow(text("Time zone of the clock:"), m_zoneCombo);
+    clockLayout->addRow(m_rightButton);
+    clockLayout->addRow(lateRow);
+    clockLayout->addRow(referenceRow);
+
+    // Matching.
+    m_interpolate = new QCheckBox(text("Interpolate between track points"), this);
+    m_interpolate->setChecked(true);
+    m_maxGap = new QSpinBox(this);
+    m_maxGap->setRange(1, 24 * 60);
+    m_maxGap->setValue(30);
+    m_maxGap->setSuffix(text(" minutes"));
+    auto *matchRow = new QHBoxLayout;
+    matchRow->addWidget(m_interpolate);
+    matchRow->addStretch();
+    matchRow->addWidget(new QLabel(text("Largest gap between points:"), this));
+    matchRow->addWidget(m_maxGap);
+
+    m_results = new QTreeWidget(this);
+    m_results->setRootIsDecorated(false);
+    m_results->setHeaderLabels({text("File"), text("Taken (camera clock)"), text("Position")});
+    m_results->header()->setStretchLastSection(true);
+    m_results->setColumnWidth(0, 200);
+    m_results->setColumnWidth(1, 160);
+    m_summary = new QLabel(this);
+
+    auto *buttons = new QDialogButtonBox(this);
+    m_previewButton = buttons->addButton(text("Preview on Map"), QDialogButtonBox::ActionRole);
+    m_applyButton = buttons->addButton(text("Apply"), QDialogButtonBox::AcceptRole);
+    buttons->addButton(QDialogButtonBox::Cancel);
+    connect(m_previewButton, &QPushButton::clicked, this,
+            [this] { Q_EMIT previewRequested(m_track.points, proposedPins()); });
+    connect(m_applyButton, &QPushButton::clicked, this, &GeotagDialog::apply);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(logsBox);
+    layout->addWidget(clockBox);
+    layout->addLayout(matchRow);
+    layout->addWidget(m_results, 1);
+    layout->addWidget(m_summary);
+    layout->addWidget(buttons);
+
+    const auto rematchOnChange = [this] { rematch(); };
+    connect(m_zoneCombo, &QComboBox::currentTextChanged, this, rematchOnChange);
+    connect(m_rightButton, &QRadioButton::toggled, this, rematchOnChange);
+    connect(m_lateButton, &QRadioButton::toggled, this, rematchOnChange);
+    connect(m_lateMinutes, &QSpinBox::valueChanged, this, [this] {
+        m_lateButton->setChecked(true);
+        rematch();
+    });
+    connect(m_lateDirection, &QComboBox::currentIndexChanged, this, [this] {
+        m_lateButton->setChecked(true);
+        rematch();
+    });
+    connect(m_referencePhoto, &QComboBox::currentIndexChanged, this,
+            &GeotagDialog::handleReferencePhotoChanged);
+    connect(m_referenceTime, &QDateTimeEdit::dateTimeChanged, this, [this] {
+        m_referenceButton->setChecked(true);
+        rematch();
+    });
+    connect(m_interpolate, &QCheckBox::toggled, this, rematchOnChange);
+    connect(m_maxGap, &QSpinBox::valueChanged, this, rematchOnChange);
+
+    handleReferencePhotoChanged();
+    m_rightButton->setChecked(true);
+    rematch();
+}
+
+void GeotagDialog::setGpxFiles(const QStringList &paths)
+{
+    m_gpxFiles = paths;
+    m_gpxList->clear();
+    for (const QString &path : paths)
+        m_gpxList->addItem(QFileInfo(path).fileName());
+    m_track = GpxTrack::readFiles(paths);
+
+    QStringList lines = m_track.errors;
+    if (!m_track.isEmpty()) {
+        lines.prepend(text("%1 points from %2 to %3 (UTC).")
+                          .arg(m_track.points.size())
+                          .arg(m_track.points.first().time.toString(TimeFormat),
+                               m_track.points.last().time.toString(TimeFormat)));
+    } else if (paths.isEmpty()) {
+        lines << text("No track log chosen.");
+    }
+    m_trackLabel->setText(lines.join(u'\n'));
+    rematch();
+}
+
+GeotagOptions GeotagDialog::options() const
+{
+    GeotagOptions options;
+    const QTimeZone zone(m_zoneCombo->currentText().trimmed().toLatin1());
+    options.clock.zone = zone.isValid() ? zone : QTimeZone::utc();
+    if (m_lateButton->isChecked()) {
+        const qint64 seconds = qint64(m_lateMinutes->value()) * 60;
+        options.clock.correctionSeconds = m_lateDirection->currentIndex() == 0 ? seconds : -seconds;
+    } else if (m_referenceButton->isChecked()) {
+        const int row = m_referencePhoto->currentIndex();
+        const QDateTime reading =
+            row >= 0 && row < m_files.size()
+                ? GeotagMatcher::parseWallClock(GeotagMatcher::captureTime(*m_files[row]))
+                : QDateTime();
+        if (reading.isValid()) {
+            options.clock.correctionSeconds =
+                CameraClock::correctionFromReference(reading, m_referenceTime->dateTime());
+        }
+    }
+    options.interpolate = m_interpolate->isChecked();
+    options.maxGapSeconds = qint64(m_maxGap->value()) * 60;
+    return options;
+}
+
+QList<MapPin> GeotagDialog::proposedPins() const
+{
+    QList<MapPin> pins;
+    for (const auto &[file, match] : m_matches) {
+        if (match.isMatched()) {
+            pins << MapPin{file->fileName(), QFileInfo(file->fileName()).fileName(), match.latitude,
+                           match.longitude};
+        }
+    }
+    return pins;
+}
+
+QString GeotagDialog::describe(const GeotagMatch &match)
+{
+    switch (match.status) {
+    case GeotagStatus::Exact:
+    case GeotagStatus::Interpolated:
+    case GeotagStatus::Nearest: {
+        QString position = QString::number(match.latitude, 'f', 6) + u", "_qs +
+                           QString::number(match.longitude, 'f', 6);
+        if (match.altitude)
+            position += u", "_qs + QString::number(*match.altitude, 'f', 1) + u" m"_qs;
+        return position;
+    }
+    case GeotagStatus::NoCaptureTime:
+        return text("not matched: no capture time");
+    case GeotagStatus::BeforeTrack:
+        return text("not matched: before the track");
+    case GeotagStatus::AfterTrack:
+        return text("not matched: after the track");
+    case GeotagStatus::InGap:
+        return text("not matched: in a gap of %1 minutes").arg((match.gapSeconds + 59) / 60);
+    }
+    return {};
+}
+
+void GeotagDialog::apply()
+{
+    const QList<ExifFileInfoPtr> changed = applyGeotagMatches(m_matches, this);
+    Q_EMIT applied(changed);
+    accept();
+}
+
+void GeotagDialog::onAddGpxFiles()
+{
+    const QStringList paths = QFileDialog::getOpenFileNames(
+        this, text("Choose Track Logs"), QString(), text("GPS track logs (*.gpx *.GPX)"));
+    if (paths.isEmpty())
+        return;
+    QStringList all = m_gpxFiles;
+    for (const QString &path : paths) {
+        if (!all.contains(path))
+            all << path;
+    }
+    setGpxFiles(all);
+}
+
+void GeotagDialog::onRemoveGpxFiles()
+{
+    QStringList kept;
+    for (int row = 0; row < m_gpxFiles.size(); ++row) {
+        if (!m_gpxList->item(row)->isSelected())
+            kept << m_gpxFiles[row];
+    }
+    setGpxFiles(kept);
+}
+
+void GeotagDialog::handleReferencePhotoChanged()
+{
+    const int row = m_referencePhoto->currentIndex();
+    const QDateTime reading =
+        row >= 0 && row < m_files.size()
+            ? GeotagMatcher::parseWallClock(GeotagMatcher::captureTime(*m_files[row]))
+            : QDateTime();
+    // Start from what the camera recorded; the user types what the screen showed.
+    const QSignalBlocker blocker(m_referenceTime);
+    m_referenceTime->setDateTime(reading.isValid() ? reading : QDateTime::currentDateTimeUtc());
+    m_referenceButton->setChecked(true);
+    rematch();
+}
+
+void GeotagDialog::rematch()
+{
+    const GeotagMatcher matcher(m_track.points, options());
+    m_matches.clear();
+    m_results->clear();
+    int matched = 0;
+    for (const ExifFileInfoPtr &file : std::as_const(m_files)) {
+        const GeotagMatch match = m_track.isEmpty() ? GeotagMatch{} : matcher.matchFile(*file);
+        m_matches << FileMatch{file, match};
+        matched += match.isMatched() ? 1 : 0;
+        auto *item = new QTreeWidgetItem(m_results);
+        item->setText(0, QFileInfo(file->fileName()).fileName());
+        item->setText(1, GeotagMatcher::captureTime(*file));
+        item->setText(2, m_track.isEmpty() ? QString() : describe(match));
+    }
+    m_summary->setText(text("%1 of %2 files matched.").arg(matched).arg(m_files.size()));
+    m_applyButton->setEnabled(matched > 0);
+    m_previewButton->setEnabled(!m_track.isEmpty());
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "engine/exiffileinfo.h"
+#include "engine/geotagmatcher.h"
+
+#include <QList>
+#include <QPair>
+
+using FileMatch = QPair<ExifFileInfoPtr, GeotagMatch>;
+
+// Puts matched positions into the files' current values the way a dragged map pin does, and
+// announces each changed key once for all files that got it, so the form, the file list and the
+// map follow. Unmatched files are left alone. Returns the files changed.
+QList<ExifFileInfoPtr> applyGeotagMatches(const QList<FileMatch> &matches, const void *source);
