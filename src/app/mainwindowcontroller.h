@@ -190,6 +190,8 @@ private:
     bool m_closeAfterSaving = false;
 
     // Review and revert (mainwindowreview.cpp).
+    QList<ExifFileInfoPtr> filesToRevert() const;
+    QPointer<class ReviewChangesWindowController> m_reviewWindow;
 
     // Copy and paste (mainwindowcopy.cpp).
     void pasteSelection(const MetadataSelection &selection);
