@@ -1,0 +1,125 @@
+#include "catalogue/exiffieldscontroller.h"
+#include "windows/reviewchangesmodel.h"
+#include "windows/reviewchangeswindowcontroller.h"
+
+#include <QAbstractItemModelTester>
+#include <QElapsedTimer>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTableView>
+#include <QtTest>
+
+namespace {
+
+const QString Software = u"IFD0:Software"_qs;
+const QString Title = u"XMP-dc:Title"_qs;
+const QString Taken = u"ExifIFD:DateTimeOriginal"_qs;
+const QString Keywords = u"IPTC:Keywords"_qs;
+
+ExifFileInfoPtr makeFile(const QString &path, const TagDictionary &original)
+{
+    auto file = std::make_shared<ExifFileInfo>(path);
+    file->setReadData(original);
+    return file;
+}
+
+// "file | key | on disk | after saving" per row, in the model's order.
+QStringList rowsOf(const QAbstractItemModel &model)
+{
+    QStringList rows;
+    for (int row = 0; row < model.rowCount(); ++row) {
+        rows << QStringList{model.index(row, 0).data().toString(),
+                            model.index(row, 0).data(ReviewChangesModel::KeyRole).toString(),
+                            model.index(row, 2).data().toString(),
+                            model.index(row, 3).data().toString()}
+                    .join(u" | "_qs);
+    }
+    return rows;
+}
+
+} // namespace
+
+class TestReviewChanges : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { ExifFieldsController::defaultInstance()->initializeConfigurations(); }
+
+    void rowsShowWhatTheSaveWillWrite_data()
+    {
+        QTest::addColumn<TagDictionary>("original");
+        QTest::addColumn<TagDictionary>("current");
+        QTest::addColumn<QStringList>("rows");
+
+        const TagDictionary disk{
+            {Software, u"Old"_qs}, {Taken, u"2010:05:01 10:00:00"_qs}, {Keywords, u"a, b"_qs}};
+        TagDictionary changed = disk;
+        changed.insert(Software, u"New"_qs);
+        QTest::newRow("changed") << disk << changed
+                                 << QStringList{u"a.jpg | IFD0:Software | Old | New"_qs};
+        TagDictionary added = disk;
+        added.insert(Title, u"Hello"_qs);
+        QTest::newRow("added") << disk << added
+                               << QStringList{u"a.jpg | XMP-dc:Title |  | Hello"_qs};
+        TagDictionary removed = disk;
+        removed.remove(Keywords);
+        QTest::newRow("removed") << disk << removed
+                                 << QStringList{u"a.jpg | IPTC:Keywords | a, b | (removed)"_qs};
+        TagDictionary blanked = disk;
+        blanked.insert(Software, QString());
+        QTest::newRow("blanked") << disk << blanked
+                                 << QStringList{u"a.jpg | IFD0:Software | Old | (removed)"_qs};
+        TagDictionary shifted = disk;
+        shifted.insert(Taken, u"+1d2h"_qs);
+        QTest::newRow("date shift")
+            << disk << shifted
+            << QStringList{u"a.jpg | ExifIFD:DateTimeOriginal | 2010:05:01 10:00:00 | "
+                           u"2010:05:02 12:00:00"_qs};
+        QTest::newRow("unmodified") << disk << disk << QStringList{};
+    }
+
+    void rowsShowWhatTheSaveWillWrite()
+    {
+        QFETCH(TagDictionary, original);
+        QFETCH(TagDictionary, current);
+        QFETCH(QStringList, rows);
+        ExifFileInfoPtr file = makeFile(u"/photos/a.jpg"_qs, original);
+        file->setExifData(current);
+        ReviewChangesModel model;
+        QAbstractItemModelTester tester(&model);
+        model.setFiles({file});
+        QCOMPARE(rowsOf(model), rows);
+        QCOMPARE(model.fileCount(), rows.isEmpty() ? 0 : 1);
+    }
+
+    void filtersAndSave()
+    {
+        QList<ExifFileInfoPtr> files;
+        for (const QString &name : {u"beach.jpg"_qs, u"city.jpg"_qs}) {
+            ExifFileInfoPtr file = makeFile(u"/photos/"_qs + name, {{Software, u"Old"_qs}});
+            file->setExifValue(Software, u"New"_qs);
+            file->setExifValue(Title, u"Title"_qs);
+            files << file;
+        }
+        ReviewChangesWindowController window;
+        window.setFiles(files);
+        QCOMPARE(window.summaryText(), u"4 changes in 2 files"_qs);
+
+        window.fileFilterField()->setText(u"BEA"_qs);
+        window.tagFilterField()->setText(u"title"_qs);
+        QCOMPARE(rowsOf(*window.table()->model()),
+                 QStringList{u"beach.jpg | XMP-dc:Title |  | Title"_qs});
+        QCOMPARE(window.summaryText(), u"4 changes in 2 files, 1 shown"_qs);
+
+        QSignalSpy save(&window, &ReviewChangesWindowController::saveRequested);
+        window.show();
+        window.saveButton()->click();
+        QCOMPARE(save.count(), 1);
+        QVERIFY(!window.isVisible());
+    }
+};
+
+QTEST_MAIN(TestReviewChanges)
+#include "tst_reviewchanges.moc"
