@@ -44,6 +44,8 @@ QVariant FileListModel::data(const QModelIndex &index, int role) const
         return file.hasError() ? errorText() : QString();
     case FileInfoCell::ModifiedRole:
         return isExifFileModified(file);
+    case FileInfoCell::SidecarRole:
+        return QFileInfo(file.sidecarPath()).fileName();
     default:
         return {};
     }

@@ -107,8 +107,26 @@ void FileInfoCell::paint(QPainter *painter, const QStyleOptionViewItem &option,
     }
     painter->setPen(textColor);
     const QFontMetricsF titleMetrics(painter->font());
-    painter->drawText(titleFrame, Qt::AlignLeft | Qt::AlignVCenter,
-                      titleMetrics.elidedText(title, Qt::ElideMiddle, titleFrame.width()));
+    const QString sidecar = index.data(SidecarRole).toString();
+    // The sidecar's mark keeps up to half the line; the name gives way first.
+    const QString sidecarMark = sidecar.isEmpty()
+                                    ? QString()
+                                    : metrics.elidedText(QStringLiteral("+ ") + sidecar,
+                                                         Qt::ElideMiddle, titleFrame.width() / 2);
+    const qreal markWidth =
+        sidecarMark.isEmpty() ? 0 : metrics.horizontalAdvance(sidecarMark) + textIndent;
+    const QString shownTitle =
+        titleMetrics.elidedText(title, Qt::ElideMiddle, titleFrame.width() - markWidth);
+    painter->drawText(titleFrame, Qt::AlignLeft | Qt::AlignVCenter, shownTitle);
+    if (!sidecarMark.isEmpty()) {
+        painter->setFont(opt.font);
+        QColor markColor = textColor;
+        markColor.setAlphaF(0.65f);
+        painter->setPen(markColor);
+        const QRectF markFrame =
+            titleFrame.adjusted(titleMetrics.horizontalAdvance(shownTitle) + textIndent, 0, 0, 0);
+        painter->drawText(markFrame, Qt::AlignLeft | Qt::AlignVCenter, sidecarMark);
+    }
 
     painter->setFont(opt.font);
     QColor subtitleColor = textColor;

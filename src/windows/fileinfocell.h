@@ -22,6 +22,8 @@ public:
         ErrorTextRole,
         HasErrorRole,
         ModifiedRole,
+        // The name of the XMP sidecar read with the file, shown after its name; empty if none.
+        SidecarRole,
     };
 
     struct Frames
