@@ -9,6 +9,7 @@
 #include "values/dateoffset.h"
 #include "values/logging.h"
 #include "values/tagsmithexception.h"
+#include "values/zoneshift.h"
 
 #include <QCheckBox>
 #include <QDateTimeEdit>
@@ -139,12 +140,20 @@ void DateEditorView::buildRows()
                     Qt::AlignRight);
     m_originalLabel = new QLabel(this);
     grid->addWidget(m_originalLabel, 4, 1);
+    m_moveZoneBox =
+        new QCheckBox(localized(QStringLiteral("Move the time zone too (same instant)")), this);
+    m_moveZoneBox->hide();
+    grid->addWidget(m_moveZoneBox, 5, 1);
     grid->setColumnStretch(1, 1);
 
     for (QLabel *label : {m_emptyTitle, m_newTitle, m_dateLabel, m_offsetTitle, m_offsetLabel})
         label->installEventFilter(this);
 
     connect(m_emptyBox, &QCheckBox::clicked, this, [this] { disableEnableButtonPressed(); });
+    connect(m_moveZoneBox, &QCheckBox::clicked, this, [this] {
+        if (!m_emptyBox->isChecked())
+            saveValue();
+    });
     connect(m_datePicker, &QDateTimeEdit::dateTimeChanged, this, &DateEditorView::onDateProposed);
     connect(m_offsetField, &DateOffsetField::dateOffsetChanged, this,
             &DateEditorView::onOffsetChanged);
@@ -189,10 +198,18 @@ void DateEditorView::setExifFiles(const QList<ExifFileInfoPtr> &files)
     const QString key = m_field->xmlName();
     m_files = files;
     m_baseOriginals.clear();
+    m_baseZones.clear();
+    const QString zoneKey = zoneTagForDateKey(key);
+    bool zoneMoved = false;
     QSet<DateComponents> offsets;
     for (const ExifFileInfoPtr &file : files) {
         const QString original = file->originalExifData().value(key);
         m_baseOriginals.insert(file->fileName(), original);
+        if (const QString zone = file->originalExifData().value(zoneKey);
+            !zoneKey.isEmpty() && !zone.isEmpty()) {
+            m_baseZones.insert(file->fileName(), zone);
+            zoneMoved = zoneMoved || file->exifValue(zoneKey) != zone;
+        }
         const QString current = file->exifValue(key);
         if (current.isEmpty())
             continue;
@@ -206,6 +223,8 @@ void DateEditorView::setExifFiles(const QList<ExifFileInfoPtr> &files)
             offsets.insert(wallClockOffset(originalDate, currentDate));
     }
     setOriginalDate(files.isEmpty() ? QString() : originalValue(files.first()));
+    m_moveZoneBox->setVisible(!m_baseZones.isEmpty());
+    m_moveZoneBox->setChecked(zoneMoved);
 
     const QString clickText = m_type == DateEditorTypeDateTime
                                   ? localized(QStringLiteral("Click to change the time"))
@@ -432,9 +451,32 @@ void DateEditorView::saveValue(const QDateTime &date)
         }
         file->setExifValue(key, value);
     }
+    const bool movesZone = shifts && !isZeroShift && m_moveZoneBox->isChecked();
+    updateZones(movesZone ? std::optional(parseDateOffset(*newValue)) : std::nullopt);
     // Unlike the row editors the panel names no source: the row showing the field must refresh.
     ExifFilesUpdateCenter::instance().post(key, m_files, newValue, m_files, nullptr);
     queueSave();
+}
+
+void DateEditorView::updateZones(const std::optional<DateComponents> &shift)
+{
+    const QString zoneKey = zoneTagForDateKey(m_field->xmlName());
+    QList<ExifFileInfoPtr> changed;
+    for (const ExifFileInfoPtr &file : std::as_const(m_files)) {
+        const auto base = m_baseZones.constFind(file->fileName());
+        if (base == m_baseZones.cend())
+            continue;
+        // A zone that cannot move as far (beyond +14:00) keeps its value rather than a wrong one.
+        const QString zone = shift ? shiftZoneText(*base, *shift).value_or(*base) : *base;
+        if (file->exifValue(zoneKey) == zone)
+            continue;
+        file->setExifValue(zoneKey, zone);
+        changed << file;
+    }
+    if (!changed.isEmpty()) {
+        ExifFilesUpdateCenter::instance().post(
+            zoneKey, changed, changed.first()->exifValue(zoneKey), changed, nullptr);
+    }
 }
 
 void DateEditorView::restoreOriginal(const ExifFileInfoPtr &file) const

@@ -63,6 +63,9 @@ public:
     QLabel *originalLabel() const { return m_originalLabel; }
     QCheckBox *emptyBox() const { return m_emptyBox; }
     QLabel *emptyTitle() const { return m_emptyTitle; }
+    // Shown only when a file carries the date's zone tag: a shift then moves the zone as well,
+    // keeping the instant. Off, the zone tags keep their original values.
+    QCheckBox *moveZoneBox() const { return m_moveZoneBox; }
 
     // ExifBackgroundRunnerListener; calls are passed on to the listener the runner had before.
     void fileToBeProcessed(const ExifFileInfoPtr &file, const ExifOperationStatus &status) override;
@@ -91,12 +94,15 @@ private:
     QString labelText(const QDateTime &date, bool mediumDate) const;
     void queueSave();
     void restoreRunnerListener();
+    void updateZones(const std::optional<DateComponents> &shift);
 
     ExifFieldPtr m_field;
     DateEditorType m_type;
     QList<ExifFileInfoPtr> m_files;
     // File name -> the original value when the files were handed over.
     QHash<QString, QString> m_baseOriginals;
+    // File name -> the zone tag's original value, for the files that have one.
+    QHash<QString, QString> m_baseZones;
     int m_focus = FocusDate;
     bool m_settingExifFiles = false;
     bool m_disableNotification = false;
@@ -110,6 +116,7 @@ private:
     DateOffsetField *m_offsetField = nullptr;
     QLabel *m_offsetLabel = nullptr;
     QLabel *m_originalLabel = nullptr;
+    QCheckBox *m_moveZoneBox = nullptr;
 
     QPointer<ExifBackgroundRunner> m_runner;
     ExifBackgroundRunnerListener *m_nextListener = nullptr;
