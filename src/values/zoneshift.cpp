@@ -28,7 +28,7 @@ std::optional<QString> shiftZoneText(const QString &zone, const DateComponents &
         return std::nullopt;
     const qint64 magnitude = moved < 0 ? -moved : moved;
     return QStringLiteral("%1%2:%3")
-        .arg(moved < 0 ? u'-' : u'+')
+        .arg(QChar(moved < 0 ? u'-' : u'+'))
         .arg(magnitude / 60, 2, 10, QLatin1Char('0'))
         .arg(magnitude % 60, 2, 10, QLatin1Char('0'));
 }
