@@ -5,6 +5,7 @@
 #include "values/dateoffset.h"
 #include "values/datevalue.h"
 
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QFont>
 
@@ -12,15 +13,31 @@
 
 ReviewChangesModel::ReviewChangesModel(QObject *parent)
     : QAbstractTableModel(parent)
+    , m_fill(new QTimer(this))
 {
+    m_fill->setSingleShot(true);
+    m_fill->setInterval(0);
+    connect(m_fill, &QTimer::timeout, this, &ReviewChangesModel::appendSlice);
 }
 
 void ReviewChangesModel::setFiles(const QList<ExifFileInfoPtr> &files)
 {
+    m_fill->stop();
     beginResetModel();
     m_paths.clear();
     m_names.clear();
     m_rows.clear();
+    m_pending = files;
+    m_next = 0;
+    endResetModel();
+    appendSlice();
+}
+
+void ReviewChangesModel::appendSlice()
+{
+    constexpr qint64 sliceMs = 25;
+    QElapsedTimer clock;
+    clock.start();
     const ExifFieldsController *catalogue = ExifFieldsController::defaultInstance();
     const auto tagOf = [&](const QString &key) {
         const ExifFieldPtr field = catalogue->field(key);
@@ -28,8 +45,10 @@ void ReviewChangesModel::setFiles(const QList<ExifFileInfoPtr> &files)
                    ? field->title() + QStringLiteral(" (") + key + u')'
                    : key;
     };
-    for (const ExifFileInfoPtr &file : files) {
-        if (!file || !isExifFileModified(*file))
+    QList<Row> slice;
+    while (m_next < m_pending.size() && !clock.hasExpired(sliceMs)) {
+        const ExifFileInfoPtr file = m_pending.at(m_next++);
+        if (!file)
             continue;
         const TagDictionary original = file->originalExifData();
         const TagDictionary changes = ExifUtil::changedFieldsDictionary(*file);
@@ -68,10 +87,20 @@ void ReviewChangesModel::setFiles(const QList<ExifFileInfoPtr> &files)
                   [](const Row &a, const Row &b) { return a.tag < b.tag; });
         m_paths.append(file->fileName());
         m_names.append(QFileInfo(file->fileName()).fileName());
-        m_rows += rows;
+        slice += rows;
     }
-    m_fileCount = int(m_paths.size());
-    endResetModel();
+    if (!slice.isEmpty()) {
+        beginInsertRows({}, int(m_rows.size()), int(m_rows.size() + slice.size() - 1));
+        m_rows += slice;
+        endInsertRows();
+    }
+    if (isFilling()) {
+        m_fill->start();
+        return;
+    }
+    m_pending.clear();
+    m_next = 0;
+    Q_EMIT filled();
 }
 
 int ReviewChangesModel::rowCount(const QModelIndex &parent) const

@@ -6,6 +6,7 @@
 #include <QList>
 #include <QSortFilterProxyModel>
 #include <QString>
+#include <QTimer>
 
 // What a save will write, one row per tag of each modified file: the value on disk and the one
 // the save will leave (a removal shown as such, a date shift as the date it produces).
@@ -20,10 +21,16 @@ public:
 
     explicit ReviewChangesModel(QObject *parent = nullptr);
 
-    // Files without pending edits add no rows.
+    // Files without pending edits add no rows. The rows come in slices of a few milliseconds,
+    // so a window over thousands of files shows at once and fills while the user looks.
     void setFiles(const QList<ExifFileInfoPtr> &files);
-    int fileCount() const { return m_fileCount; }
+    int fileCount() const { return int(m_paths.size()); }
+    bool isFilling() const { return m_next < m_pending.size(); }
 
+Q_SIGNALS:
+    void filled();
+
+public:
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
@@ -31,6 +38,8 @@ public:
                         int role = Qt::DisplayRole) const override;
 
 private:
+    void appendSlice();
+
     struct Row
     {
         int file; // into m_paths
@@ -44,7 +53,9 @@ private:
     QList<QString> m_paths;
     QList<QString> m_names;
     QList<Row> m_rows;
-    int m_fileCount = 0;
+    QList<ExifFileInfoPtr> m_pending;
+    qsizetype m_next = 0;
+    QTimer *m_fill = nullptr;
 };
 
 // Keeps the rows whose file and tag contain the two filter texts, case aside.

@@ -53,6 +53,10 @@ ReviewChangesWindowController::ReviewChangesWindowController(QWidget *parent)
     header->resizeSection(ReviewChangesModel::OnDiskColumn, 200);
 
     m_summary = new QLabel(this);
+    connect(m_model, &QAbstractItemModel::rowsInserted, this,
+            &ReviewChangesWindowController::updateSummary);
+    connect(m_model, &ReviewChangesModel::filled, this,
+            &ReviewChangesWindowController::updateSummary);
     // What a later revert can and cannot give back, said before the save rather than after.
     auto *note = new QLabel(
         tr("Revert Last Save can take this save back: it restores these tags, removes the ones "
@@ -90,7 +94,6 @@ ReviewChangesWindowController::~ReviewChangesWindowController() = default;
 void ReviewChangesWindowController::setFiles(const QList<ExifFileInfoPtr> &files)
 {
     m_model->setFiles(files);
-    m_save->setEnabled(m_model->rowCount() > 0);
     updateSummary();
 }
 
@@ -115,7 +118,10 @@ void ReviewChangesWindowController::updateSummary()
                    (files == 1 ? tr(" in 1 file") : tr(" in %1 files").arg(files));
     if (shown != total)
         text += tr(", %1 shown").arg(shown);
-    if (total == 0)
+    if (m_model->isFilling())
+        text += tr(" so far");
+    else if (total == 0)
         text = tr("No changes to save");
+    m_save->setEnabled(total > 0);
     m_summary->setText(text);
 }
