@@ -31,32 +31,6 @@ private Q_SLOTS:
         ExifFieldsController::defaultInstance()->initializeConfigurations();
     }
 
-    void fileSpecificTags_data()
-    {
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<bool>("specific");
-        QTest::newRow("file name") << u"System:FileName"_qs << true;
-        QTest::newRow("computed") << u"Composite:ImageSize"_qs << true;
-        QTest::newRow("file type") << u"File:FileType"_qs << true;
-        QTest::newRow("exif width") << u"ExifIFD:ExifImageWidth"_qs << true;
-        QTest::newRow("thumbnail") << u"IFD1:ThumbnailOffset"_qs << true;
-        QTest::newRow("preview in maker notes") << u"Canon:PreviewImageStart"_qs << true;
-        QTest::newRow("maker-note offset") << u"ExifIFD:MakerNoteOffset"_qs << true;
-        QTest::newRow("document name") << u"IFD0:DocumentName"_qs << true;
-        QTest::newRow("unique id") << u"ExifIFD:ImageUniqueID"_qs << true;
-        QTest::newRow("xmp instance") << u"XMP-xmpMM:InstanceID"_qs << true;
-        QTest::newRow("caption") << u"IPTC:Caption-Abstract"_qs << false;
-        QTest::newRow("artist") << u"IFD0:Artist"_qs << false;
-        QTest::newRow("gps") << u"GPS:GPSLatitude"_qs << false;
-        QTest::newRow("maker field") << u"Canon:OwnerName"_qs << false;
-    }
-    void fileSpecificTags()
-    {
-        QFETCH(QString, key);
-        QFETCH(bool, specific);
-        QCOMPARE(MetadataClipboard::isFileSpecific(key), specific);
-    }
-
     // The whole road: copy from one file, paste one section into three, save each through the
     // engine and read the files back with ExifTool.
     void chosenSectionReachesThreeFilesOnDisk()
