@@ -3,6 +3,7 @@
 #include "catalogue/exiffieldscontroller.h"
 #include "engine/exifrunner.h"
 #include "engine/exifrunnersaveoperation.h"
+#include "engine/exiftoolsession.h"
 #include "../support/fixtures.h"
 #include "values/usersettings.h"
 
@@ -59,6 +60,7 @@ private Q_SLOTS:
         QVERIFY(!clipboard.values().contains(u"IFD0:DocumentName"_qs));
         QVERIFY(!clipboard.values().contains(u"ExifIFD:ImageUniqueID"_qs));
 
+        PersistentExifToolSession session(Fixtures::exifTool());
         MetadataSelection caption;
         caption.sections.insert(MetadataSelection::sectionKey(u"Description"_qs, u"Caption"_qs));
         for (const ExifFileInfoPtr &target : std::as_const(targets)) {
@@ -72,6 +74,7 @@ private Q_SLOTS:
             auto save = ExifRunnerSaveOperation::create(
                 target, ExifRunnerFileModifiyOperation::ReReadOption);
             QVERIFY(save);
+            save->setExifToolSession(&session);
             save->run();
             QCOMPARE(save->errors()->errorsCount(), quint64(0));
         }

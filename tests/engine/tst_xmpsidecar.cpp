@@ -3,6 +3,7 @@
 #include "catalogue/exiffieldscontroller.h"
 #include "engine/exifrunner.h"
 #include "engine/exifrunnersaveoperation.h"
+#include "engine/exiftoolsession.h"
 #include "engine/exifutil.h"
 #include "../support/fixtures.h"
 #include "values/usersettings.h"
@@ -40,10 +41,12 @@ ExifFileInfoPtr readFile(const QString &path)
 // Saves as the runner does, including the update of the record on the main thread.
 ErrorMessagesPtr save(const ExifFileInfoPtr &file)
 {
+    static PersistentExifToolSession session(Fixtures::exifTool());
     auto operation =
         ExifRunnerSaveOperation::create(file, ExifRunnerFileModifiyOperation::ReReadOption);
     if (!operation)
         return nullptr;
+    operation->setExifToolSession(&session);
     operation->run();
     operation->postProcessInMainThread();
     return operation->errors();
