@@ -87,8 +87,11 @@ function showTrack(line, proposed) {
         track.addLayer(marker);
         bounds.extend(marker.getLatLng());
     }
-    if (bounds.isValid())
+    if (bounds.isValid()) {
+        // The window may have been resized since the page last measured it.
+        map.invalidateSize();
         map.fitBounds(bounds, { padding: [40, 40], maxZoom: 17 });
+    }
 }
 
 function frame(latitude, longitude, latitudeSpan, longitudeSpan) {
