@@ -2,12 +2,14 @@
 
 #include "engine/errormessages.h"
 #include "engine/exiftoolsession.h"
+#include "values/usersettings.h"
 
 #include <QCoreApplication>
 
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QMutex>
@@ -35,13 +37,19 @@ QString directoryLocked()
 {
     if (!s_directory.isEmpty())
         return s_directory;
+    // Settings kept elsewhere (as tests do) take the records along, out of the user's folder.
+    const QString settings = UserSettings::storeFile();
+    if (!settings.isEmpty())
+        return QFileInfo(settings).path() + QStringLiteral("/revert");
     return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) +
            QStringLiteral("/revert");
 }
 
 QSet<QString> &namesLocked()
 {
-    if (!s_names) {
+    static QString namesDirectory;
+    if (!s_names || namesDirectory != directoryLocked()) {
+        namesDirectory = directoryLocked();
         const QStringList entries =
             QDir(directoryLocked()).entryList({QStringLiteral("*.json")}, QDir::Files);
         s_names = QSet<QString>(entries.cbegin(), entries.cend());

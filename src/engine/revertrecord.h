@@ -34,7 +34,8 @@ struct RevertEntry
 class RevertRecord
 {
 public:
-    // Where records live; tests point it at a temporary folder. Empty restores the default.
+    // Where records live: by default "revert" in the per-user data folder, or beside a settings
+    // store set apart with UserSettings::setStoreFile. Empty restores the default.
     static void setDirectory(const QString &directory);
     static QString directory();
 

@@ -2,6 +2,7 @@
 #include "engine/exifbackgroundrunner.h"
 #include "engine/exifrunner.h"
 #include "engine/exifrunnerrevertoperation.h"
+#include "engine/exifutil.h"
 #include "engine/revertrecord.h"
 #include "values/usersettings.h"
 
@@ -10,8 +11,6 @@
 
 #include <QTemporaryDir>
 #include <QtTest>
-
-#include <sys/stat.h>
 
 namespace {
 
@@ -136,7 +135,7 @@ private Q_SLOTS:
         QVERIFY2(after == before, qPrintable(difference(before, after)));
         QVERIFY(!RevertRecord::contains(path));
         // Nothing is left pending: the window shows the file as it is.
-        QVERIFY(!isModified(file));
+        QVERIFY(!isExifFileModified(*file));
     }
 
     void fileChangedSinceTheSaveIsLeftAlone()
@@ -165,8 +164,6 @@ private Q_SLOTS:
     }
 
 private:
-    static bool isModified(const ExifFileInfoPtr &file);
-
     ExifFileInfoPtr load(const QString &path)
     {
         auto file = std::make_shared<ExifFileInfo>(path);
@@ -195,13 +192,6 @@ private:
     // One for the whole test: ExifTool starts once.
     std::unique_ptr<ExifBackgroundRunner> m_runner;
 };
-
-#include "engine/exifutil.h"
-
-bool TestRevert::isModified(const ExifFileInfoPtr &file)
-{
-    return isExifFileModified(*file);
-}
 
 QTEST_GUILESS_MAIN(TestRevert)
 #include "tst_revert.moc"
