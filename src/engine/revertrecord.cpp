@@ -186,7 +186,8 @@ void RevertRecord::storeAfterSave(std::optional<RevertEntry> entry,
 {
     if (!entry)
         return;
-    if (reRead) {
+    // Without a full earlier read every tag would look new, and a revert would strip them all.
+    if (reRead && original.contains(QStringLiteral("File:FileType"))) {
         for (auto it = reRead->cbegin(); it != reRead->cend(); ++it) {
             const QString &key = it.key();
             if (original.contains(key) || entry->previous.contains(key) ||
