@@ -95,6 +95,24 @@ void ExifRunnerRevertOperation::postProcessInMainThread()
     ExifRunnerFileModifiyOperation::postProcessInMainThread();
 }
 
+void ExifRunnerRevertOperation::verifyWrittenValues(const TagDictionary &written,
+                                                    ErrorMessages &errors)
+{
+    // Values are compared by presence only: the record holds ExifTool's raw form, the read-back
+    // its display form.
+    for (auto it = m_entry.previous.constBegin(); it != m_entry.previous.constEnd(); ++it) {
+        // A language alternative's other languages ("XMP-dc:Title-de") need not read back as
+        // tags of their own.
+        const bool languageVariant = it.key().count(u'-') > 1;
+        if (!written.contains(it.key()) && !languageVariant)
+            errors.addWarning(tr("%1 could not be restored.").arg(it.key()));
+    }
+    for (const QString &key : m_entry.absent) {
+        if (written.contains(key))
+            errors.addWarning(tr("%1 is still in the file after the revert.").arg(key));
+    }
+}
+
 std::optional<QDateTime> ExifRunnerRevertOperation::findDateForFile(const QString &key) const
 {
     // The working values still hold what was saved; the file's date follows what it reverts to.

@@ -24,6 +24,7 @@ public:
     QStringList exifToolArguments(const QString &importPath) const;
 
 protected:
+    void verifyWrittenValues(const TagDictionary &written, ErrorMessages &errors) override;
     std::optional<QDateTime> findDateForFile(const QString &key) const override;
 
 private:

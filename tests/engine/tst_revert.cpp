@@ -77,23 +77,22 @@ private Q_SLOTS:
                                u"-GPS:GPSLatitude=10.5"_qs,
                                u"-GPS:GPSLatitudeRef=N"_qs,
                                u"-XMP-dc:Description=1.50"_qs};
-        QTest::newRow("text, enum, date")
+        QTest::newRow("text, enum, date, gps")
             << rich
             << Edits{{u"IFD0:Software"_qs, u"New app"_qs},
                      {u"XMP-dc:Description"_qs, u"Now words"_qs},
                      {u"IFD0:Orientation"_qs, u"6"_qs},
-                     {u"ExifIFD:DateTimeOriginal"_qs, u"2021:12:31 23:59:58"_qs}};
+                     {u"ExifIFD:DateTimeOriginal"_qs, u"2021:12:31 23:59:58"_qs},
+                     {u"GPS:GPSLatitude"_qs, u"33.8688"_qs},
+                     {u"GPS:GPSLatitudeRef"_qs, u"S"_qs},
+                     {u"GPS:GPSLongitude"_qs, u"151.2093"_qs},
+                     {u"GPS:GPSLongitudeRef"_qs, u"E"_qs}};
         QTest::newRow("lists, language alternative, date shift")
             << rich
             << Edits{{u"IPTC:Keywords"_qs, u"a, b\\, c, d"_qs},
                      {u"XMP-dc:Subject"_qs, u"three"_qs},
                      {u"XMP-dc:Title"_qs, u"Bonjour"_qs},
                      {u"ExifIFD:DateTimeOriginal"_qs, u"+1d2h"_qs}};
-        QTest::newRow("gps") << rich
-                             << Edits{{u"GPS:GPSLatitude"_qs, u"33.8688"_qs},
-                                      {u"GPS:GPSLatitudeRef"_qs, u"S"_qs},
-                                      {u"GPS:GPSLongitude"_qs, u"151.2093"_qs},
-                                      {u"GPS:GPSLongitudeRef"_qs, u"E"_qs}};
         QTest::newRow("removals") << rich
                                   << Edits{{u"IFD0:Software"_qs, QString()},
                                            {u"IPTC:Keywords"_qs, QString()},
