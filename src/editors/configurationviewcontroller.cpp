@@ -251,7 +251,11 @@ void ConfigurationViewController::setExifFiles(const QList<ExifFileInfoPtr> &fil
     if (files.isEmpty()) {
         clearEditors();
     } else {
-        const ExifFilesSnapshot snapshot(m_exifFiles);
+        QStringList keys;
+        keys.reserve(m_fields.size());
+        for (const FieldEditor *editor : std::as_const(m_fields))
+            keys.append(editor->field()->xmlName());
+        const ExifFilesSnapshot snapshot(m_exifFiles, keys);
         for (FieldEditor *editor : std::as_const(m_fields))
             editor->setExifFiles(m_exifFiles);
     }

@@ -158,12 +158,11 @@ void EnumEditor::updateExifFileValue(const ExifFileInfoPtr &file)
 bool EnumEditor::isModified() const
 {
     bool modified = false;
-    visitValues(
-        exifFiles(), true,
-        [&modified](const ExifFileInfoPtr &, const QString &current, const QString &original) {
-            modified = !(current.isEmpty() && original.isEmpty()) && current != original;
-            return !modified;
-        });
+    visitChangedValues(exifFiles(), [&modified](const ExifFileInfoPtr &, const QString &current,
+                                                const QString &original) {
+        modified = !(current.isEmpty() && original.isEmpty()) && current != original;
+        return !modified;
+    });
     return modified;
 }
 

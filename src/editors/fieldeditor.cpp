@@ -14,6 +14,7 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <vector>
 
 namespace {
 
@@ -29,7 +30,7 @@ const ExifFilesSnapshot *s_activeSnapshot = nullptr;
 
 } // namespace
 
-ExifFilesSnapshot::ExifFilesSnapshot(const QList<ExifFileInfoPtr> &files)
+ExifFilesSnapshot::ExifFilesSnapshot(const QList<ExifFileInfoPtr> &files, const QStringList &keys)
     : m_files(files)
     , m_previous(s_activeSnapshot)
 {
@@ -39,7 +40,101 @@ ExifFilesSnapshot::ExifFilesSnapshot(const QList<ExifFileInfoPtr> &files)
         m_current.append(file->exifData());
         m_original.append(file->originalExifData());
     }
+    if (!keys.isEmpty())
+        gatherColumns(keys);
     s_activeSnapshot = this;
+}
+
+const ExifFilesSnapshot::Column *ExifFilesSnapshot::column(const QString &key) const
+{
+    const auto found = m_columns.constFind(key);
+    return found == m_columns.cend() ? nullptr : &found.value();
+}
+
+void ExifFilesSnapshot::gatherColumns(const QStringList &keys)
+{
+    struct Gathering
+    {
+        Column *column = nullptr;
+        qsizetype present = 0;
+        const QChar *lastValue = nullptr;
+        qsizetype lastChanged = -1;
+    };
+    std::vector<Gathering> gathering;
+    gathering.reserve(size_t(keys.size()));
+    QHash<QString, qsizetype> slotOfKey;
+    for (const QString &key : keys) {
+        if (slotOfKey.contains(key))
+            continue;
+        slotOfKey.insert(key, qsizetype(gathering.size()));
+        gathering.push_back({&m_columns[key]});
+    }
+    // Records of one read share their key texts, so most keys are found by address alone.
+    QHash<const QChar *, qsizetype> slotOfText;
+    const auto slotOf = [&](const QString &key) {
+        const auto known = slotOfText.constFind(key.constData());
+        if (known != slotOfText.cend())
+            return known.value();
+        const qsizetype slot = slotOfKey.value(key, -1);
+        slotOfText.insert(key.constData(), slot);
+        return slot;
+    };
+    const auto markChanged = [&gathering](qsizetype slot, qsizetype file) {
+        Gathering &g = gathering[size_t(slot)];
+        if (g.lastChanged != file) {
+            g.lastChanged = file;
+            g.column->changed.append(file);
+        }
+    };
+
+    for (qsizetype i = 0; i < m_current.size(); ++i) {
+        const TagDictionary &current = m_current.at(i);
+        const TagDictionary &original = m_original.at(i);
+        const bool unchanged = current.isSharedWith(original);
+        // A copy detached for an edit keeps the original's layout, so both are walked side by
+        // side and a key is looked up only where the layouts part.
+        auto beside = original.cbegin();
+        bool allFound = true;
+        for (auto it = current.cbegin(); it != current.cend(); ++it) {
+            const qsizetype slot = slotOf(it.key());
+            if (!unchanged) {
+                auto match = beside;
+                if (match == original.cend() || match.key().constData() != it.key().constData())
+                    match = original.constFind(it.key());
+                if (match == original.cend()) {
+                    allFound = false;
+                    if (slot >= 0)
+                        markChanged(slot, i);
+                } else {
+                    beside = std::next(match);
+                    if (slot >= 0 && match.value().constData() != it.value().constData() &&
+                        match.value() != it.value()) {
+                        markChanged(slot, i);
+                    }
+                }
+            }
+            if (slot < 0)
+                continue;
+            Gathering &g = gathering[size_t(slot)];
+            ++g.present;
+            if (g.lastValue != it.value().constData()) {
+                g.lastValue = it.value().constData();
+                g.column->values.insert(it.value());
+            }
+        }
+        // Keys only the original has: removed tags.
+        if (!unchanged && (!allFound || original.size() != current.size())) {
+            for (auto it = original.cbegin(); it != original.cend(); ++it) {
+                const qsizetype slot = slotOf(it.key());
+                if (slot >= 0 && !current.contains(it.key()))
+                    markChanged(slot, i);
+            }
+        }
+    }
+    for (const Gathering &g : gathering) {
+        if (g.present < m_current.size())
+            g.column->values.insert(QString(u""_qs));
+    }
 }
 
 ExifFilesSnapshot::~ExifFilesSnapshot()
@@ -113,8 +208,34 @@ void FieldEditor::visitValues(const QList<ExifFileInfoPtr> &files, bool withOrig
     }
 }
 
+void FieldEditor::visitChangedValues(const QList<ExifFileInfoPtr> &files,
+                                     const ValueVisitor &visit) const
+{
+    const QString &key = m_field->xmlName();
+    const ExifFilesSnapshot *snapshot = ExifFilesSnapshot::forFiles(files);
+    if (const ExifFilesSnapshot::Column *column = snapshot ? snapshot->column(key) : nullptr) {
+        for (const qsizetype i : column->changed) {
+            if (!visit(files.at(i), snapshot->current(i).value(key),
+                       snapshot->original(i).value(key)))
+                return;
+        }
+        return;
+    }
+    visitValues(
+        files, true,
+        [&visit](const ExifFileInfoPtr &file, const QString &current, const QString &original) {
+            if (current.isNull() == original.isNull() && current == original)
+                return true;
+            return visit(file, current, original);
+        });
+}
+
 QSet<QString> FieldEditor::gatherExifFilesValues(const QList<ExifFileInfoPtr> &files) const
 {
+    if (const ExifFilesSnapshot *snapshot = ExifFilesSnapshot::forFiles(files)) {
+        if (const ExifFilesSnapshot::Column *column = snapshot->column(m_field->xmlName()))
+            return column->values;
+    }
     QSet<QString> values;
     visitValues(files, false, [&values](const ExifFileInfoPtr &, const QString &value, auto &) {
         values.insert(value.isNull() ? QString(u""_qs) : value);

@@ -3,6 +3,7 @@
 #include "catalogue/exiffield.h"
 #include "engine/exiffileinfo.h"
 
+#include <QHash>
 #include <QList>
 #include <QObject>
 #include <QPointer>
@@ -23,10 +24,20 @@ class QWidget;
 // Reads every file's two dictionaries once for a whole form: while one is alive, rows given
 // this very list look values up in it instead of locking each file for each row. Only for a
 // pass that reads (setExifFiles over all rows); nothing may write the files meanwhile.
+//
+// For the given keys it also gathers, in one pass over each dictionary, each key's distinct
+// values and the files whose value differs from the original: at 10,000 files a lookup per
+// row per file is what made showing the form slow.
 class ExifFilesSnapshot
 {
 public:
-    explicit ExifFilesSnapshot(const QList<ExifFileInfoPtr> &files);
+    struct Column
+    {
+        QSet<QString> values;     // as gatherExifFilesValues gives them
+        QList<qsizetype> changed; // indexes of files whose value differs from the original
+    };
+
+    explicit ExifFilesSnapshot(const QList<ExifFileInfoPtr> &files, const QStringList &keys = {});
     ~ExifFilesSnapshot();
     ExifFilesSnapshot(const ExifFilesSnapshot &) = delete;
     ExifFilesSnapshot &operator=(const ExifFilesSnapshot &) = delete;
@@ -35,11 +46,16 @@ public:
     static const ExifFilesSnapshot *forFiles(const QList<ExifFileInfoPtr> &files);
     const TagDictionary &current(qsizetype index) const { return m_current.at(index); }
     const TagDictionary &original(qsizetype index) const { return m_original.at(index); }
+    // Null for a key the snapshot was not asked to gather.
+    const Column *column(const QString &key) const;
 
 private:
+    void gatherColumns(const QStringList &keys);
+
     QList<ExifFileInfoPtr> m_files;
     QList<TagDictionary> m_current;
     QList<TagDictionary> m_original;
+    QHash<QString, Column> m_columns;
     const ExifFilesSnapshot *m_previous = nullptr;
 };
 
@@ -132,6 +148,9 @@ protected:
     // Stops when visit returns false.
     void visitValues(const QList<ExifFileInfoPtr> &files, bool withOriginal,
                      const ValueVisitor &visit) const;
+    // The same, only for the files whose value is not exactly the original (absent counts as a
+    // value): what a row's modified check needs, without a pass over unchanged files.
+    void visitChangedValues(const QList<ExifFileInfoPtr> &files, const ValueVisitor &visit) const;
     static QString localized(const QString &key);
     static QString multipleValuesText();
     // The raw values of an enumerated field, ordered as the user reads them: by their titles.

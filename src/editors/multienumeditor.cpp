@@ -154,12 +154,11 @@ void MultiEnumEditor::updateExifFileValue(const ExifFileInfoPtr &file)
 bool MultiEnumEditor::isModified() const
 {
     bool modified = false;
-    visitValues(
-        exifFiles(), true,
-        [&modified](const ExifFileInfoPtr &, const QString &current, const QString &original) {
-            modified = current != original && splitComponents(current) != splitComponents(original);
-            return !modified;
-        });
+    visitChangedValues(exifFiles(), [&modified](const ExifFileInfoPtr &, const QString &current,
+                                                const QString &original) {
+        modified = current != original && splitComponents(current) != splitComponents(original);
+        return !modified;
+    });
     return modified;
 }
 

@@ -117,16 +117,14 @@ void StringsEditor::updateExifFileValue(const ExifFileInfoPtr &file)
 bool StringsEditor::isModified() const
 {
     bool modified = false;
-    visitValues(
-        exifFiles(), true,
-        [&modified](const ExifFileInfoPtr &, const QString &current, const QString &original) {
-            if (current == original)
-                return true;
-            modified = original.isEmpty()
-                           ? !current.isEmpty()
-                           : splitStringsValue(current) != splitStringsValue(original);
-            return !modified;
-        });
+    visitChangedValues(exifFiles(), [&modified](const ExifFileInfoPtr &, const QString &current,
+                                                const QString &original) {
+        if (current == original)
+            return true;
+        modified = original.isEmpty() ? !current.isEmpty()
+                                      : splitStringsValue(current) != splitStringsValue(original);
+        return !modified;
+    });
     return modified;
 }
 

@@ -322,19 +322,18 @@ bool TextEditor::isModified() const
     else if (isCoordinate())
         tolerance = 1e-7;
     bool modified = false;
-    visitValues(exifFiles(), true,
-                [&](const ExifFileInfoPtr &, const QString &current, const QString &original) {
-                    if (current.isEmpty() && original.isEmpty())
-                        return true;
-                    if (current.isEmpty() != original.isEmpty())
-                        modified = true;
-                    else if (tolerance < 0)
-                        modified = current != original;
-                    else
-                        modified =
-                            std::abs(leadingNumber(current) - leadingNumber(original)) > tolerance;
-                    return !modified;
-                });
+    visitChangedValues(
+        exifFiles(), [&](const ExifFileInfoPtr &, const QString &current, const QString &original) {
+            if (current.isEmpty() && original.isEmpty())
+                return true;
+            if (current.isEmpty() != original.isEmpty())
+                modified = true;
+            else if (tolerance < 0)
+                modified = current != original;
+            else
+                modified = std::abs(leadingNumber(current) - leadingNumber(original)) > tolerance;
+            return !modified;
+        });
     return modified;
 }
 

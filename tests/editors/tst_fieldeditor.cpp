@@ -70,6 +70,61 @@ private Q_SLOTS:
         QCOMPARE(row.editor.isModified(), changed);
     }
 
+    // The form reads large selections through a snapshot's columns; a row must come out the
+    // same as from looking each file up. Edits per file: "=" untouched, "-" tag removed,
+    // "~" another tag edited, "*" set again to its own value, else the new value.
+    void snapshotColumnsMatchPerFileLookups_data()
+    {
+        QTest::addColumn<QStringList>("originals");
+        QTest::addColumn<QStringList>("edits");
+        QTest::addColumn<int>("distinct");
+        QTest::addColumn<bool>("modified");
+        const QString none;
+        QTest::newRow("untouched") << QStringList{u"A"_qs, u"A"_qs, none}
+                                   << QStringList{u"="_qs, u"="_qs, u"="_qs} << 2 << false;
+        QTest::newRow("other tag and same value")
+            << QStringList{u"A"_qs, u"A"_qs} << QStringList{u"~"_qs, u"*"_qs} << 1 << false;
+        QTest::newRow("one changed")
+            << QStringList{u"A"_qs, u"A"_qs} << QStringList{u"="_qs, u"B"_qs} << 2 << true;
+        QTest::newRow("one removed")
+            << QStringList{u"A"_qs, u"A"_qs} << QStringList{u"~"_qs, u"-"_qs} << 2 << true;
+        QTest::newRow("one gains it")
+            << QStringList{none, u"A"_qs} << QStringList{u"A"_qs, u"="_qs} << 1 << true;
+    }
+
+    void snapshotColumnsMatchPerFileLookups()
+    {
+        QFETCH(QStringList, originals);
+        QFETCH(QStringList, edits);
+        QFETCH(int, distinct);
+        QFETCH(bool, modified);
+
+        const auto files = makeFiles(Key, originals);
+        for (qsizetype i = 0; i < files.size(); ++i) {
+            const QString &edit = edits.at(i);
+            if (edit == u"-")
+                files.at(i)->removeExifValue(Key);
+            else if (edit == u"~")
+                files.at(i)->setExifValue(u"IFD0:Make"_qs, u"Nikon"_qs);
+            else if (edit == u"*")
+                files.at(i)->setExifValue(
+                    Key, QString(originals.at(i).constData(), originals.at(i).size()));
+            else if (edit != u"=")
+                files.at(i)->setExifValue(Key, edit);
+        }
+        Row<TextEditor> row(makeField(Key, FieldDataRepresentation::None));
+        row.editor.setExifFiles(files);
+        const QSet<QString> values = row.editor.gatherExifFilesValues(files);
+        QCOMPARE(values.size(), distinct);
+        QCOMPARE(row.editor.isModified(), modified);
+
+        const ExifFilesSnapshot snapshot(files, {Key, u"XMP-dc:Rights"_qs});
+        QVERIFY(snapshot.column(Key));
+        QCOMPARE(row.editor.gatherExifFilesValues(files), values);
+        QCOMPARE(row.editor.isModified(), modified);
+        QCOMPARE(snapshot.column(u"XMP-dc:Rights"_qs)->values, QSet<QString>{QString()});
+    }
+
     void nothingPostedWithoutFiles()
     {
         Row<TextEditor> row(makeField(Key, FieldDataRepresentation::None));
