@@ -1,0 +1,175 @@
+#include "app/filelistmodel.h"
+#include "app/mainwindowcontroller.h"
+#include "app/mainwindowmenus.h"
+#include "catalogue/exiffieldscontroller.h"
+#include "editors/exiffilesupdate.h"
+#include "values/usersettings.h"
+#include "windows/fileinfocell.h"
+#include "windows/geotagdialog.h"
+
+#include "../support/fixtures.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QDateTimeEdit>
+#include <QFile>
+#include <QGuiApplication>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalSpy>
+#include <QSpinBox>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTreeWidget>
+
+namespace {
+
+const QByteArray Track =
+    "<?xml version=\"1.0\"?><gpx version=\"1.1\" creator=\"t\" "
+    "xmlns=\"http://www.topografix.com/GPX/1/1\"><trk><trkseg>"
+    "<trkpt lat=\"48.100000\" lon=\"11.100000\"><ele>600</ele><time>2024-05-01T23:50:00Z</time>"
+    "</trkpt><trkpt lat=\"48.200000\" lon=\"-0.300000\"><ele>700</ele>"
+    "<time>2024-05-02T00:10:00Z</time></trkpt></trkseg></trk></gpx>";
+
+QStringList readBack(const QString &path)
+{
+    const Fixtures::ToolRun run = Fixtures::runExifTool(
+        {u"-n"_qs, u"-s3"_qs, u"-f"_qs, u"-GPSLatitude"_qs, u"-GPSLatitudeRef"_qs,
+         u"-GPSLongitude"_qs, u"-GPSLongitudeRef"_qs, u"-GPSAltitude"_qs, u"-GPSDateStamp"_qs,
+         u"-GPSTimeStamp"_qs, u"-DateTimeOriginal"_qs, path});
+    return QString::fromUtf8(run.out).split(u'\n', Qt::SkipEmptyParts);
+}
+
+} // namespace
+
+class TestMainWindowGeotag : public QObject
+{
+    Q_OBJECT
+
+    QTemporaryDir m_dir;
+    std::unique_ptr<ExifSettings> m_store;
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QStandardPaths::setTestModeEnabled(true);
+        QGuiApplication::setQuitOnLastWindowClosed(false);
+        QVERIFY(m_dir.isValid());
+        UserSettings::setStoreFile(m_dir.filePath(u"store.ini"_qs));
+        m_store = std::make_unique<ExifSettings>();
+        ExifFieldsController::defaultInstance()->initializeConfigurations();
+    }
+    void cleanupTestCase()
+    {
+        m_store.reset();
+        UserSettings::setStoreFile(QString());
+    }
+
+    void clockCorrection_data()
+    {
+        QTest::addColumn<QString>("way");
+        QTest::addColumn<int>("minutes");
+        QTest::addColumn<qint64>("correction");
+        QTest::newRow("right") << u"right"_qs << 0 << qint64(0);
+        QTest::newRow("late") << u"late"_qs << 7 << qint64(420);
+        QTest::newRow("early") << u"early"_qs << 7 << qint64(-420);
+        QTest::newRow("screen ahead of the camera") << u"reference"_qs << 95 << qint64(95 * 60);
+        QTest::newRow("screen behind, across midnight")
+            << u"reference"_qs << -130 << qint64(-130 * 60);
+    }
+    void clockCorrection()
+    {
+        QFETCH(QString, way);
+        QFETCH(int, minutes);
+        auto file = std::make_shared<ExifFileInfo>(u"/p/a.jpg"_qs);
+        file->setReadData({{u"ExifIFD:DateTimeOriginal"_qs, u"2024:05:02 01:00:00"_qs}});
+        GeotagDialog dialog({file});
+        dialog.zoneCombo()->setCurrentText(u"Europe/Berlin"_qs);
+        if (way == u"late" || way == u"early") {
+            dialog.lateMinutes()->setValue(minutes);
+            dialog.lateDirection()->setCurrentIndex(way == u"late" ? 0 : 1);
+        } else if (way == u"reference") {
+            QCOMPARE(dialog.referenceTime()->dateTime().toString(Qt::ISODate),
+                     u"2024-05-02T01:00:00Z"_qs);
+            dialog.referenceTime()->setDateTime(
+                dialog.referenceTime()->dateTime().addSecs(minutes * 60));
+        }
+        QCOMPARE(dialog.options().clock.zone.id(), QByteArray("Europe/Berlin"));
+        QTEST(dialog.options().clock.correctionSeconds, "correction");
+    }
+
+    // From the menu command to the bytes on disk, with ExifTool's own geotagging as reference.
+    void geotagsSelectedFilesUntilSaved()
+    {
+        const QString gpx = m_dir.filePath(u"walk.gpx"_qs);
+        QVERIFY(Fixtures::writeBytes(gpx, Track));
+        const QString inside = m_dir.filePath(u"inside.jpg"_qs);
+        const QString after = m_dir.filePath(u"after.jpg"_qs);
+        const QString reference = m_dir.filePath(u"reference.jpg"_qs);
+        for (const QString &path : {inside, reference})
+            QCOMPARE(Fixtures::makeImage(path, {u"-DateTimeOriginal=2024:05:02 02:04:37"_qs}),
+                     QString());
+        QCOMPARE(Fixtures::makeImage(after, {u"-DateTimeOriginal=2024:05:02 03:00:00"_qs}),
+                 QString());
+        const QByteArray afterBytes = Fixtures::readBytes(after);
+        QVERIFY(Fixtures::runExifTool({u"-overwrite_original"_qs, u"-geotag"_qs, gpx,
+                                       u"-Geotime<${DateTimeOriginal}+02:00"_qs, reference})
+                    .ok());
+
+        MainWindowController window(nullptr, nullptr, *m_store);
+        window.window()->show();
+        QVERIFY(window.addFiles({inside, after}) && window.waitForPendingReads());
+        window.selectRows({0, 1});
+        QVERIFY(window.menus()->action(MainWindowMenus::Command::GeotagFromTrackLog)->isEnabled());
+        window.menus()->action(MainWindowMenus::Command::GeotagFromTrackLog)->trigger();
+        auto *dialog = window.window()->findChild<GeotagDialog *>();
+        QVERIFY(dialog && dialog->isVisible());
+        QVERIFY(!dialog->applyButton()->isEnabled());
+
+        dialog->setGpxFiles({gpx});
+        dialog->zoneCombo()->setCurrentText(u"UTC+02:00"_qs);
+        const int afterRow = window.files().at(0)->fileName() == after ? 0 : 1;
+        QCOMPARE(dialog->resultsList()->topLevelItem(afterRow)->text(2),
+                 u"not matched: after the track"_qs);
+        QVERIFY(dialog->applyButton()->isEnabled());
+
+        QSignalSpy updates(&ExifFilesUpdateCenter::instance(),
+                           &ExifFilesUpdateCenter::exifFilesUpdated);
+        dialog->applyButton()->click();
+        QStringList keys;
+        for (const QList<QVariant> &arguments : std::as_const(updates)) {
+            const auto update = arguments.first().value<ExifFilesUpdate>();
+            QCOMPARE(update.changedFiles.size(), 1);
+            keys << update.xmlName;
+        }
+        QCOMPARE(keys, (QStringList{u"GPS:GPSLongitude"_qs, u"GPS:GPSLongitudeRef"_qs,
+                                    u"GPS:GPSLatitude"_qs, u"GPS:GPSLatitudeRef"_qs,
+                                    u"GPS:GPSAltitude"_qs, u"GPS:GPSAltitudeRef"_qs,
+                                    u"GPS:GPSDateStamp"_qs, u"GPS:GPSTimeStamp"_qs}));
+        const auto modified = [&window](int row) {
+            return window.model()->index(row).data(FileInfoCell::ModifiedRole).toBool();
+        };
+        QVERIFY(modified(1 - afterRow) && !modified(afterRow));
+        // Nothing reaches the disk before a save.
+        QCOMPARE(readBack(inside).at(0), u"-"_qs);
+
+        window.processFiles();
+        QTRY_VERIFY_WITH_TIMEOUT(!window.isSaving(), 20000);
+        const QStringList written = readBack(inside);
+        const QStringList expected = readBack(reference);
+        QCOMPARE(written.size(), 8);
+        QCOMPARE(expected.size(), 8);
+        for (int index : {0, 2}) // Longitude crosses to the west: -0.3 + (11.4 * 14.617 / 20)
+            QVERIFY2(qAbs(written[index].toDouble() - expected[index].toDouble()) < 1e-6,
+                     qPrintable(written[index] + u" / "_qs + expected[index]));
+        QCOMPARE(written[1], expected[1]);
+        QCOMPARE(written[3], expected[3]);
+        QVERIFY(qAbs(written[4].toDouble() - expected[4].toDouble()) < 0.06);
+        QCOMPARE(written.mid(5), expected.mid(5));
+        QCOMPARE(Fixtures::readBytes(after), afterBytes);
+    }
+};
+
+QTEST_MAIN(TestMainWindowGeotag)
+#include "tst_mainwindowgeotag.moc"
