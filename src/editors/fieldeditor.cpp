@@ -63,11 +63,12 @@ void ExifFilesSnapshot::gatherColumns(const QStringList &keys)
     std::vector<Gathering> gathering;
     gathering.reserve(size_t(keys.size()));
     QHash<QString, qsizetype> slotOfKey;
-    for (const QString &key : keys) {
-        if (slotOfKey.contains(key))
-            continue;
-        slotOfKey.insert(key, qsizetype(gathering.size()));
-        gathering.push_back({&m_columns[key]});
+    for (const QString &key : keys)
+        m_columns.insert(key, {});
+    // Addresses taken only now: inserting may move the columns.
+    for (auto it = m_columns.begin(); it != m_columns.end(); ++it) {
+        slotOfKey.insert(it.key(), qsizetype(gathering.size()));
+        gathering.push_back({&it.value()});
     }
     // Records of one read share their key texts, so most keys are found by address alone.
     QHash<const QChar *, qsizetype> slotOfText;
