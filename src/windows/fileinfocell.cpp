@@ -107,26 +107,8 @@ void FileInfoCell::paint(QPainter *painter, const QStyleOptionViewItem &option,
     }
     painter->setPen(textColor);
     const QFontMetricsF titleMetrics(painter->font());
-    const QString sidecar = index.data(SidecarRole).toString();
-    // The sidecar's mark keeps up to half the line; the name gives way first.
-    const QString sidecarMark = sidecar.isEmpty()
-                                    ? QString()
-                                    : metrics.elidedText(QStringLiteral("+ ") + sidecar,
-                                                         Qt::ElideMiddle, titleFrame.width() / 2);
-    const qreal markWidth =
-        sidecarMark.isEmpty() ? 0 : metrics.horizontalAdvance(sidecarMark) + textIndent;
-    const QString shownTitle =
-        titleMetrics.elidedText(title, Qt::ElideMiddle, titleFrame.width() - markWidth);
-    painter->drawText(titleFrame, Qt::AlignLeft | Qt::AlignVCenter, shownTitle);
-    if (!sidecarMark.isEmpty()) {
-        painter->setFont(opt.font);
-        QColor markColor = textColor;
-        markColor.setAlphaF(0.65f);
-        painter->setPen(markColor);
-        const QRectF markFrame =
-            titleFrame.adjusted(titleMetrics.horizontalAdvance(shownTitle) + textIndent, 0, 0, 0);
-        painter->drawText(markFrame, Qt::AlignLeft | Qt::AlignVCenter, sidecarMark);
-    }
+    painter->drawText(titleFrame, Qt::AlignLeft | Qt::AlignVCenter,
+                      titleMetrics.elidedText(title, Qt::ElideMiddle, titleFrame.width()));
 
     painter->setFont(opt.font);
     QColor subtitleColor = textColor;
@@ -135,6 +117,18 @@ void FileInfoCell::paint(QPainter *painter, const QStyleOptionViewItem &option,
     const QRectF subtitleFrame = f.subtitle.adjusted(textIndent, 0, -textIndent, 0);
     painter->drawText(subtitleFrame, Qt::AlignLeft | Qt::AlignVCenter,
                       metrics.elidedText(subtitle, Qt::ElideMiddle, subtitleFrame.width()));
+
+    // A raw file's sidecar on the line below the folder, or below the error line.
+    const QString sidecar = index.data(SidecarRole).toString();
+    if (!sidecar.isEmpty()) {
+        const bool hasError = index.data(HasErrorRole).toBool();
+        const QRectF markFrame = (hasError ? f.error.translated(0, f.error.height()) : f.error)
+                                     .adjusted(textIndent, 0, -textIndent, 0);
+        painter->setPen(subtitleColor);
+        painter->drawText(
+            markFrame, Qt::AlignLeft | Qt::AlignVCenter,
+            metrics.elidedText(QStringLiteral("+ ") + sidecar, Qt::ElideMiddle, markFrame.width()));
+    }
 
     if (index.data(HasErrorRole).toBool()) {
         painter->setPen(errorColor);
