@@ -91,5 +91,12 @@ QString ApertureTheme::styleSheet()
         " border: 1px solid rgba(255, 255, 255, 120); background: rgba(0, 0, 0, 90); }"
         "QCheckBox::indicator:checked { background: rgb(90, 135, 200);"
         " border-color: rgb(150, 185, 235); }"
+        // The style's own check marks in lists are dark on the dark base, so they vanish.
+        "QAbstractItemView::indicator { width: 12px; height: 12px; border-radius: 3px;"
+        " border: 1px solid rgba(255, 255, 255, 120); background: rgba(0, 0, 0, 90); }"
+        "QAbstractItemView::indicator:checked { background: rgb(90, 135, 200);"
+        " border-color: rgb(150, 185, 235); }"
+        "QAbstractItemView::indicator:indeterminate { background: rgba(90, 135, 200, 110);"
+        " border-color: rgb(150, 185, 235); }"
         "QLabel#warning { color: rgb(255, 170, 60); font-weight: bold; }");
 }
