@@ -119,6 +119,28 @@ void ExifRunnerSaveOperation::run()
     storeResults(errors, reReads() ? result.reRead : std::nullopt);
 }
 
+void ExifRunnerSaveOperation::postProcessInMainThread()
+{
+    ExifRunnerFileModifiyOperation::postProcessInMainThread();
+    const std::optional<TagDictionary> data = oldData();
+    if (!reReads() || !data)
+        return;
+    // A value ExifTool stores in its own form ("59.33455" for the map's "59.334550") is saved
+    // all the same; keeping the typed form would leave the file looking edited after the save.
+    for (const TagDictionary *written : {&m_itemsToChange, &m_sidecarChanges}) {
+        for (auto it = written->cbegin(); it != written->cend(); ++it) {
+            const QString &value = it.value();
+            const auto found = data->constFind(it.key());
+            if (value.isEmpty() || isDateOffsetText(value) || found == data->cend() ||
+                found.value() == value || efi()->exifValue(it.key()) != value) {
+                continue;
+            }
+            if (readsBackAsWritten(it.key(), value, *data))
+                efi()->setExifValue(it.key(), found.value());
+        }
+    }
+}
+
 QStringList ExifRunnerSaveOperation::exifToolArguments(QStringList *failures) const
 {
     return gatherExifToolArgumentsToChange(convertValuesToChange(m_itemsToChange, failures)) +

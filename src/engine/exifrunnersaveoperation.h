@@ -21,6 +21,7 @@ public:
     ExifRunnerSaveOperation(ExifFileInfoPtr efi, quint32 options);
 
     void run() override;
+    void postProcessInMainThread() override;
 
     // What goes to the file itself; a raw file's XMP tags go to its sidecar instead.
     const TagDictionary &itemsToChange() const { return m_itemsToChange; }
