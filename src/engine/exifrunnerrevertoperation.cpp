@@ -5,8 +5,9 @@
 #include "values/datevalue.h"
 
 #include <QCoreApplication>
-#include <QMutexLocker>
 #include <QDir>
+#include <QFileInfo>
+#include <QMutexLocker>
 #include <QTemporaryFile>
 
 namespace {
@@ -69,6 +70,12 @@ void ExifRunnerRevertOperation::run()
     locker.unlock();
     if (result.replaced)
         RevertRecord::discard(fileName());
+    // The record holds only what the save wrote into the file itself.
+    if (result.replaced && !efi()->sidecarPath().isEmpty()) {
+        errors->addWarning(tr("The sidecar %1 keeps the XMP values of that save; only the file "
+                              "itself was reverted.")
+                               .arg(QFileInfo(efi()->sidecarPath()).fileName()));
+    }
     storeResults(errors, reReads() ? result.reRead : std::nullopt);
 }
 
