@@ -149,6 +149,14 @@ void ExifRunnerFileModifiyOperation::postProcessInMainThread()
         if (!before.contains(it.key()) && !m_efi->hasExifValue(it.key()))
             m_efi->setExifValue(it.key(), it.value());
     }
+    // Likewise tags it dropped on its own (the IPTC record goes with its last dataset): left
+    // untouched in the current values, the next save would write them back.
+    for (auto it = before.cbegin(); it != before.cend(); ++it) {
+        if (!data->contains(it.key()) && m_efi->hasExifValue(it.key()) &&
+            m_efi->exifValue(it.key()) == it.value()) {
+            m_efi->removeExifValue(it.key());
+        }
+    }
     replaceDateTimeOffsets();
 }
 
