@@ -36,6 +36,16 @@ QByteArray sampleTrack()
                  point(48.3, 11.5, "2024-05-02T00:20:00Z"));
 }
 
+// A match row; unless told otherwise the camera's clock is right and in UTC, and positions are
+// interpolated across gaps of up to 30 minutes.
+void row(const char *name, const QString &captured, GeotagStatus status, const QString &position,
+         int lateMinutes = 0, const QByteArray &zone = "UTC", bool interpolate = true,
+         int maxGapMinutes = 30)
+{
+    QTest::newRow(name) << captured << zone << lateMinutes << interpolate << maxGapMinutes << status
+                        << position;
+}
+
 } // namespace
 
 class TestGeotagMatcher : public QObject
@@ -114,45 +124,30 @@ private Q_SLOTS:
         QTest::addColumn<bool>("interpolate");
         QTest::addColumn<int>("maxGapMinutes");
         QTest::addColumn<GeotagStatus>("status");
-        QTest::addColumn<double>("latitude");
-        QTest::addColumn<double>("longitude");
-        QTest::addColumn<double>("altitude"); // NaN: none
+        QTest::addColumn<QString>("position"); // "latitude longitude altitude", "-": no altitude
 
-        const double none = qQNaN();
         using S = GeotagStatus;
-        QTest::newRow("exact point") << u"2024:05:01 23:50:00"_qs << QByteArray("UTC") << 0 << true
-                                     << 30 << S::Exact << 48.1 << 11.1 << 600.0;
-        QTest::newRow("interpolated across midnight")
-            << u"2024:05:02 00:00:00"_qs << QByteArray("UTC") << 0 << true << 30 << S::Interpolated
-            << 48.15 << 11.2 << 650.0;
-        QTest::newRow("zone and a late camera")
-            << u"2024:05:02 01:59:00"_qs << QByteArray("UTC+02:00") << 1 << true << 30
-            << S::Interpolated << 48.15 << 11.2 << 650.0;
-        QTest::newRow("fast camera, zone suffix ignored")
-            << u"2024:05:02 00:05:00+05:00"_qs << QByteArray("UTC") << -5 << true << 30
-            << S::Interpolated << 48.15 << 11.2 << 650.0;
-        QTest::newRow("nearest without interpolation")
-            << u"2024:05:01 23:55:00"_qs << QByteArray("UTC") << 0 << false << 30 << S::Nearest
-            << 48.1 << 11.1 << 600.0;
-        QTest::newRow("one point without elevation")
-            << u"2024:05:02 00:15:00"_qs << QByteArray("UTC") << 0 << true << 30 << S::Interpolated
-            << 48.25 << 11.4 << none;
-        QTest::newRow("beyond the gap limit") << u"2024:05:01 23:00:00"_qs << QByteArray("UTC") << 0
-                                              << true << 30 << S::InGap << 0.0 << 0.0 << none;
-        QTest::newRow("gap allowed") << u"2024:05:01 22:55:00"_qs << QByteArray("UTC") << 0 << true
-                                     << 120 << S::Interpolated << 48.05 << 11.05 << 550.0;
-        QTest::newRow("before the track") << u"2024:03:30 23:59:59"_qs << QByteArray("UTC") << 0
-                                          << true << 30 << S::BeforeTrack << 0.0 << 0.0 << none;
-        QTest::newRow("after the track") << u"2024:05:02 00:20:01"_qs << QByteArray("UTC") << 0
-                                         << true << 30 << S::AfterTrack << 0.0 << 0.0 << none;
-        QTest::newRow("winter time, Berlin")
-            << u"2024:03:31 01:30:00"_qs << QByteArray("Europe/Berlin") << 0 << true << 180
-            << S::Interpolated << 50.25 << 10.0 << none;
-        QTest::newRow("summer time, Berlin")
-            << u"2024:03:31 03:30:00"_qs << QByteArray("Europe/Berlin") << 0 << true << 180
-            << S::Interpolated << 50.75 << 10.0 << none;
-        QTest::newRow("no capture time") << u"2024:05:02"_qs << QByteArray("UTC") << 0 << true << 30
-                                         << S::NoCaptureTime << 0.0 << 0.0 << none;
+        row("exact point", u"2024:05:01 23:50:00"_qs, S::Exact, u"48.1 11.1 600"_qs);
+        row("interpolated across midnight", u"2024:05:02 00:00:00"_qs, S::Interpolated,
+            u"48.15 11.2 650"_qs);
+        row("zone and a late camera", u"2024:05:02 01:59:00"_qs, S::Interpolated,
+            u"48.15 11.2 650"_qs, 1, "UTC+02:00");
+        row("fast camera, zone suffix ignored", u"2024:05:02 00:05:00+05:00"_qs, S::Interpolated,
+            u"48.15 11.2 650"_qs, -5);
+        row("nearest without interpolation", u"2024:05:01 23:55:00"_qs, S::Nearest,
+            u"48.1 11.1 600"_qs, 0, "UTC", false);
+        row("one point without elevation", u"2024:05:02 00:15:00"_qs, S::Interpolated,
+            u"48.25 11.4 -"_qs);
+        row("beyond the gap limit", u"2024:05:01 23:00:00"_qs, S::InGap, QString());
+        row("gap allowed", u"2024:05:01 22:55:00"_qs, S::Interpolated, u"48.05 11.05 550"_qs, 0,
+            "UTC", true, 120);
+        row("before the track", u"2024:03:30 23:59:59"_qs, S::BeforeTrack, QString());
+        row("after the track", u"2024:05:02 00:20:01"_qs, S::AfterTrack, QString());
+        row("winter time, Berlin", u"2024:03:31 01:30:00"_qs, S::Interpolated, u"50.25 10 -"_qs, 0,
+            "Europe/Berlin", true, 180);
+        row("summer time, Berlin", u"2024:03:31 03:30:00"_qs, S::Interpolated, u"50.75 10 -"_qs, 0,
+            "Europe/Berlin", true, 180);
+        row("no capture time", u"2024:05:02"_qs, S::NoCaptureTime, QString());
     }
     void match()
     {
@@ -161,10 +156,6 @@ private Q_SLOTS:
         QFETCH(int, lateMinutes);
         QFETCH(bool, interpolate);
         QFETCH(int, maxGapMinutes);
-        QFETCH(GeotagStatus, status);
-        QFETCH(double, latitude);
-        QFETCH(double, longitude);
-        QFETCH(double, altitude);
 
         GeotagOptions options;
         options.clock.zone = QTimeZone(zone);
@@ -176,17 +167,17 @@ private Q_SLOTS:
         QCOMPARE(matcher.points().size(), 6);
 
         const GeotagMatch match = matcher.matchCaptureTime(captured);
-        QCOMPARE(match.status, status);
+        QTEST(match.status, "status");
         QCOMPARE(match.isMatched(), !GeotagMatcher::gpsValues(match).isEmpty());
-        if (status == GeotagStatus::InGap)
+        if (match.status == GeotagStatus::InGap)
             QCOMPARE(match.gapSeconds, 110 * 60);
-        if (!match.isMatched())
-            return;
-        QVERIFY(qAbs(match.latitude - latitude) < 1e-9);
-        QVERIFY(qAbs(match.longitude - longitude) < 1e-9);
-        QCOMPARE(match.altitude.has_value(), !qIsNaN(altitude));
-        if (match.altitude)
-            QVERIFY(qAbs(*match.altitude - altitude) < 1e-9);
+        // Nine digits show any slip of the interpolation yet hide the last bits of rounding.
+        const auto number = [](double value) { return QString::number(value, 'g', 9); };
+        const QString position =
+            match.isMatched() ? number(match.latitude) + u' ' + number(match.longitude) + u' ' +
+                                    (match.altitude ? number(*match.altitude) : u"-"_qs)
+                              : QString();
+        QTEST(position, "position");
     }
 
     void capturePrefersOriginalDateAndResolvesShifts()
@@ -200,40 +191,6 @@ private Q_SLOTS:
         QCOMPARE(GeotagMatcher::captureTime(file), u"2024:05:02 12:00:00"_qs);
         file.removeExifValue(u"ExifIFD:DateTimeOriginal"_qs);
         QCOMPARE(GeotagMatcher::captureTime(file), u"2024:05:01 08:00:00"_qs);
-    }
-
-    // ExifTool's own geotagging is the reference for the position and the GPS date and time.
-    void agreesWithExifTool()
-    {
-        QTemporaryDir dir;
-        const QString gpx = dir.filePath(u"walk.gpx"_qs);
-        const QString jpeg = dir.filePath(u"photo.jpg"_qs);
-        QVERIFY(Fixtures::writeBytes(gpx, sampleTrack()));
-        QCOMPARE(Fixtures::makeImage(jpeg, {u"-DateTimeOriginal=2024:05:02 02:04:37"_qs}),
-                 QString());
-        const Fixtures::ToolRun tagged =
-            Fixtures::runExifTool({u"-overwrite_original"_qs, u"-geotag"_qs, gpx,
-                                   u"-Geotime<${DateTimeOriginal}+02:00"_qs, jpeg});
-        QVERIFY2(tagged.ok(), tagged.err.constData());
-        const Fixtures::ToolRun read = Fixtures::runExifTool(
-            {u"-n"_qs, u"-s3"_qs, u"-GPSLatitude"_qs, u"-GPSLongitude"_qs, u"-GPSAltitude"_qs,
-             u"-GPSDateStamp"_qs, u"-GPSTimeStamp"_qs, jpeg});
-        const QStringList reference = QString::fromUtf8(read.out).split(u'\n', Qt::SkipEmptyParts);
-        QCOMPARE(reference.size(), 5);
-
-        GeotagOptions options;
-        options.clock.zone = QTimeZone(2 * 3600);
-        const GeotagMatcher matcher(GpxTrack::readFiles({gpx}).points, options);
-        const GeotagMatch match = matcher.matchCaptureTime(u"2024:05:02 02:04:37"_qs);
-        QCOMPARE(match.status, GeotagStatus::Interpolated);
-        QVERIFY(qAbs(match.latitude - reference[0].toDouble()) < 1e-6);
-        QVERIFY(qAbs(match.longitude - reference[1].toDouble()) < 1e-6);
-        QVERIFY(qAbs(*match.altitude - reference[2].toDouble()) < 0.05);
-        QHash<QString, QString> values;
-        for (const auto &[key, value] : GeotagMatcher::gpsValues(match))
-            values.insert(key, value);
-        QCOMPARE(values.value(u"GPS:GPSDateStamp"_qs), reference[3]);
-        QCOMPARE(values.value(u"GPS:GPSTimeStamp"_qs), reference[4]);
     }
 };
 
