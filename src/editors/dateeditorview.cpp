@@ -199,6 +199,7 @@ void DateEditorView::setExifFiles(const QList<ExifFileInfoPtr> &files)
     m_files = files;
     m_baseOriginals.clear();
     m_baseZones.clear();
+    m_baseValueZones.clear();
     const QString zoneKey = zoneTagForDateKey(key);
     bool zoneMoved = false;
     QSet<DateComponents> offsets;
@@ -211,6 +212,12 @@ void DateEditorView::setExifFiles(const QList<ExifFileInfoPtr> &files)
             zoneMoved = zoneMoved || file->exifValue(zoneKey) != zone;
         }
         const QString current = file->exifValue(key);
+        if (const QString zone = dateZoneSuffix(original); !zone.isEmpty()) {
+            m_baseValueZones.insert(file->fileName(), zone);
+            zoneMoved =
+                zoneMoved || (!isDateOffsetText(current) && !dateZoneSuffix(current).isEmpty() &&
+                              dateZoneSuffix(current) != zone);
+        }
         if (current.isEmpty())
             continue;
         if (isDateOffsetText(current)) {
@@ -223,7 +230,7 @@ void DateEditorView::setExifFiles(const QList<ExifFileInfoPtr> &files)
             offsets.insert(wallClockOffset(originalDate, currentDate));
     }
     setOriginalDate(files.isEmpty() ? QString() : originalValue(files.first()));
-    m_moveZoneBox->setVisible(!m_baseZones.isEmpty());
+    m_moveZoneBox->setVisible(!m_baseZones.isEmpty() || !m_baseValueZones.isEmpty());
     m_moveZoneBox->setChecked(zoneMoved);
 
     const QString clickText = m_type == DateEditorTypeDateTime
@@ -430,6 +437,7 @@ void DateEditorView::saveValue(const QDateTime &date)
     const bool writesToDisk = !m_runner.isNull();
     const bool shifts = newValue && m_focus == FocusOffset;
     const bool isZeroShift = shifts && parseDateOffset(*newValue).hasSameUnits(DateComponents());
+    const bool movesZone = shifts && !isZeroShift && m_moveZoneBox->isChecked();
     for (const ExifFileInfoPtr &file : std::as_const(m_files)) {
         if (!newValue) {
             file->removeExifValue(key);
@@ -443,15 +451,23 @@ void DateEditorView::saveValue(const QDateTime &date)
             continue;
         }
         QString value = *newValue;
-        if (writesToDisk && m_focus == FocusOffset) {
+        const QString valueZone = m_baseValueZones.value(file->fileName());
+        // ExifTool's own shift keeps a zone inside the value as it is; a moved zone needs the
+        // file's own explicit value.
+        if (m_focus == FocusOffset && (writesToDisk || (movesZone && !valueZone.isEmpty()))) {
             const QDateTime shifted =
                 applyOffsetText(wallClockDate(originalValue(file), m_type), value, m_type);
-            if (shifted.isValid())
-                value = formatWallClockValue(shifted, m_type);
+            if (shifted.isValid()) {
+                const QString zone =
+                    movesZone ? shiftZoneText(valueZone, parseDateOffset(value)).value_or(valueZone)
+                              : valueZone;
+                value = formatWallClockValue(shifted, m_type) + zone;
+            }
+        } else if (m_focus == FocusDate) {
+            value += valueZone;
         }
         file->setExifValue(key, value);
     }
-    const bool movesZone = shifts && !isZeroShift && m_moveZoneBox->isChecked();
     updateZones(movesZone ? std::optional(parseDateOffset(*newValue)) : std::nullopt);
     // Unlike the row editors the panel names no source: the row showing the field must refresh.
     ExifFilesUpdateCenter::instance().post(key, m_files, newValue, m_files, nullptr);

@@ -63,8 +63,9 @@ public:
     QLabel *originalLabel() const { return m_originalLabel; }
     QCheckBox *emptyBox() const { return m_emptyBox; }
     QLabel *emptyTitle() const { return m_emptyTitle; }
-    // Shown only when a file carries the date's zone tag: a shift then moves the zone as well,
-    // keeping the instant. Off, the zone tags keep their original values.
+    // Shown only when a file carries the date's zone, in a tag of its own or inside the value: a
+    // shift then moves the zone as well, keeping the instant. Off, the zones keep their original
+    // values.
     QCheckBox *moveZoneBox() const { return m_moveZoneBox; }
 
     // ExifBackgroundRunnerListener; calls are passed on to the listener the runner had before.
@@ -103,6 +104,8 @@ private:
     QHash<QString, QString> m_baseOriginals;
     // File name -> the zone tag's original value, for the files that have one.
     QHash<QString, QString> m_baseZones;
+    // File name -> the zone inside the original value (XMP dates), for the files that have one.
+    QHash<QString, QString> m_baseValueZones;
     int m_focus = FocusDate;
     bool m_settingExifFiles = false;
     bool m_disableNotification = false;

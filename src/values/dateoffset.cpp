@@ -1,6 +1,7 @@
 #include "values/dateoffset.h"
 
 #include "values/datevalue.h"
+#include "values/zoneshift.h"
 
 #include <limits>
 
@@ -141,7 +142,7 @@ DateComponents calendarDifference(const QDateTime &from, const QDateTime &to)
 
 bool isDateOffsetText(const QString &text)
 {
-    return text.contains(u'+') || text.contains(u'-');
+    return (text.contains(u'+') || text.contains(u'-')) && dateZoneSuffix(text).isEmpty();
 }
 
 DateComponents parseDateOffset(const QString &text)

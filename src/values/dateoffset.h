@@ -9,7 +9,8 @@
 // batch of files, resolved per file against that file's own original value. Stored in compact
 // form: a sign, then each non-zero unit as "1y" "2M" "3d" "4h" "5m" "6s" (M months, m minutes).
 
-// True when the text holds a "+" or a "-" anywhere: such a value is a shift, not a date.
+// True when the text holds a "+" or a "-" anywhere: such a value is a shift, not a date; except
+// a date whose time ends in a zone ("2025:07:14 10:00:00+02:00", as XMP writes it).
 bool isDateOffsetText(const QString &text);
 
 // Never fails. Units are read as typed (a "-" inside the text negates only its number); era is 1

@@ -2,6 +2,7 @@
 
 #include "values/dateoffset.h"
 #include "values/leadinginteger.h"
+#include "values/zoneshift.h"
 
 #include <QStringList>
 #include <QTimeZone>
@@ -81,7 +82,7 @@ QDateTime localDateTime(const QDate &date, qint64 msecsOfDay)
 
 std::optional<DateComponents> parseDateTimeValue(const QString &text)
 {
-    const QList<QStringView> pieces = dateValuePieces(text);
+    const QList<QStringView> pieces = dateValuePieces(withoutDateZone(text));
     if (pieces.size() != 6)
         return std::nullopt;
     DateComponents c;
@@ -185,8 +186,18 @@ bool dateValuesEqual(const QString &newValue, const QString &oldValue, DateEdito
 {
     const auto newDate = newValue.isNull() ? std::nullopt : parseDateValueOfType(newValue, type);
     const auto oldDate = oldValue.isNull() ? std::nullopt : parseDateValueOfType(oldValue, type);
-    if (newDate && oldDate)
-        return newDate->hasSameUnits(*oldDate);
+    // Two zones that differ name another instant; a value without one names no zone to compare.
+    if (newDate && oldDate) {
+        // "+0200" and "+02:00" are one zone.
+        auto zoneOf = [](const QString &value) {
+            const QString zone = dateZoneSuffix(value);
+            return shiftZoneText(zone, DateComponents{}).value_or(zone);
+        };
+        const QString newZone = zoneOf(newValue);
+        const QString oldZone = zoneOf(oldValue);
+        return newDate->hasSameUnits(*oldDate) &&
+               (newZone.isEmpty() || oldZone.isEmpty() || newZone == oldZone);
+    }
     if (newDate || oldDate)
         return false;
     // Only an absent value fails the offset parser. The sign is not compared, only the units.

@@ -8,10 +8,12 @@
 #include <optional>
 
 // Absolute date values as metadata holds them ("2013:05:01" or "2013:05:01 14:22:10"), always in
-// the Gregorian calendar and the local time zone; no zone text is ever read or written.
+// the Gregorian calendar and the local time zone; no zone text is ever written, and a zone an XMP
+// value carries is left to values/zoneshift.h.
 
-// Exactly six numbers (year, month, day, hour, minute, second) separated by blanks or colons.
-// No range checks: out-of-range fields roll over when turned into a date.
+// Exactly six numbers (year, month, day, hour, minute, second) separated by blanks or colons,
+// after an XMP zone suffix ("+02:00") is set aside: the fields are the wall-clock reading. No
+// range checks: out-of-range fields roll over when turned into a date.
 std::optional<DateComponents> parseDateTimeValue(const QString &text);
 // Exactly three numbers (year, month, day); the time fields are 0.
 std::optional<DateComponents> parseDateValue(const QString &text);

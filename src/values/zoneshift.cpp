@@ -3,6 +3,31 @@
 #include <QHash>
 #include <QRegularExpression>
 
+namespace {
+
+// Only after a time of day, so that a date alone ("2024-05-01") never loses its day.
+const QRegularExpression &zoneSuffixPattern()
+{
+    static const QRegularExpression pattern(
+        QStringLiteral(R"(\d:\d{2}(?::\d{2}(?:\.\d+)?)?\s*(Z|[+-]\d{2}(?::?\d{2})?)\s*$)"));
+    return pattern;
+}
+
+} // namespace
+
+QString dateZoneSuffix(const QString &value)
+{
+    return zoneSuffixPattern().match(value).captured(1);
+}
+
+QString withoutDateZone(const QString &value)
+{
+    const QRegularExpressionMatch match = zoneSuffixPattern().match(value);
+    if (!match.hasMatch())
+        return value;
+    return value.left(match.capturedStart(1)).trimmed();
+}
+
 QString zoneTagForDateKey(const QString &dateKey)
 {
     static const QHash<QString, QString> zones{
@@ -17,9 +42,10 @@ std::optional<QString> shiftZoneText(const QString &zone, const DateComponents &
 {
     static const QRegularExpression pattern(QStringLiteral(R"(^\s*([+-])(\d{1,2}):?(\d{2})\s*$)"));
     const QRegularExpressionMatch match = pattern.match(zone);
-    if (!match.hasMatch())
+    const bool utc = zone.trimmed() == u"Z";
+    if (!match.hasMatch() && !utc)
         return std::nullopt;
-    int minutes = match.captured(2).toInt() * 60 + match.captured(3).toInt();
+    int minutes = utc ? 0 : match.captured(2).toInt() * 60 + match.captured(3).toInt();
     if (match.captured(1) == u"-")
         minutes = -minutes;
     const qint64 delta = offset.hour * 60 + offset.minute;

@@ -24,7 +24,7 @@ private Q_SLOTS:
         row("date", "2013 : 05 : 01", date, "2013:05:01 00:00:00");
         row("no range checks", "2013:13:40 25:61:61", dateTime, "2013:13:40 25:61:61");
         row("single digits", "2012:1:5 9:3:7", dateTime, "2012:01:05 09:03:07");
-        row("zone", "2013:05:01 14:22:10+02:00", dateTime, nullptr);
+        row("zone is not a field", "2013:05:01 14:22:10+02:00", dateTime, "2013:05:01 14:22:10");
         row("empty", "", date, nullptr);
     }
     void parse()
