@@ -6,6 +6,7 @@
 #include "controls/dateoffsetfield.h"
 #include "engine/exifbackgroundrunner.h"
 #include "engine/exifrunner.h"
+#include "values/dateoffset.h"
 #include "values/zoneshift.h"
 
 #include <QCheckBox>
@@ -87,6 +88,12 @@ private Q_SLOTS:
             panel.controlMouseUp(panel.offsetLabel());
             panel.offsetField()->setStringValue(shift);
             panel.saveValue();
+            if (xmp && moveZone) {
+                // Unchecked, the value goes back to ExifTool's own shift, which keeps the zone.
+                panel.moveZoneBox()->click();
+                QVERIFY(isDateOffsetText(files.first()->exifValue(key)));
+                panel.moveZoneBox()->click();
+            }
         }
 
         ExifBackgroundRunner runner;
