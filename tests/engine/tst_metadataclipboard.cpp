@@ -1,10 +1,24 @@
 #include "engine/metadataclipboard.h"
 
 #include "catalogue/exiffieldscontroller.h"
+#include "engine/exifrunner.h"
+#include "engine/exifrunnersaveoperation.h"
+#include "engine/exiftoolsession.h"
+#include "../support/fixtures.h"
 #include "values/usersettings.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
+
+namespace {
+
+QString tagOf(const QString &path, const QString &tag)
+{
+    const Fixtures::ToolRun run = Fixtures::runExifTool({u"-s3"_qs, u"-n"_qs, u"-"_qs + tag, path});
+    return QString::fromUtf8(run.out).trimmed();
+}
+
+} // namespace
 
 class TestMetadataClipboard : public QObject
 {
@@ -18,33 +32,60 @@ private Q_SLOTS:
         ExifFieldsController::defaultInstance()->initializeConfigurations();
     }
 
-    // Saving a paste to disk is checked through the main window; here, what a paste takes.
-    void chosenSectionLeavesFileSpecificTagsBehind()
+    // The whole road: copy from one file, paste one section into three, save each through the
+    // engine and read the files back with ExifTool.
+    void chosenSectionReachesThreeFilesOnDisk()
     {
-        ExifFileInfo source(u"/source.jpg"_qs);
-        source.setReadData({{u"IPTC:Caption-Abstract"_qs, u"Harbour at dawn"_qs},
-                            {u"IPTC:Headline"_qs, u"Boats"_qs},
-                            {u"IFD0:DocumentName"_qs, u"source-doc"_qs},
-                            {u"ExifIFD:ImageUniqueID"_qs, u"AAAA1111"_qs},
-                            {u"IFD0:Artist"_qs, u"Jane Source"_qs}});
+        const QString source = m_dir.filePath(u"source.jpg"_qs);
+        QCOMPARE(Fixtures::makeImage(source, {u"-IPTC:Caption-Abstract=Harbour at dawn"_qs,
+                                              u"-IPTC:Headline=Boats"_qs,
+                                              u"-IFD0:DocumentName=source-doc"_qs,
+                                              u"-ExifIFD:ImageUniqueID=AAAA1111"_qs,
+                                              u"-IFD0:Artist=Jane Source"_qs}),
+                 QString());
+        QList<ExifFileInfoPtr> targets;
+        for (int i = 0; i < 3; ++i) {
+            const QString path = m_dir.filePath(u"target%1.jpg"_qs.arg(i));
+            QCOMPARE(Fixtures::makeImage(path, {u"-IFD0:DocumentName=own-%1"_qs.arg(i),
+                                                u"-IFD0:Artist=Owner %1"_qs.arg(i)}),
+                     QString());
+            targets.append(std::make_shared<ExifFileInfo>(path));
+        }
+        auto sourceInfo = std::make_shared<ExifFileInfo>(source);
+        ExifRunner reader;
+        QVERIFY(reader.loadExifInformations(QList<ExifFileInfoPtr>{sourceInfo} + targets).ok());
+
         MetadataClipboard clipboard;
-        clipboard.copyFrom(source);
+        clipboard.copyFrom(*sourceInfo);
         QVERIFY(!clipboard.values().contains(u"IFD0:DocumentName"_qs));
         QVERIFY(!clipboard.values().contains(u"ExifIFD:ImageUniqueID"_qs));
 
-        ExifFileInfo target(u"/target.jpg"_qs);
-        target.setReadData(
-            {{u"IFD0:DocumentName"_qs, u"own"_qs}, {u"IFD0:Artist"_qs, u"Owner"_qs}});
+        PersistentExifToolSession session(Fixtures::exifTool());
         MetadataSelection caption;
         caption.sections.insert(MetadataSelection::sectionKey(u"Description"_qs, u"Caption"_qs));
-        QStringList changed = clipboard.pasteInto(target, caption);
-        changed.sort();
-        QCOMPARE(changed, (QStringList{u"IPTC:Caption-Abstract"_qs, u"IPTC:Headline"_qs}));
-        QCOMPARE(target.exifValue(u"IPTC:Caption-Abstract"_qs), u"Harbour at dawn"_qs);
-        // Outside the section, and file-specific inside it: the target's own.
-        QCOMPARE(target.exifValue(u"IFD0:Artist"_qs), u"Owner"_qs);
-        QCOMPARE(target.exifValue(u"IFD0:DocumentName"_qs), u"own"_qs);
-        QVERIFY(clipboard.pasteInto(target, caption).isEmpty());
+        for (const ExifFileInfoPtr &target : std::as_const(targets)) {
+            QStringList changed = clipboard.pasteInto(*target, caption);
+            changed.sort();
+            QCOMPARE(changed, (QStringList{u"IPTC:Caption-Abstract"_qs, u"IPTC:Headline"_qs}));
+            // Nothing is written by a paste; pasting again changes nothing more.
+            QCOMPARE(tagOf(target->fileName(), u"IPTC:Headline"_qs), QString());
+            QVERIFY(clipboard.pasteInto(*target, caption).isEmpty());
+
+            auto save = ExifRunnerSaveOperation::create(
+                target, ExifRunnerFileModifiyOperation::ReReadOption);
+            QVERIFY(save);
+            save->setExifToolSession(&session);
+            save->run();
+            QCOMPARE(save->errors()->errorsCount(), quint64(0));
+        }
+        for (int i = 0; i < 3; ++i) {
+            const QString path = targets.at(i)->fileName();
+            QCOMPARE(tagOf(path, u"IPTC:Caption-Abstract"_qs), u"Harbour at dawn"_qs);
+            QCOMPARE(tagOf(path, u"IPTC:Headline"_qs), u"Boats"_qs);
+            // Outside the section, and file-specific inside it: the target's own.
+            QCOMPARE(tagOf(path, u"IFD0:Artist"_qs), u"Owner %1"_qs.arg(i));
+            QCOMPARE(tagOf(path, u"IFD0:DocumentName"_qs), u"own-%1"_qs.arg(i));
+        }
     }
 
     void everythingNeverCarriesFileSpecificTagsNorAnotherMakesNotes()
