@@ -11,6 +11,7 @@
 #include "editors/exiffilesupdate.h"
 #include "engine/exifbackgroundrunner.h"
 #include "engine/exifrunner.h"
+#include "engine/revertrecord.h"
 #include "values/tagsmithexception.h"
 
 #include <QCheckBox>
@@ -93,9 +94,14 @@ class TstDatePanel : public QObject
 {
     Q_OBJECT
 
+    QTemporaryDir m_records;
+
 private Q_SLOTS:
     void initTestCase()
     {
+        // Saves keep their revert records here, not in the user's data folder.
+        QVERIFY(m_records.isValid());
+        RevertRecord::setDirectory(m_records.path());
         ExifFieldsController::defaultInstance()->initializeConfigurations();
         QVERIFY(fieldFor(DateTimeOriginal));
     }

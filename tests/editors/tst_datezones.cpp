@@ -6,6 +6,7 @@
 #include "controls/dateoffsetfield.h"
 #include "engine/exifbackgroundrunner.h"
 #include "engine/exifrunner.h"
+#include "engine/revertrecord.h"
 #include "values/dateoffset.h"
 #include "values/zoneshift.h"
 
@@ -26,8 +27,16 @@ class TestDateZones : public QObject
 {
     Q_OBJECT
 
+    QTemporaryDir m_records;
+
 private Q_SLOTS:
-    void initTestCase() { ExifFieldsController::defaultInstance()->initializeConfigurations(); }
+    void initTestCase()
+    {
+        // Saves keep their revert records here, not in the user's data folder.
+        QVERIFY(m_records.isValid());
+        RevertRecord::setDirectory(m_records.path());
+        ExifFieldsController::defaultInstance()->initializeConfigurations();
+    }
 
     // The panel's shift, saved by the real runner and read back by ExifTool: the clock moves,
     // the zone tag moves only when asked, and the GPS date and time (UTC) never move. An XMP
