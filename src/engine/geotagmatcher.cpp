@@ -1,6 +1,7 @@
 #include "engine/geotagmatcher.h"
 
 #include "values/dateoffset.h"
+#include "values/gpslocation.h"
 
 #include <QRegularExpression>
 
@@ -148,14 +149,7 @@ QList<QPair<QString, QString>> GeotagMatcher::gpsValues(const GeotagMatch &match
 {
     if (!match.isMatched())
         return {};
-    const auto number = [](double value) { return QString::number(std::abs(value), 'f', 6); };
-    // The first four keys and their forms are the ones a pin dragged on the map writes.
-    QList<QPair<QString, QString>> values{
-        {QStringLiteral("GPS:GPSLongitude"), number(match.longitude)},
-        {QStringLiteral("GPS:GPSLongitudeRef"), match.longitude >= 0 ? u"E"_qs : u"W"_qs},
-        {QStringLiteral("GPS:GPSLatitude"), number(match.latitude)},
-        {QStringLiteral("GPS:GPSLatitudeRef"), match.latitude >= 0 ? u"N"_qs : u"S"_qs},
-    };
+    QList<QPair<QString, QString>> values = gpsPositionTags(match.latitude, match.longitude);
     if (match.altitude) {
         values << qMakePair(QStringLiteral("GPS:GPSAltitude"),
                             QString::number(std::abs(*match.altitude), 'f', 1));

@@ -272,3 +272,16 @@ void checkLongitude(const QString &text, double expected, int eastWest)
     checkCoordinate(GPSLocation::initLongitudeWithString(text), expected, eastWest,
                     QStringLiteral("Invalid east west"));
 }
+
+QList<QPair<QString, QString>> gpsPositionTags(double latitude, double longitude)
+{
+    const auto degrees = [](double value) { return QString::number(std::abs(value), 'f', 6); };
+    return {
+        {QStringLiteral("GPS:GPSLongitude"), degrees(longitude)},
+        {QStringLiteral("GPS:GPSLongitudeRef"),
+         longitude >= 0 ? QStringLiteral("E") : QStringLiteral("W")},
+        {QStringLiteral("GPS:GPSLatitude"), degrees(latitude)},
+        {QStringLiteral("GPS:GPSLatitudeRef"),
+         latitude >= 0 ? QStringLiteral("N") : QStringLiteral("S")},
+    };
+}

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QList>
+#include <QPair>
 #include <QString>
 
 #include <optional>
@@ -55,6 +57,10 @@ private:
     int m_latlong = NoHemisphere;
     double m_position = 0;
 };
+
+// The four GPS tags of a position as a pin dragged on the map writes them: unsigned degrees with
+// six decimals and a hemisphere letter, longitude first.
+QList<QPair<QString, QString>> gpsPositionTags(double latitude, double longitude);
 
 // Parser self-checks: throw a TagsmithException named "Error" when the text does not read as the
 // expected value (within 0.001) and hemisphere.

@@ -1,7 +1,5 @@
 #include "windows/geotagwriter.h"
 
-#include "windows/mappins.h"
-
 #include "editors/exiffilesupdate.h"
 
 #include <QMap>
@@ -14,13 +12,9 @@ QList<ExifFileInfoPtr> applyGeotagMatches(const QList<FileMatch> &matches, const
     for (const auto &[file, match] : matches) {
         if (!file || !match.isMatched())
             continue;
-        MapPins::updatePinAnnotationExifFile(*file, match.latitude, match.longitude);
+        // The position's tags are the ones a pin dragged on the map writes.
         for (const auto &[key, value] : GeotagMatcher::gpsValues(match)) {
-            // The position itself went in through the pin's path above.
-            if (key != MapPins::LatitudeKey && key != MapPins::LatitudeRefKey &&
-                key != MapPins::LongitudeKey && key != MapPins::LongitudeRefKey) {
-                file->setExifValue(key, value);
-            }
+            file->setExifValue(key, value);
             if (!keys.contains(key))
                 keys << key;
             filesByKey[key] << file;

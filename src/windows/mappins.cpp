@@ -1,6 +1,7 @@
 #include "windows/mappins.h"
 
 #include "editors/exiffilesupdate.h"
+#include "values/gpslocation.h"
 #include "values/leadingnumber.h"
 
 #include <QFileInfo>
@@ -83,10 +84,8 @@ std::optional<MapRegion> MapPins::regionForPins(const QList<MapPin> &pins)
 
 void MapPins::updatePinAnnotationExifFile(ExifFileInfo &file, double latitude, double longitude)
 {
-    file.setExifValue(LongitudeKey, QString::number(std::abs(longitude), 'f', 6));
-    file.setExifValue(LongitudeRefKey, longitude >= 0 ? u"E"_qs : u"W"_qs);
-    file.setExifValue(LatitudeKey, QString::number(std::abs(latitude), 'f', 6));
-    file.setExifValue(LatitudeRefKey, latitude >= 0 ? u"N"_qs : u"S"_qs);
+    for (const auto &[key, value] : gpsPositionTags(latitude, longitude))
+        file.setExifValue(key, value);
 }
 
 void MapPins::setFiles(const QList<ExifFileInfoPtr> &files)
