@@ -55,14 +55,3 @@ add_custom_target(bundled_packages ALL DEPENDS ${TAGSMITH_NPM_STAMP} ${exiftool_
 
 # The bundled ExifTool, as tests and benchmarks call it directly.
 set(TAGSMITH_BUNDLED_EXIFTOOL ${CMAKE_BINARY_DIR}/Contents/Resources/exiftool/exiftool)
-
-install(DIRECTORY ${TAGSMITH_EXIFTOOL_DIR}/
-    DESTINATION ${CMAKE_INSTALL_BINDIR}/Contents/Resources/exiftool
-    USE_SOURCE_PERMISSIONS)
-install(DIRECTORY ${PROJECT_SOURCE_DIR}/resources/map/
-    DESTINATION ${CMAKE_INSTALL_BINDIR}/Contents/Resources/map/page)
-install(DIRECTORY ${TAGSMITH_LEAFLET_DIR}/
-    DESTINATION ${CMAKE_INSTALL_BINDIR}/Contents/Resources/map/leaflet
-    PATTERN "*.map" EXCLUDE)
-install(FILES ${TAGSMITH_LEAFLET_DIR}/../LICENSE
-    DESTINATION ${CMAKE_INSTALL_BINDIR}/Contents/Resources/map/leaflet)

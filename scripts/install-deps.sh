@@ -3,12 +3,15 @@
 # already there. Runs apt-get directly as root, through sudo otherwise.
 set -eu
 
-# The last line's encoders make the HEIC, AVIF, WebP and JPEG XL pictures the tests edit.
+# dpkg-dev finds the .deb's dependencies; desktop-file-utils and appstream check the desktop
+# entry and the AppStream file. The last line's encoders make the HEIC, AVIF, WebP and JPEG XL
+# pictures the tests edit.
 
 packages="g++ make cmake ninja-build perl python3 pkg-config
 qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
 qt6-webengine-dev qt6-webchannel-dev qt6-image-formats-plugins libgl-dev
 xvfb xauth
+dpkg-dev desktop-file-utils appstream
 libheif-examples webp libjxl-tools"
 
 missing=""

@@ -4,11 +4,11 @@
 #include "windows/mappins.h"
 
 #include "catalogue/stringtables.h"
+#include "engine/exiftoolpath.h"
 #include "values/logging.h"
 
 #include <QButtonGroup>
 #include <QCoreApplication>
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QHBoxLayout>
@@ -131,8 +131,7 @@ void MapWindowController::showTrack(const QList<TrackPoint> &points, const QList
 
 QString MapWindowController::pagePath()
 {
-    return QDir(QCoreApplication::applicationDirPath())
-        .filePath(QStringLiteral("Contents/Resources/map/page/map.html"));
+    return BundledPaths::mapPage(QCoreApplication::applicationDirPath());
 }
 
 void MapWindowController::loadPage()

@@ -34,7 +34,7 @@ public:
     void showTrack(const QList<TrackPoint> &points, const QList<MapPin> &proposed);
     void clearTrack() { showTrack({}, {}); }
 
-    // The page beside the executable: Contents/Resources/map/page/map.html.
+    // The page shipped with the executable, in the build tree or an installed one.
     static QString pagePath();
 
     MapPins *pins() const { return m_pins; }
