@@ -5,6 +5,7 @@
 #include "app/mainwindow.h"
 #include "app/previewpanel.h"
 #include "catalogue/ui/presetswindowcontroller.h"
+#include "engine/presetbatch.h"
 #include "editors/configurationviewcontroller.h"
 #include "windows/mapwindowcontroller.h"
 #include "windows/resultswindowcontroller.h"
@@ -53,11 +54,7 @@ void MainWindowController::handleConfigurationClick(int tag)
 void MainWindowController::applyConfiguration(const ExifConfiguration &configuration,
                                               const ExifFileInfoPtr &file)
 {
-    for (auto it = configuration.changedValues().cbegin();
-         it != configuration.changedValues().cend(); ++it)
-        file->setExifValue(it.key(), it.value());
-    for (const QString &key : configuration.removedValues())
-        file->removeExifValue(key);
+    applyPreset(configuration, *file);
 }
 
 void MainWindowController::applyConfiguration(const ExifConfiguration &configuration)

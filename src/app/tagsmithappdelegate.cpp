@@ -1,5 +1,6 @@
 #include "app/tagsmithappdelegate.h"
 
+#include "app/commandline.h"
 #include "app/mainwindowcontroller.h"
 #include "app/preferenceswindowcontroller.h"
 #include "catalogue/exifsettings.h"
@@ -51,7 +52,8 @@ bool TagsmithAppDelegate::hasArgument(const QString &argument, const QStringList
 
 void TagsmithAppDelegate::applicationWillFinishLaunching(const QStringList &arguments)
 {
-    m_debug = hasArgument(QStringLiteral("-debug"), arguments);
+    const CommandLine commandLine = CommandLine::parse(arguments);
+    m_debug = commandLine.debug;
     DebugMode::setEnabled(m_debug);
     if (m_debug) {
         const ExifToolVersion tool = exifToolVersion();
@@ -76,14 +78,10 @@ void TagsmithAppDelegate::applicationWillFinishLaunching(const QStringList &argu
     m_mainWindowController = m_mainWindowFactory ? m_mainWindowFactory(*this) : createMainWindow();
     m_mainWindowController->window()->show();
 
-    // The desktop hands over files to open as arguments (the .desktop file's %F).
-    QStringList paths;
-    for (qsizetype i = 1; i < arguments.size(); ++i) {
-        if (!arguments.at(i).startsWith(u'-'))
-            paths.append(arguments.at(i));
-    }
-    if (!paths.isEmpty() && m_mainWindowController)
-        m_mainWindowController->openFiles(paths);
+    // The desktop hands over files to open as arguments (the .desktop file's %F), a shell
+    // relative paths.
+    if (!commandLine.paths.isEmpty() && m_mainWindowController)
+        m_mainWindowController->openFiles(commandLine.paths);
 }
 
 std::unique_ptr<AppMainWindow> TagsmithAppDelegate::createMainWindow()

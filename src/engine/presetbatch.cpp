@@ -1,0 +1,135 @@
+#include "engine/presetbatch.h"
+
+#include "catalogue/exifconfiguration.h"
+#include "engine/errormessages.h"
+#include "engine/exifbackgroundrunner.h"
+#include "engine/exifbackgroundrunnerlistener.h"
+#include "engine/exifrunner.h"
+#include "engine/exifrunnerfilemodifiyoperation.h"
+#include "engine/exifutil.h"
+#include "engine/fileadmission.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("PresetBatch", text);
+}
+
+// Waits for the one batch it is told of.
+class BatchWaiter : public ExifBackgroundRunnerListener
+{
+public:
+    void fileToBeProcessed(const ExifFileInfoPtr &, const ExifOperationStatus &) override {}
+    void fileProcessed(const ExifFileInfoPtr &, const ExifOperationStatus &) override {}
+    void finishProcessing(const QHash<QString, ErrorMessagesPtr> &results) override
+    {
+        m_results = results;
+        m_loop.quit();
+    }
+    QHash<QString, ErrorMessagesPtr> wait()
+    {
+        m_loop.exec();
+        return m_results;
+    }
+
+private:
+    QEventLoop m_loop;
+    QHash<QString, ErrorMessagesPtr> m_results;
+};
+
+QStringList messagesOfType(const ErrorMessages &messages, qint32 type)
+{
+    QStringList texts;
+    for (const ErrorMessage &message : messages.messages()) {
+        if (message.type() == type)
+            texts.append(message.message());
+    }
+    return texts;
+}
+
+} // namespace
+
+void applyPreset(const ExifConfiguration &preset, ExifFileInfo &file)
+{
+    for (auto it = preset.changedValues().cbegin(); it != preset.changedValues().cend(); ++it)
+        file.setExifValue(it.key(), it.value());
+    for (const QString &key : preset.removedValues())
+        file.removeExifValue(key);
+}
+
+QList<PresetBatch::FileResult> PresetBatch::run(const ExifConfiguration &preset,
+                                                const QStringList &paths)
+{
+    QList<FileResult> results;
+    const FileAdmissionResult admitted =
+        FileAdmission::preprocessFilesToBeAdded(paths, [](const QString &) { return false; });
+    for (const FileRejection &rejection : admitted.rejected) {
+        // What a folder hides is not something the user asked for.
+        if (rejection.reason != FileRejection::Reason::Hidden)
+            results.append(
+                {rejection.path, Outcome::Failed, {FileAdmission::reasonText(rejection.reason)}});
+    }
+
+    QList<ExifFileInfoPtr> files;
+    for (const QString &path : admitted.accepted)
+        files.append(std::make_shared<ExifFileInfo>(path));
+    ExifRunner reader;
+    const ExifReadResult read = reader.loadExifInformations(files);
+
+    QList<ExifFileInfoPtr> toSave;
+    for (const ExifFileInfoPtr &file : std::as_const(files)) {
+        const auto rejection = FileAdmission::rejectionAfterReading(file->originalExifData());
+        if (!read.ok() || !file->isValid() || rejection) {
+            const QString reason = !read.ok() ? read.errorMessage
+                                              : FileAdmission::reasonText(rejection.value_or(
+                                                    FileRejection::Reason::Unreadable));
+            results.append({file->fileName(), Outcome::Failed, {reason}});
+            continue;
+        }
+        applyPreset(preset, *file);
+        if (isExifFileModified(*file))
+            toSave.append(file);
+        else
+            results.append({file->fileName(), Outcome::Unchanged, {}});
+    }
+
+    if (!toSave.isEmpty()) {
+        ExifBackgroundRunner runner;
+        BatchWaiter waiter;
+        runner.setListener(&waiter);
+        runner.saveFiles(toSave, ExifRunnerFileModifiyOperation::ReReadOption);
+        const QHash<QString, ErrorMessagesPtr> saved = waiter.wait();
+        runner.setListener(nullptr);
+        for (const ExifFileInfoPtr &file : std::as_const(toSave)) {
+            const ErrorMessagesPtr messages = saved.value(file->fileName());
+            if (messages && messages->errorsCount() > 0) {
+                results.append({file->fileName(), Outcome::Failed,
+                                messagesOfType(*messages, ErrorMessage::Error)});
+            } else {
+                results.append(
+                    {file->fileName(), Outcome::Saved,
+                     messages ? messagesOfType(*messages, ErrorMessage::Warning) : QStringList()});
+            }
+        }
+    }
+    return results;
+}
+
+QString PresetBatch::describe(const FileResult &result)
+{
+    switch (result.outcome) {
+    case Outcome::Saved:
+        if (result.messages.isEmpty())
+            return tr("%1: saved").arg(result.path);
+        return tr("%1: saved, with warnings: %2").arg(result.path, result.messages.join(u' '));
+    case Outcome::Unchanged:
+        return tr("%1: unchanged").arg(result.path);
+    case Outcome::Failed:
+        break;
+    }
+    return QStringLiteral("%1: %2").arg(result.path, result.messages.join(u' '));
+}
