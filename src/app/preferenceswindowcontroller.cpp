@@ -54,6 +54,8 @@ PreferencesWindowController::PreferencesWindowController(const QString &exifTool
                 localized(QStringLiteral("Ignore minor errors and warnings (ExifTool -m)"))));
     savingForm->addRow(addFlag(UserSettings::WriteXmpSidecars,
                                localized(QStringLiteral("Write XMP to sidecars for raw files"))));
+    savingForm->addRow(addFlag(UserSettings::WriteReadOnlyFiles,
+                               localized(QStringLiteral("Write files that are read-only"))));
     savingForm->addRow(localized(QStringLiteral("File modification date:")),
                        addChoice(UserSettings::FileModifyDate,
                                  {{0, localized(QStringLiteral("Set to the image's modify date"))},

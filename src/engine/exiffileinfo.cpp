@@ -76,6 +76,18 @@ void ExifFileInfo::setValid(bool valid)
     m_valid = valid;
 }
 
+std::optional<FileIdentity> ExifFileInfo::identity() const
+{
+    QMutexLocker locker(&m_mutex);
+    return m_identity;
+}
+
+void ExifFileInfo::setIdentity(std::optional<FileIdentity> identity)
+{
+    QMutexLocker locker(&m_mutex);
+    m_identity = identity;
+}
+
 QString ExifFileInfo::sidecarPath() const
 {
     QMutexLocker locker(&m_mutex);

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "engine/fileidentity.h"
 #include "engine/tagdictionary.h"
 
 #include <QMutex>
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 // One image file, shared between the main thread and a background operation: every accessor
 // takes the record's lock and hands out copies, so neither side sees a half-replaced dictionary.
@@ -39,6 +41,11 @@ public:
     QString sidecarPath() const;
     void setSidecarPath(const QString &path);
 
+    // The file as it was when its values were read, or as our last write left it; a write
+    // goes ahead only while the file on disk still matches it.
+    std::optional<FileIdentity> identity() const;
+    void setIdentity(std::optional<FileIdentity> identity);
+
     // True when ExifTool could not decode the maker notes.
     bool hasError() const;
 
@@ -53,6 +60,7 @@ private:
     TagDictionary m_originalExifData;
     bool m_valid = false;
     QString m_sidecarPath;
+    std::optional<FileIdentity> m_identity;
 };
 
 using ExifFileInfoPtr = std::shared_ptr<ExifFileInfo>;

@@ -112,32 +112,41 @@ ExifReadResult ExifRunner::loadExifInformations(const QList<ExifFileInfoPtr> &fi
     // A list may hold two records of one path; both get its values.
     QHash<QString, QList<ExifFileInfoPtr>> byPath;
     byPath.reserve(kept.size());
-    for (const ExifFileInfoPtr &file : std::as_const(kept))
+    // Taken before ExifTool opens the files: a change made while it reads then shows as a
+    // change since the read, never the other way round.
+    QHash<QString, std::optional<FileIdentity>> identities;
+    identities.reserve(kept.size());
+    for (const ExifFileInfoPtr &file : std::as_const(kept)) {
         byPath[file->fileName()].append(file);
+        identities.insert(file->fileName(), FileIdentity::of(file->fileName()));
+    }
     m_cachesFormatters = true;
     StringPool pool;
     // Each record is formatted as it arrives, on this thread while ExifTool works on the next
     // files, and the parsed form is let go at once, so the batch is never held twice.
-    const Report report = readReport(
-        paths, [this, &byPath, &pool, &sidecarValues](const QString &path, TagDictionary record) {
-            const auto sidecar = sidecarValues.find(path);
-            if (sidecar != sidecarValues.end()) {
-                *sidecar = preformatValues(XmpSidecar::xmpPart(record), &pool);
-                return;
-            }
-            const auto waiting = byPath.constFind(path);
-            if (waiting == byPath.cend())
-                return;
-            const TagDictionary formatted = preformatValues(record, &pool);
-            for (const ExifFileInfoPtr &file : *waiting)
-                file->setReadData(formatted);
-            byPath.erase(waiting);
-        });
+    const Report report = readReport(paths, [&, this](const QString &path, TagDictionary record) {
+        const auto sidecar = sidecarValues.find(path);
+        if (sidecar != sidecarValues.end()) {
+            *sidecar = preformatValues(XmpSidecar::xmpPart(record), &pool);
+            return;
+        }
+        const auto waiting = byPath.constFind(path);
+        if (waiting == byPath.cend())
+            return;
+        const TagDictionary formatted = preformatValues(record, &pool);
+        for (const ExifFileInfoPtr &file : *waiting) {
+            file->setReadData(formatted);
+            file->setIdentity(identities.value(path));
+        }
+        byPath.erase(waiting);
+    });
     if (report.ran) {
         // What ExifTool reported nothing for is still read, with nothing in it.
-        for (const QList<ExifFileInfoPtr> &files : std::as_const(byPath)) {
-            for (const ExifFileInfoPtr &file : files)
+        for (auto it = byPath.cbegin(); it != byPath.cend(); ++it) {
+            for (const ExifFileInfoPtr &file : it.value()) {
                 file->setReadData({});
+                file->setIdentity(identities.value(it.key()));
+            }
         }
     }
     if (!sidecarValues.isEmpty()) {
@@ -171,10 +180,12 @@ ExifReadResult ExifRunner::updateOriginalExifInformation(const ExifFileInfoPtr &
     if (!existsOnDisk(file->fileName()))
         return {};
     const QString sidecar = file->sidecarPath();
+    const std::optional<FileIdentity> identity = FileIdentity::of(file->fileName());
     const Report report = readReport(sidecar.isEmpty() ? QStringList{file->fileName()}
                                                        : QStringList{file->fileName(), sidecar});
     if (!report.ran)
         return report.result;
+    file->setIdentity(identity);
     TagDictionary values = preformatValues(report.records.value(file->fileName()));
     if (!sidecar.isEmpty())
         values = withSidecarValues(

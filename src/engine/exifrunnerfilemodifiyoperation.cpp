@@ -17,6 +17,7 @@
 #include <QMutexLocker>
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <atomic>
 
@@ -186,9 +187,14 @@ ExifRunnerFileModifiyOperation::writeFile(const QStringList &arguments, ErrorMes
     setCommandTimeout(int(std::min<qint64>(s_timeoutBaseMs + megabytes * s_timeoutPerMegabyteMs,
                                            std::numeric_limits<int>::max())));
 
+    if (!mayWrite(errors)) {
+        result.leftAlone = true;
+        return result;
+    }
     if (createTempFilePathForPath(m_fileName).isEmpty()) {
         errors.addError(tr("The file could not be saved: %1").arg(m_replacement->errorString()));
     } else {
+        m_replacement->setExpectedIdentity(m_efi->identity());
         QStringList all = arguments;
         // ExifTool puts a bare JPEG XL codestream into a container (losslessly) only when told
         // to ignore minor errors; the read-back still checks every written value.
@@ -206,6 +212,11 @@ ExifRunnerFileModifiyOperation::writeFile(const QStringList &arguments, ErrorMes
             if (written) {
                 verifyWrittenValues(*written, errors);
                 result.replaced = moveTempToFinal(errors);
+                result.leftAlone = m_replacement->targetChangedOutside();
+                if (result.replaced) {
+                    updateFileDates();
+                    m_efi->setIdentity(FileIdentity::of(m_fileName));
+                }
                 if (result.replaced && reReads() && !typeDiffers) {
                     describeFinalFile(*written);
                     result.reRead = std::move(written);
@@ -214,10 +225,34 @@ ExifRunnerFileModifiyOperation::writeFile(const QStringList &arguments, ErrorMes
         }
         m_replacement->discard();
     }
-    // What is on disk now, whichever file that is.
-    if (reReads() && !result.reRead)
+    // What is on disk now, whichever file that is; but another program's file is not ours to
+    // take in: the record keeps what was read, and its edits, until the user reloads it.
+    if (reReads() && !result.reRead && !result.leftAlone)
         result.reRead = loadOldDataWithErrors(errors);
     return result;
+}
+
+bool ExifRunnerFileModifiyOperation::mayWrite(ErrorMessages &errors) const
+{
+    const std::optional<FileIdentity> expected = m_efi->identity();
+    const std::optional<FileIdentity> current = FileIdentity::of(m_fileName);
+    if (expected && current != expected) {
+        errors.addError(changedOutsideMessage(m_fileName));
+        return false;
+    }
+    struct stat st
+    {
+    };
+    // Decided by the file's own mode and owner: a root user may write anything, but a file set
+    // read-only, or someone else's, is not for this program to change unasked.
+    if (!UserSettings::writesReadOnlyFiles() &&
+        ::stat(QFile::encodeName(m_fileName).constData(), &st) == 0 &&
+        ((st.st_mode & S_IWUSR) == 0 || st.st_uid != ::geteuid())) {
+        errors.addError(
+            tr("%1 is read-only, so it was not changed.").arg(QFileInfo(m_fileName).fileName()));
+        return false;
+    }
+    return true;
 }
 
 std::optional<TagDictionary> ExifRunnerFileModifiyOperation::checkNewFile(ErrorMessages &errors,
@@ -417,8 +452,5 @@ ExifRunnerFileModifiyOperation::adoptRewrittenFile(const WriteResult &result)
         m_efi->setExifData(*reRead);
         m_efi->setOriginalExifData(*reRead);
     }
-    // An original kept after a failed check is left exactly as it was, dates included.
-    if (result.replaced)
-        updateFileDates();
     return reRead;
 }

@@ -49,10 +49,15 @@ protected:
     // which are appended here. Runs ExifTool, checks the new file, puts it in place, and with
     // the re-read option gives what the file now holds. The original is untouched whenever the
     // result is not replaced.
+    // Once the new file is in place its dates are set as the settings ask and the record takes
+    // its identity, so the next write of this file knows it as ours. A file that changed on
+    // disk since it was read, or that the user may not write, is left as it is, and so is
+    // the record: its edits stay pending.
     struct WriteResult
     {
-        int exitStatus = -1;   // ExifTool's
-        bool replaced = false; // the new file is in place
+        int exitStatus = -1;    // ExifTool's
+        bool replaced = false;  // the new file is in place
+        bool leftAlone = false; // changed by someone else, or read-only: not touched at all
         std::optional<TagDictionary> reRead;
     };
     WriteResult writeFile(const QStringList &arguments, ErrorMessages &errors);
@@ -88,6 +93,8 @@ private:
     QHash<QString, TagDictionary> readFiles(const QStringList &paths, const QStringList &extra,
                                             ExifToolResult &result);
     void describeFinalFile(TagDictionary &values) const;
+    // Whether the file may be written at all; adds the reason when not.
+    bool mayWrite(ErrorMessages &errors) const;
 
     const QString m_fileName;
     const ExifFileInfoPtr m_efi;

@@ -1,6 +1,5 @@
 #include "engine/exifrunnerremoveexifgroupsoperation.h"
 
-#include <QMutexLocker>
 
 ExifRunnerRemoveExifGroupsOperation::ExifRunnerRemoveExifGroupsOperation(ExifFileInfoPtr efi,
                                                                          quint32 options)
@@ -24,9 +23,6 @@ void ExifRunnerRemoveExifGroupsOperation::run()
             finish(first, errors);
             return;
         }
-        QMutexLocker locker(&m_lock);
-        // Before the next pass reads the file's dates as "what they were".
-        updateFileDates();
     }
     finish(writeFile(addRemoveArgs(), *errors), errors);
 }

@@ -7,7 +7,6 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QMutexLocker>
 #include <QTemporaryFile>
 
 namespace {
@@ -64,10 +63,6 @@ void ExifRunnerRevertOperation::run()
         return;
     }
     const WriteResult result = writeFile(exifToolArguments(import.fileName()), *errors);
-    QMutexLocker locker(&m_lock);
-    if (result.replaced)
-        updateFileDates();
-    locker.unlock();
     if (result.replaced)
         RevertRecord::discard(fileName());
     // The record holds only what the save wrote into the file itself.

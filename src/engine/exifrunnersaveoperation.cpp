@@ -14,7 +14,6 @@
 
 #include <QCoreApplication>
 #include <QLocale>
-#include <QMutexLocker>
 
 #include <cmath>
 
@@ -105,16 +104,12 @@ void ExifRunnerSaveOperation::run()
             exifToolSession(), fileName(), m_itemsToChange.keys() + m_itemsToRemove.values(),
             *errors);
         result = writeFile(arguments, *errors);
-        QMutexLocker locker(&m_lock);
-        // An original kept after a failed check is left exactly as it was, dates included.
-        if (result.replaced)
-            updateFileDates();
-        locker.unlock();
         if (result.replaced)
             RevertRecord::storeAfterSave(std::move(revert), efi()->originalExifData(),
                                          result.reRead, *errors);
     }
-    if (!m_sidecarPath.isEmpty())
+    // A file changed by someone else is left whole, sidecar included.
+    if (!m_sidecarPath.isEmpty() && !result.leftAlone)
         writeSidecar(*errors, result);
     storeResults(errors, reReads() ? result.reRead : std::nullopt);
 }

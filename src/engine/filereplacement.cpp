@@ -14,7 +14,9 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <signal.h>
+#include <stdio.h>
 #include <sys/file.h>
+#include <sys/sysmacros.h>
 #include <sys/xattr.h>
 #include <unistd.h>
 
@@ -149,6 +151,15 @@ QString translated(const char *text, int n = -1)
     return result;
 }
 
+FileIdentity identityOf(const struct statx &st)
+{
+    const auto ns = [](const statx_timestamp &time) {
+        return qint64(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
+    };
+    return {dev_t(makedev(st.stx_dev_major, st.stx_dev_minor)), ino_t(st.stx_ino),
+            qint64(st.stx_size), ns(st.stx_mtime), ns(st.stx_ctime)};
+}
+
 } // namespace
 
 FileReplacement::FileReplacement(QString path)
@@ -165,6 +176,7 @@ bool FileReplacement::prepare()
 {
     discard();
     m_committed = false;
+    m_changedOutside = false;
     m_originalState.reset();
     m_errorString.clear();
 
@@ -343,8 +355,12 @@ bool FileReplacement::commit(ErrorMessages &errors)
     struct statx original = {};
     const QByteArray target = encoded(m_targetPath);
     if (::statx(AT_FDCWD, target.constData(), 0, STATX_BASIC_STATS | STATX_BTIME, &original) != 0) {
+        if (m_expected)
+            return reportChangedOutside(errors);
         return fail(errors, translated("the original file cannot be found any more"), errno);
     }
+    if (m_expected && *m_expected != identityOf(original))
+        return reportChangedOutside(errors);
     if (!S_ISREG(original.stx_mode))
         return fail(errors, translated("the original is no longer a regular file"), 0);
     FileSnapshot snapshot;
@@ -364,8 +380,8 @@ bool FileReplacement::commit(ErrorMessages &errors)
         return false;
     if (::fsync(fd) != 0)
         return fail(errors, translated("the new file cannot be written to disk"), errno);
-    if (::rename(encoded(m_temporaryPath).constData(), target.constData()) != 0)
-        return fail(errors, translated("the new file cannot take the original's place"), errno);
+    if (!swapInto(target, errors))
+        return false;
     m_committed = true;
 
     // Without this the rename itself may not survive a power cut.
@@ -386,6 +402,61 @@ bool FileReplacement::commit(ErrorMessages &errors)
     }
     discard();
     return true;
+}
+
+// With an expected identity the two files change places in one step and the one taken out is
+// checked: had another program replaced or rewritten the target since the check above, its
+// file goes back where it was. Where the file system cannot exchange, a plain rename follows
+// the check, which leaves only the moment between the two.
+bool FileReplacement::swapInto(const QByteArray &target, ErrorMessages &errors)
+{
+    const QByteArray temporary = encoded(m_temporaryPath);
+    if (m_expected) {
+        if (::renameat2(AT_FDCWD, temporary.constData(), AT_FDCWD, target.constData(),
+                        RENAME_EXCHANGE) == 0) {
+            const std::optional<FileIdentity> displaced = FileIdentity::of(m_temporaryPath);
+            // The exchange itself moves the change time; the rest must be as read.
+            if (!displaced || !displaced->isSameFile(*m_expected) ||
+                displaced->size != m_expected->size ||
+                displaced->modifiedNs != m_expected->modifiedNs) {
+                if (::renameat2(AT_FDCWD, temporary.constData(), AT_FDCWD, target.constData(),
+                                RENAME_EXCHANGE) != 0) {
+                    // Both files still exist; say where the other program's one is.
+                    return fail(errors,
+                                translated("it was changed by another program while it was being "
+                                           "saved; its other version is at “%1”")
+                                    .arg(m_temporaryPath),
+                                errno);
+                }
+                return reportChangedOutside(errors);
+            }
+            ::unlink(temporary.constData());
+            return true;
+        }
+        if (errno != EINVAL && errno != ENOSYS && errno != ENOTSUP)
+            return fail(errors, translated("the new file cannot take the original's place"), errno);
+    }
+    if (::rename(temporary.constData(), target.constData()) != 0)
+        return fail(errors, translated("the new file cannot take the original's place"), errno);
+    return true;
+}
+
+bool FileReplacement::reportChangedOutside(ErrorMessages &errors)
+{
+    m_changedOutside = true;
+    m_errorString = changedOutsideMessage(m_path);
+    errors.addError(m_errorString);
+    qCWarning(lcTagsmith).noquote() << m_errorString;
+    discard();
+    return false;
+}
+
+QString changedOutsideMessage(const QString &path)
+{
+    return QCoreApplication::translate("Localizable",
+                                       "%1 was changed by another program after it was read; "
+                                       "reload it to see its new values.")
+        .arg(QFileInfo(path).fileName());
 }
 
 void FileReplacement::discard()

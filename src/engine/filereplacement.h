@@ -1,5 +1,7 @@
 #pragma once
 
+#include "engine/fileidentity.h"
+
 #include <QString>
 
 #include <sys/stat.h>
@@ -47,10 +49,18 @@ public:
     // sequences with no way to escape them.
     const QString &exifToolOutputPath() const { return m_exifToolOutputPath; }
 
+    // The target as it was read. When set, commit() replaces the target only while it still
+    // is exactly that file, and swaps the two atomically so that nothing another program does
+    // to it in between is lost.
+    void setExpectedIdentity(std::optional<FileIdentity> identity) { m_expected = identity; }
+    // True after a commit() that found the target changed by someone else.
+    bool targetChangedOutside() const { return m_changedOutside; }
+
     // Puts the temporary file in place of the target. False (with the reason in errors) when
-    // it is missing or empty, when the original owner or attributes cannot be given to it, or
-    // when the rename fails; the original is then untouched and the temporary file removed.
-    // A target with other hard links is replaced all the same, with a warning.
+    // it is missing or empty, when the original owner or attributes cannot be given to it, when
+    // the target is no longer the expected file, or when the rename fails; the original is then
+    // untouched and the temporary file removed. A target with other hard links is replaced all
+    // the same, with a warning.
     bool commit(ErrorMessages &errors);
     // Starts writing the new file to disk without waiting, so that the flush commit() must
     // make is mostly done by then. Only a hint: nothing is promised until commit().
@@ -71,6 +81,8 @@ private:
     bool makeOutputAlias();
     bool fail(ErrorMessages &errors, const QString &reason, int error);
     bool giveOriginalIdentity(int fd, ErrorMessages &errors);
+    bool swapInto(const QByteArray &target, ErrorMessages &errors);
+    bool reportChangedOutside(ErrorMessages &errors);
 
     QString m_path;
     QString m_targetPath;
@@ -82,9 +94,14 @@ private:
     int m_scratchLock = -1;
     int m_aliasLock = -1;
     std::optional<FileSnapshot> m_originalState;
+    std::optional<FileIdentity> m_expected;
+    bool m_changedOutside = false;
     QString m_errorString;
     bool m_committed = false;
 };
+
+// The error a file gets when it changed on disk after it was read, so it was not written.
+QString changedOutsideMessage(const QString &path);
 
 // Sets a file's modification time to the nanosecond (the access time is left alone).
 bool setFileModificationTime(const QString &path, const timespec &time, QString *errorString);

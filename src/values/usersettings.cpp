@@ -50,7 +50,7 @@ QVariant UserSettings::defaultValue(const QString &key)
     if (key == GpsFormat || key == FileModifyDate || key == FileCreateDate)
         return 0;
     if (key == ForceFixBase || key == IgnoreMinorErrors || key == WriteXmpSidecars ||
-        key == PasteEverything)
+        key == WriteReadOnlyFiles || key == PasteEverything)
         return false;
     return {};
 }
@@ -152,4 +152,9 @@ bool UserSettings::isCameraRawFile(const QString &path)
 bool UserSettings::writesXmpSidecars()
 {
     return value(WriteXmpSidecars).toBool();
+}
+
+bool UserSettings::writesReadOnlyFiles()
+{
+    return value(WriteReadOnlyFiles).toBool();
 }

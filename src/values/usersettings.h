@@ -24,6 +24,9 @@ public:
     // "Write XMP to sidecars for raw files": a raw file without a sidecar gets one at its
     // first XMP edit. Off by default.
     static inline const QString WriteXmpSidecars = QStringLiteral("WRITE_XMP_SIDECARS");
+    // "Write files that are read-only": a file without its owner's write permission, or
+    // owned by another user, is saved all the same. Off by default.
+    static inline const QString WriteReadOnlyFiles = QStringLiteral("WRITE_READ_ONLY_FILES");
     // The last choice of the paste dialog.
     static inline const QString PasteEverything = QStringLiteral("PASTE_METADATA_EVERYTHING");
     static inline const QString PasteSections = QStringLiteral("PASTE_METADATA_SECTIONS");
@@ -62,6 +65,7 @@ public:
     // By extension: the camera raw formats the program opens.
     static bool isCameraRawFile(const QString &path);
     static bool writesXmpSidecars();
+    static bool writesReadOnlyFiles();
 
 private:
     static int intValue(const QString &key);
