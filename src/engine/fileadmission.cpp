@@ -1,5 +1,7 @@
 #include "engine/fileadmission.h"
 
+#include "values/imagefiletypes.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -99,28 +101,12 @@ struct Admission
 
 bool FileAdmission::supportsFile(const QString &path)
 {
-    return supportedExtensions().contains(QFileInfo(path).suffix().toLower());
+    return ImageFileTypes::isSupportedFile(path);
 }
 
 const QStringList &FileAdmission::supportedExtensions()
 {
-    // Only what the bundled ExifTool can write ("exiftool -listwf"): a file it could read but
-    // not write would let the user edit it and fail only at saving. Hasselblad's 3fr is left out
-    // for that reason, though other raw formats of that age are here.
-    static const QStringList extensions{
-        // Still images of the first release.
-        QStringLiteral("arw"), QStringLiteral("cr2"), QStringLiteral("dng"), QStringLiteral("iiq"),
-        QStringLiteral("jpg"), QStringLiteral("jpeg"), QStringLiteral("nef"), QStringLiteral("orf"),
-        QStringLiteral("pef"), QStringLiteral("png"), QStringLiteral("psb"), QStringLiteral("psd"),
-        QStringLiteral("raf"), QStringLiteral("raw"), QStringLiteral("rw2"), QStringLiteral("rwl"),
-        QStringLiteral("tif"), QStringLiteral("tiff"), QStringLiteral("x3f"),
-        // Today's cameras, phones and web exports, and older raw formats still in archives.
-        QStringLiteral("cr3"), QStringLiteral("crw"), QStringLiteral("heic"),
-        QStringLiteral("heif"), QStringLiteral("hif"), QStringLiteral("avif"),
-        QStringLiteral("webp"), QStringLiteral("jxl"), QStringLiteral("nrw"), QStringLiteral("srw"),
-        QStringLiteral("erf"), QStringLiteral("mef"), QStringLiteral("mos"), QStringLiteral("mrw"),
-        QStringLiteral("sr2"), QStringLiteral("gpr"), QStringLiteral("mpo"), QStringLiteral("gif")};
-    return extensions;
+    return ImageFileTypes::supportedExtensions();
 }
 
 FileAdmissionResult
