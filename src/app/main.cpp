@@ -16,6 +16,10 @@ int main(int argc, char *argv[])
     QApplication::setApplicationName(QStringLiteral("Tagsmith"));
 
     TagsmithAppDelegate delegate;
-    delegate.applicationWillFinishLaunching();
+    // What Qt left in argv once it took its own options, as the bytes given.
+    QList<QByteArray> arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(QByteArray(argv[i]));
+    delegate.applicationWillFinishLaunching(arguments);
     return QApplication::exec();
 }

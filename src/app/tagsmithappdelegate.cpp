@@ -11,6 +11,8 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QDir>
+#include <QFile>
 #include <QUrl>
 
 namespace {
@@ -51,7 +53,15 @@ bool TagsmithAppDelegate::hasArgument(const QString &argument, const QStringList
 
 void TagsmithAppDelegate::applicationWillFinishLaunching(const QStringList &arguments)
 {
-    m_debug = hasArgument(QStringLiteral("-debug"), arguments);
+    QList<QByteArray> bytes;
+    for (const QString &argument : arguments)
+        bytes.append(QFile::encodeName(argument));
+    applicationWillFinishLaunching(bytes);
+}
+
+void TagsmithAppDelegate::applicationWillFinishLaunching(const QList<QByteArray> &arguments)
+{
+    m_debug = arguments.contains(QByteArrayLiteral("-debug"));
     DebugMode::setEnabled(m_debug);
     if (m_debug) {
         const ExifToolVersion tool = exifToolVersion();
@@ -76,14 +86,12 @@ void TagsmithAppDelegate::applicationWillFinishLaunching(const QStringList &argu
     m_mainWindowController = m_mainWindowFactory ? m_mainWindowFactory(*this) : createMainWindow();
     m_mainWindowController->window()->show();
 
-    // The desktop hands over files to open as arguments (the .desktop file's %F).
-    QStringList paths;
-    for (qsizetype i = 1; i < arguments.size(); ++i) {
-        if (!arguments.at(i).startsWith(u'-'))
-            paths.append(arguments.at(i));
-    }
-    if (!paths.isEmpty() && m_mainWindowController)
-        m_mainWindowController->openFiles(paths);
+    // The desktop hands over files to open as arguments (the .desktop file's %F), a shell
+    // relative to the folder it runs in.
+    const FileAdmissionResult files =
+        FileAdmission::commandLineFiles(arguments, QDir::currentPath());
+    if ((!files.accepted.isEmpty() || !files.rejected.isEmpty()) && m_mainWindowController)
+        m_mainWindowController->openFiles(files.accepted, files.rejected);
 }
 
 std::unique_ptr<AppMainWindow> TagsmithAppDelegate::createMainWindow()

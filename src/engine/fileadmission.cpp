@@ -202,6 +202,24 @@ FileAdmissionResult FileAdmission::preprocessFilesToBeAdded(const QStringList &p
     return admission.result;
 }
 
+FileAdmissionResult FileAdmission::commandLineFiles(const QList<QByteArray> &arguments,
+                                                    const QString &currentFolder)
+{
+    FileAdmissionResult files;
+    const QDir current(currentFolder);
+    for (qsizetype i = 1; i < arguments.size(); ++i) {
+        const QByteArray &argument = arguments.at(i);
+        if (argument.isEmpty() || argument.startsWith('-'))
+            continue;
+        const QString path = current.absoluteFilePath(QFile::decodeName(argument));
+        if (QFile::encodeName(QFile::decodeName(argument)) == argument)
+            files.accepted.append(path);
+        else
+            files.rejected.append({path, FileRejection::Reason::InvalidName});
+    }
+    return files;
+}
+
 QString FileAdmission::rowName(const QString &path)
 {
     if (path.isEmpty())

@@ -56,6 +56,12 @@ public:
     static FileAdmissionResult preprocessFilesToBeAdded(const QStringList &paths,
                                                         const QStringList &listedFiles);
 
+    // The files named on a command line, as the bytes given (the program first; options, which
+    // begin with "-", skipped): relative ones taken from currentFolder, and those whose name is
+    // no UTF-8 rejected.
+    static FileAdmissionResult commandLineFiles(const QList<QByteArray> &arguments,
+                                                const QString &currentFolder);
+
     // The name a row keeps for a path given.
     static QString rowName(const QString &path);
 

@@ -179,6 +179,21 @@ private Q_SLOTS:
         QCOMPARE(outcome(result), expected);
     }
 
+    void commandLineNamesAreAbsoluteAndValid()
+    {
+        const QList<QByteArray> arguments{"tagsmith",   "-debug",      "a.jpg",
+                                          ".",          "/abs/b.nef",  "",
+                                          "d/../c.jpg", "caf\xe9.jpg", "caf\xc3\xa9.jpg"};
+        const FileAdmissionResult files =
+            FileAdmission::commandLineFiles(arguments, u"/home/ann/shoot"_qs);
+        QCOMPARE(files.accepted, QStringList({u"/home/ann/shoot/a.jpg"_qs, u"/home/ann/shoot/."_qs,
+                                              u"/abs/b.nef"_qs, u"/home/ann/shoot/d/../c.jpg"_qs,
+                                              u"/home/ann/shoot/caf\u00e9.jpg"_qs}));
+        QCOMPARE(outcome({{}, files.rejected}),
+                 QStringList{u"its name is not valid UTF-8, so it cannot be opened "
+                             u"/home/ann/shoot/caf\ufffd.jpg"_qs});
+    }
+
     void supportsByLowerCasedExtension_data()
     {
         QTest::addColumn<QString>("path");
