@@ -10,6 +10,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QTextStream>
 
@@ -78,7 +79,10 @@ int applyPreset(const CommandLine &line)
                             .arg(line.presetName, names.join(QStringLiteral(", "))));
         return 2;
     }
-    bool anyFailed = false;
+    bool anyFailed = !line.rejected.isEmpty();
+    for (const FileRejection &rejection : line.rejected)
+        out()
+            << QStringLiteral("%1: %2\n").arg(rejection.path, FileAdmission::reasonText(rejection));
     for (const PresetBatch::FileResult &result : PresetBatch::run(*preset, line.paths)) {
         out() << PresetBatch::describe(result) << u'\n';
         anyFailed = anyFailed || result.outcome == PresetBatch::Outcome::Failed;
@@ -89,16 +93,16 @@ int applyPreset(const CommandLine &line)
 
 } // namespace
 
-CommandLine CommandLine::parse(const QStringList &arguments, const QString &currentFolder)
+CommandLine CommandLine::parse(const QList<QByteArray> &arguments, const QString &currentFolder)
 {
     CommandLine line;
-    const QDir folder(currentFolder);
+    QList<QByteArray> names;
     bool optionsEnded = false;
     for (qsizetype i = 1; i < arguments.size(); ++i) {
-        const QString &argument = arguments.at(i);
+        const QString argument = QFile::decodeName(arguments.at(i));
         const bool isOption = !optionsEnded && argument.size() > 1 && argument.startsWith(u'-');
         if (!isOption) {
-            line.paths.append(folder.absoluteFilePath(argument));
+            names.append(arguments.at(i));
         } else if (argument == u"--") {
             optionsEnded = true;
         } else if (argument == u"-h" || argument == u"--help") {
@@ -112,7 +116,7 @@ CommandLine CommandLine::parse(const QStringList &arguments, const QString &curr
             if (argument == ApplyPresetOption) {
                 if (++i >= arguments.size())
                     return failure(tr("--apply-preset needs the name of a preset."));
-                line.presetName = arguments.at(i);
+                line.presetName = QFile::decodeName(arguments.at(i));
             } else {
                 line.presetName = argument.mid(ApplyPresetOption.size() + 1);
             }
@@ -124,14 +128,20 @@ CommandLine CommandLine::parse(const QStringList &arguments, const QString &curr
                                .arg(argument));
         }
     }
-    if (line.mode == Mode::ApplyPreset && line.paths.isEmpty())
+    const FileAdmissionResult files = FileAdmission::commandLineFiles(names, currentFolder);
+    line.paths = files.accepted;
+    line.rejected = files.rejected;
+    if (line.mode == Mode::ApplyPreset && line.paths.isEmpty() && line.rejected.isEmpty())
         return failure(tr("--apply-preset needs files or folders to apply the preset to."));
     return line;
 }
 
-CommandLine CommandLine::parse(const QStringList &arguments)
+CommandLine CommandLine::parse(const QStringList &arguments, const QString &currentFolder)
 {
-    return parse(arguments, QDir::currentPath());
+    QList<QByteArray> bytes;
+    for (const QString &argument : arguments)
+        bytes.append(QFile::encodeName(argument));
+    return parse(bytes, currentFolder);
 }
 
 bool CommandLine::isHeadless(const QStringList &arguments)
@@ -166,7 +176,7 @@ bool CommandLine::isHeadless(const QStringList &arguments)
         else if (!guiFlags.contains(argument) && !argument.startsWith(u"-style="_qs))
             remaining.append(argument);
     }
-    return parse(remaining).mode != Mode::Window;
+    return parse(remaining, QDir::currentPath()).mode != Mode::Window;
 }
 
 QString CommandLine::helpText()

@@ -1,5 +1,9 @@
 #pragma once
 
+#include "engine/fileadmission.h"
+
+#include <QByteArray>
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -13,11 +17,14 @@ struct CommandLine
     bool debug = false;
     QString presetName;
     QStringList paths;
+    // Names that cannot be opened (not valid UTF-8), for the add-files note.
+    QList<FileRejection> rejected;
     QString errorText;
 
-    // arguments[0] is the program. Everything after "--" is a path.
+    // arguments[0] is the program, each argument the bytes given. Everything after "--" is a
+    // path.
+    static CommandLine parse(const QList<QByteArray> &arguments, const QString &currentFolder);
     static CommandLine parse(const QStringList &arguments, const QString &currentFolder);
-    static CommandLine parse(const QStringList &arguments);
 
     // Whether the arguments ask for something done without a window, so no display is needed.
     // Asked before the GUI takes its own options (-platform, -style...) out of the list.

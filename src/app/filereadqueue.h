@@ -47,6 +47,7 @@ public:
     bool isBusy() const { return m_isReading || !m_queue.empty(); }
     // Whether a queued or running batch holds this path.
     bool isQueued(const QString &path) const { return m_pendingPaths.contains(path); }
+    QStringList queuedPaths() const { return m_pendingPaths.values(); }
     // For tests and quitting: processes events until every batch was told, or the time is up.
     bool waitForIdle(int timeoutMs = 30000);
 

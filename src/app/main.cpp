@@ -2,6 +2,7 @@
 #include "app/tagsmithappdelegate.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QIcon>
 
@@ -16,18 +17,27 @@ void nameApplication()
     QCoreApplication::setApplicationVersion(QStringLiteral(TAGSMITH_VERSION));
 }
 
+// The arguments as the bytes given, which need not be UTF-8.
+QList<QByteArray> argumentBytes(int argc, char *argv[])
+{
+    QList<QByteArray> arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(QByteArray(argv[i]));
+    return arguments;
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
 {
-    QStringList arguments;
+    QStringList decoded;
     for (int i = 0; i < argc; ++i)
-        arguments.append(QFile::decodeName(argv[i]));
+        decoded.append(QFile::decodeName(argv[i]));
     // Help, versions and presets applied from a shell need no display.
-    if (CommandLine::isHeadless(arguments)) {
+    if (CommandLine::isHeadless(decoded)) {
         QCoreApplication application(argc, argv);
         nameApplication();
-        return runHeadless(CommandLine::parse(QCoreApplication::arguments()));
+        return runHeadless(CommandLine::parse(argumentBytes(argc, argv), QDir::currentPath()));
     }
 
     // Chromium's sandbox refuses to start as root and takes the whole program down with it, with
@@ -40,12 +50,13 @@ int main(int argc, char *argv[])
     QGuiApplication::setDesktopFileName(QStringLiteral("org.tagsmith.Tagsmith"));
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("org.tagsmith.Tagsmith")));
 
-    // Qt has taken its own options (-platform, -style...) out by now.
-    const CommandLine commandLine = CommandLine::parse(QApplication::arguments());
+    // What Qt left in argv once it took its own options (-platform, -style...).
+    const QList<QByteArray> arguments = argumentBytes(argc, argv);
+    const CommandLine commandLine = CommandLine::parse(arguments, QDir::currentPath());
     if (commandLine.mode == CommandLine::Mode::Error)
         return runHeadless(commandLine);
 
     TagsmithAppDelegate delegate;
-    delegate.applicationWillFinishLaunching();
+    delegate.applicationWillFinishLaunching(arguments);
     return QApplication::exec();
 }

@@ -194,13 +194,15 @@ bool MainWindowController::hasFileInList(const QString &path) const
     return m_model->hasFileInList(path) || m_readQueue->isQueued(path);
 }
 
-bool MainWindowController::addFiles(const QStringList &paths)
+bool MainWindowController::addFiles(const QStringList &paths, const QList<FileRejection> &rejected)
 {
-    const FileAdmissionResult admitted = FileAdmission::preprocessFilesToBeAdded(
-        paths, [this](const QString &path) { return hasFileInList(path); });
+    QStringList listed = m_readQueue->queuedPaths();
+    for (const ExifFileInfoPtr &file : files())
+        listed.append(file->fileName());
+    const FileAdmissionResult admitted = FileAdmission::preprocessFilesToBeAdded(paths, listed);
     FileReadQueue::Batch batch;
-    batch.rejected = admitted.rejected;
-    // Admission has already dropped paths given twice.
+    batch.rejected = rejected + admitted.rejected;
+    // Admission has already dropped the other names of each file.
     for (const QString &path : admitted.accepted)
         batch.files.append(std::make_shared<ExifFileInfo>(path));
     if (batch.files.isEmpty()) {

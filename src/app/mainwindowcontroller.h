@@ -64,7 +64,10 @@ public:
     bool hasDiretyFiles() const override;
     void setSaveStatus(int status) override { m_saveStatus = status; }
     bool openFile(const QString &path) override;
-    bool openFiles(const QStringList &paths) override { return addFiles(paths); }
+    bool openFiles(const QStringList &paths, const QList<FileRejection> &rejected = {}) override
+    {
+        return addFiles(paths, rejected);
+    }
 
     int saveStatus() const { return m_saveStatus; }
     bool isSaving() const { return m_saving; }
@@ -72,8 +75,9 @@ public:
     void setTerminateReply(std::function<void(bool)> reply) { m_terminateReply = std::move(reply); }
 
     // Adding: paths of files or folders. True when some new record was made; the records are
-    // read in the background and then appended and selected.
-    bool addFiles(const QStringList &paths);
+    // read in the background and then appended and selected. rejected: paths turned away before
+    // (names that cannot be opened), listed in the same note.
+    bool addFiles(const QStringList &paths, const QList<FileRejection> &rejected = {});
     bool hasFileInList(const QString &path) const;
     bool waitForPendingReads(int timeoutMs = 30000);
     // Stops reading added files; the files read so far are added and selected.

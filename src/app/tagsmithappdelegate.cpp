@@ -12,6 +12,8 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QDir>
+#include <QFile>
 #include <QUrl>
 
 namespace {
@@ -52,7 +54,15 @@ bool TagsmithAppDelegate::hasArgument(const QString &argument, const QStringList
 
 void TagsmithAppDelegate::applicationWillFinishLaunching(const QStringList &arguments)
 {
-    const CommandLine commandLine = CommandLine::parse(arguments);
+    QList<QByteArray> bytes;
+    for (const QString &argument : arguments)
+        bytes.append(QFile::encodeName(argument));
+    applicationWillFinishLaunching(bytes);
+}
+
+void TagsmithAppDelegate::applicationWillFinishLaunching(const QList<QByteArray> &arguments)
+{
+    const CommandLine commandLine = CommandLine::parse(arguments, QDir::currentPath());
     m_debug = commandLine.debug;
     DebugMode::setEnabled(m_debug);
     if (m_debug) {
@@ -79,9 +89,9 @@ void TagsmithAppDelegate::applicationWillFinishLaunching(const QStringList &argu
     m_mainWindowController->window()->show();
 
     // The desktop hands over files to open as arguments (the .desktop file's %F), a shell
-    // relative paths.
-    if (!commandLine.paths.isEmpty() && m_mainWindowController)
-        m_mainWindowController->openFiles(commandLine.paths);
+    // relative to the folder it runs in.
+    if ((!commandLine.paths.isEmpty() || !commandLine.rejected.isEmpty()) && m_mainWindowController)
+        m_mainWindowController->openFiles(commandLine.paths, commandLine.rejected);
 }
 
 std::unique_ptr<AppMainWindow> TagsmithAppDelegate::createMainWindow()

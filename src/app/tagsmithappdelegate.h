@@ -1,5 +1,7 @@
 #pragma once
 
+#include "engine/fileadmission.h"
+
 #include <QFont>
 #include <QObject>
 #include <QPointer>
@@ -25,9 +27,10 @@ public:
     virtual void setSaveStatus(int status) = 0;
     virtual bool openFile(const QString &path) = 0;
     // Several paths handed over at once (the command line): one add, so one note lists every
-    // path that was not added.
-    virtual bool openFiles(const QStringList &paths)
+    // path that was not added, with those turned away before (rejected).
+    virtual bool openFiles(const QStringList &paths, const QList<FileRejection> &rejected = {})
     {
+        Q_UNUSED(rejected)
         bool opened = false;
         for (const QString &path : paths)
             opened = openFile(path) || opened;
@@ -65,6 +68,8 @@ public:
     }
 
     void applicationWillFinishLaunching(const QStringList &arguments = currentArguments());
+    // The process's arguments as the bytes they were given: a file name need not be UTF-8.
+    void applicationWillFinishLaunching(const QList<QByteArray> &arguments);
     bool openFile(const QString &path);
     // Closing the main window ends the program.
     bool applicationShouldTerminateAfterLastWindowClosed() const { return true; }

@@ -2,7 +2,9 @@
 
 #include "engine/exifrunnerremoveexifgroupsoperation.h"
 #include "engine/exifrunnerremovemetadataoperation.h"
+#include "engine/exifrunnersamefileoperation.h"
 #include "engine/exifrunnersaveoperation.h"
+#include "engine/filekey.h"
 #include "values/logging.h"
 #include "values/tagsmithexception.h"
 
@@ -41,12 +43,13 @@ struct BatchRun
 
     const QList<ExifRunnerOperationPtr> operations;
     QStringList fileNames;
+    QList<FileKey> fileKeys;
     std::vector<State> states;
     std::vector<ErrorMessagesPtr> errors;
     qsizetype nextClaim = 0;
     qsizetype nextReport = 0;
     bool announced = false; // fileToBeProcessed of nextReport is posted
-    QSet<QString> inFlight;
+    QSet<FileKey> inFlight;
 
     QMutex mutex;
     QWaitCondition changed;
@@ -181,6 +184,7 @@ private:
                 qCWarning(lcTagsmith).noquote() << QString::fromUtf8(exception.what());
             }
             run->fileNames.append(fileName);
+            run->fileKeys.append(FileKey::of(fileName));
         }
 
         if (m_concurrency > 1 && run->size() > 1) {
@@ -215,26 +219,26 @@ private:
             QMutexLocker locker(&run.mutex);
             run.errors[size_t(i)] = std::move(errors);
             run.states[size_t(i)] = BatchRun::State::Done;
-            run.inFlight.remove(run.fileNames.at(i));
+            run.inFlight.remove(run.fileKeys.at(i));
             report(run);
             run.changed.wakeAll();
         }
     }
 
-    // The next file of the batch, or -1 when none is left. Two operations on one file never run
-    // at once: the second waits for the first.
+    // The next file of the batch, or -1 when none is left. Two operations on one file, under
+    // whatever names, never run at once: the second waits for the first.
     qsizetype claim(BatchRun &run)
     {
         QMutexLocker locker(&run.mutex);
         for (;;) {
             if (run.nextClaim >= run.size())
                 return -1;
-            if (!run.inFlight.contains(run.fileNames.at(run.nextClaim)))
+            if (!run.inFlight.contains(run.fileKeys.at(run.nextClaim)))
                 break;
             run.changed.wait(&run.mutex);
         }
         const qsizetype index = run.nextClaim++;
-        run.inFlight.insert(run.fileNames.at(index));
+        run.inFlight.insert(run.fileKeys.at(index));
         run.states[size_t(index)] = BatchRun::State::Running;
         report(run);
         return index;
@@ -409,7 +413,7 @@ ExifBackgroundRunner::createSaveOperations(const QList<ExifFileInfoPtr> &files,
         if (auto operation = ExifRunnerSaveOperation::create(file, options))
             operations.append(std::move(operation));
     }
-    return operations;
+    return ExifRunnerSameFileOperation::keepOnePerFile(operations);
 }
 
 QList<ExifRunnerOperationPtr>
@@ -419,7 +423,7 @@ ExifBackgroundRunner::createRemoveOperations(const QList<ExifFileInfoPtr> &files
     QList<ExifRunnerOperationPtr> operations;
     for (const ExifFileInfoPtr &file : files)
         operations.append(std::make_shared<ExifRunnerRemoveMetadataOperation>(file, options));
-    return operations;
+    return ExifRunnerSameFileOperation::keepOnePerFile(operations);
 }
 
 QList<ExifRunnerOperationPtr>
@@ -432,7 +436,7 @@ ExifBackgroundRunner::createRemoveMakerNotesOperations(const QList<ExifFileInfoP
         operation->setRemoveMakerNotes(true);
         operations.append(std::move(operation));
     }
-    return operations;
+    return ExifRunnerSameFileOperation::keepOnePerFile(operations);
 }
 
 qsizetype ExifBackgroundRunner::queueOperations(QList<ExifRunnerOperationPtr> operations)

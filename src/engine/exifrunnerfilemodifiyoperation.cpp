@@ -8,6 +8,7 @@
 #include "values/dateoffset.h"
 #include "values/datevalue.h"
 #include "values/debugmode.h"
+#include "values/imagefiletypes.h"
 #include "values/logging.h"
 #include "values/usersettings.h"
 
@@ -309,7 +310,7 @@ std::optional<TagDictionary> ExifRunnerFileModifiyOperation::checkNewFile(ErrorM
         oldType != newType && (oldMime.isEmpty() || oldMime != written.value(MimeTypeKey));
     // Without its extension a TIFF-based raw file reads as a plain TIFF.
     if (typeDiffers &&
-        !(newType == QStringLiteral("TIFF") && UserSettings::isCameraRawFile(m_fileName))) {
+        !(newType == QStringLiteral("TIFF") && ImageFileTypes::isCameraRawFile(m_fileName))) {
         errors.addError(tr("The new file is of type %1 instead of %2; the original was kept.")
                             .arg(newType, oldType));
         return std::nullopt;

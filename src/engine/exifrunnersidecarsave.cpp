@@ -9,6 +9,7 @@
 #include "engine/filereplacement.h"
 #include "engine/xmpsidecar.h"
 #include "values/debugmode.h"
+#include "values/imagefiletypes.h"
 #include "values/usersettings.h"
 
 #include <QCoreApplication>
@@ -50,7 +51,7 @@ void ExifRunnerSaveOperation::routeToSidecar()
     m_sidecarPath = efi()->sidecarPath();
     const bool exists = !m_sidecarPath.isEmpty();
     if (!exists) {
-        if (!UserSettings::isCameraRawFile(fileName()) || !UserSettings::writesXmpSidecars())
+        if (!ImageFileTypes::isCameraRawFile(fileName()) || !UserSettings::writesXmpSidecars())
             return;
         m_sidecarPath = XmpSidecar::newPathFor(fileName());
         m_createsSidecar = true;

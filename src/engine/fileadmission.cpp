@@ -1,27 +1,60 @@
 #include "engine/fileadmission.h"
 
+#include "engine/fileidentity.h"
+#include "engine/filekey.h"
+#include "values/imagefiletypes.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
 #include <QSet>
 
 #include <algorithm>
+#include <climits>
+#include <cstdlib>
+#include <optional>
 
+#include <dirent.h>
 #include <unistd.h>
 
 namespace {
 
+// A folder's entries as the bytes they are named with: Qt's own listings leave out, without a
+// word, the names it cannot decode. In byte order, so the same folder gives the same rows
+// everywhere.
+std::optional<QList<QByteArray>> entryNames(const QString &folder)
+{
+    DIR *dir = ::opendir(QFile::encodeName(folder).constData());
+    if (!dir)
+        return std::nullopt;
+    QList<QByteArray> names;
+    while (const dirent *entry = ::readdir(dir)) {
+        const QByteArray name(entry->d_name);
+        if (name != ".." && name != ".")
+            names.append(name);
+    }
+    ::closedir(dir);
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
 struct Admission
 {
-    const std::function<bool(const QString &)> &hasFileInList;
+    const QStringList &listedFiles;
     FileAdmissionResult result;
-    QSet<QString> acceptedSet;
+    QSet<QString> acceptedNames;
+    QHash<FileKey, QString> acceptedKeys;
     QSet<QString> visitedFolders;
+    // Looked at only once a file is about to be accepted.
+    bool isListIndexed = false;
+    QSet<QString> listedNames;
+    QHash<FileKey, QString> listedKeys;
 
-    void reject(const QString &path, FileRejection::Reason reason)
+    void reject(const QString &path, FileRejection::Reason reason, const QString &sameAs = {})
     {
-        result.rejected.append({path, reason});
+        result.rejected.append({path, reason, sameAs});
     }
 
     // What the kernel would allow this process, ACLs included, not what the mode bits suggest.
@@ -30,35 +63,73 @@ struct Admission
         return ::access(QFile::encodeName(path).constData(), mode) == 0;
     }
 
-    void addFile(const QString &path, const QFileInfo &info)
+    // The files' inodes are taken now, not when they were read: a save gives a file a new one.
+    void indexList()
+    {
+        if (isListIndexed)
+            return;
+        isListIndexed = true;
+        listedNames = QSet<QString>(listedFiles.cbegin(), listedFiles.cend());
+        for (const QString &name : listedFiles) {
+            const FileKey key = FileKey::of(name);
+            if (!listedKeys.contains(key))
+                listedKeys.insert(key, name);
+        }
+    }
+
+    // shown: the path as given, which the note names; path: the name the row would keep.
+    void addFile(const QString &path, const QString &shown, const QFileInfo &info)
     {
         // A FIFO or device named like a photo would hang ExifTool on open.
-        if (!info.isFile() || !FileAdmission::supportsFile(path))
-            reject(path, FileRejection::Reason::Unsupported);
-        else if (!isReadable(path, R_OK))
-            reject(path, FileRejection::Reason::Unreadable);
-        else if (acceptedSet.contains(path) || hasFileInList(path))
-            reject(path, FileRejection::Reason::AlreadyInList);
-        else {
-            acceptedSet.insert(path);
+        if (!info.isFile() || !ImageFileTypes::isSupportedFile(path)) {
+            reject(shown, FileRejection::Reason::Unsupported);
+            return;
+        }
+        if (!isReadable(path, R_OK)) {
+            reject(shown, FileRejection::Reason::Unreadable);
+            return;
+        }
+        indexList();
+        const bool isAccepted = acceptedNames.contains(path);
+        if (isAccepted || listedNames.contains(path)) {
+            if (shown == path)
+                reject(shown, FileRejection::Reason::AlreadyInList);
+            else
+                reject(shown,
+                       isAccepted ? FileRejection::Reason::SameFile
+                                  : FileRejection::Reason::SameFileInList,
+                       path);
+            return;
+        }
+        const FileKey key = FileKey::of(path);
+        if (const auto same = acceptedKeys.constFind(key); same != acceptedKeys.cend()) {
+            reject(shown, FileRejection::Reason::SameFile, same.value());
+        } else if (const auto listed = listedKeys.constFind(key); listed != listedKeys.cend()) {
+            reject(shown, FileRejection::Reason::SameFileInList, listed.value());
+        } else {
+            acceptedNames.insert(path);
+            acceptedKeys.insert(key, path);
             result.accepted.append(path);
         }
     }
 
     // parentFolder: the canonical path of the folder being scanned, empty for a path given.
-    void addPath(const QString &path, const QString &parentFolder)
+    void addPath(const QString &path, const QString &parentFolder, const QString &shown)
     {
         const QFileInfo info(path);
         if (!info.exists()) {
-            reject(path, FileRejection::Reason::Missing);
+            // Qt decodes a name that is no UTF-8 with replacement characters, which name nothing.
+            reject(shown, path.contains(QChar::ReplacementCharacter)
+                              ? FileRejection::Reason::InvalidName
+                              : FileRejection::Reason::Missing);
             return;
         }
         if (!info.isDir()) {
-            addFile(path, info);
+            addFile(path, shown, info);
             return;
         }
         if (!isReadable(path, R_OK | X_OK)) {
-            reject(path, FileRejection::Reason::Unreadable);
+            reject(shown, FileRejection::Reason::Unreadable);
             return;
         }
         const QString canonical = info.canonicalFilePath();
@@ -70,7 +141,7 @@ struct Admission
             if (isAncestor || visitedFolders.contains(canonical))
                 return;
         } else if (visitedFolders.contains(canonical)) {
-            reject(path, FileRejection::Reason::AlreadyInList);
+            reject(shown, FileRejection::Reason::AlreadyInList);
             return;
         }
         visitedFolders.insert(canonical);
@@ -79,58 +150,92 @@ struct Admission
 
     void scanFolder(const QString &folder, const QString &canonical)
     {
-        QStringList entries = QDir(folder).entryList(
-            QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Unsorted);
-        // Character order, not the locale's: the same folder gives the same rows everywhere.
-        std::sort(entries.begin(), entries.end());
+        const std::optional<QList<QByteArray>> entries = entryNames(folder);
+        if (!entries) {
+            reject(folder, FileRejection::Reason::Unreadable);
+            return;
+        }
         const QString prefix = folder.endsWith(QLatin1Char('/')) ? folder : folder + u'/';
-        for (const QString &entry : std::as_const(entries)) {
+        for (const QByteArray &name : *entries) {
+            const QString entry = QFile::decodeName(name);
             const QString path = prefix + entry;
             // Caches, trash and sidecar folders of other programs hide themselves this way.
             if (entry.startsWith(QLatin1Char('.')))
                 reject(path, FileRejection::Reason::Hidden);
+            else if (QFile::encodeName(entry) != name)
+                reject(path, FileRejection::Reason::InvalidName);
             else
-                addPath(path, canonical);
+                addPath(path, canonical, path);
         }
     }
 };
+
+QString absolutePath(const QString &path)
+{
+    return QDir::isRelativePath(path) ? QDir::currentPath() + u'/' + path : path;
+}
+
+bool hasParentStep(const QString &path)
+{
+    return path == u".."_qs || path.startsWith(u"../"_qs) || path.endsWith(u"/.."_qs) ||
+           path.contains(u"/../"_qs);
+}
 
 } // namespace
 
 bool FileAdmission::supportsFile(const QString &path)
 {
-    return supportedExtensions().contains(QFileInfo(path).suffix().toLower());
+    return ImageFileTypes::isSupportedFile(path);
 }
 
 const QStringList &FileAdmission::supportedExtensions()
 {
-    // Only what the bundled ExifTool can write ("exiftool -listwf"): a file it could read but
-    // not write would let the user edit it and fail only at saving. Hasselblad's 3fr is left out
-    // for that reason, though other raw formats of that age are here.
-    static const QStringList extensions{
-        // Still images of the first release.
-        QStringLiteral("arw"), QStringLiteral("cr2"), QStringLiteral("dng"), QStringLiteral("iiq"),
-        QStringLiteral("jpg"), QStringLiteral("jpeg"), QStringLiteral("nef"), QStringLiteral("orf"),
-        QStringLiteral("pef"), QStringLiteral("png"), QStringLiteral("psb"), QStringLiteral("psd"),
-        QStringLiteral("raf"), QStringLiteral("raw"), QStringLiteral("rw2"), QStringLiteral("rwl"),
-        QStringLiteral("tif"), QStringLiteral("tiff"), QStringLiteral("x3f"),
-        // Today's cameras, phones and web exports, and older raw formats still in archives.
-        QStringLiteral("cr3"), QStringLiteral("crw"), QStringLiteral("heic"),
-        QStringLiteral("heif"), QStringLiteral("hif"), QStringLiteral("avif"),
-        QStringLiteral("webp"), QStringLiteral("jxl"), QStringLiteral("nrw"), QStringLiteral("srw"),
-        QStringLiteral("erf"), QStringLiteral("mef"), QStringLiteral("mos"), QStringLiteral("mrw"),
-        QStringLiteral("sr2"), QStringLiteral("gpr"), QStringLiteral("mpo"), QStringLiteral("gif")};
-    return extensions;
+    return ImageFileTypes::supportedExtensions();
 }
 
-FileAdmissionResult
-FileAdmission::preprocessFilesToBeAdded(const QStringList &paths,
-                                        const std::function<bool(const QString &)> &hasFileInList)
+FileAdmissionResult FileAdmission::preprocessFilesToBeAdded(const QStringList &paths,
+                                                            const QStringList &listedFiles)
 {
-    Admission admission{hasFileInList, {}, {}, {}};
+    Admission admission{listedFiles, {}, {}, {}, {}, false, {}, {}};
     for (const QString &path : paths)
-        admission.addPath(path, {});
+        admission.addPath(rowName(path), {}, absolutePath(path));
     return admission.result;
+}
+
+FileAdmissionResult FileAdmission::commandLineFiles(const QList<QByteArray> &names,
+                                                    const QString &currentFolder)
+{
+    FileAdmissionResult files;
+    const QDir current(currentFolder);
+    for (const QByteArray &name : names) {
+        if (name.isEmpty())
+            continue;
+        const QString path = current.absoluteFilePath(QFile::decodeName(name));
+        if (QFile::encodeName(QFile::decodeName(name)) == name)
+            files.accepted.append(path);
+        else
+            files.rejected.append({path, FileRejection::Reason::InvalidName});
+    }
+    return files;
+}
+
+QString FileAdmission::rowName(const QString &path)
+{
+    if (path.isEmpty())
+        return path;
+    const QString absolute = absolutePath(path);
+    const QString cleaned = QDir::cleanPath(absolute);
+    if (!hasParentStep(absolute))
+        return cleaned;
+    // After a link, ".." leads to the parent of the link's target, not back where it started.
+    const auto given = FileIdentity::of(absolute);
+    const auto clean = FileIdentity::of(cleaned);
+    if (!given || (clean && clean->isSameFile(*given)))
+        return cleaned;
+    char resolved[PATH_MAX];
+    if (!::realpath(QFile::encodeName(absolute).constData(), resolved))
+        return cleaned;
+    return QFile::decodeName(resolved);
 }
 
 std::optional<FileRejection::Reason>
@@ -147,19 +252,33 @@ FileAdmission::rejectionAfterReading(const TagDictionary &record)
 
 QString FileAdmission::reasonText(FileRejection::Reason reason)
 {
-    switch (reason) {
+    return reasonText(FileRejection{{}, reason});
+}
+
+QString FileAdmission::reasonText(const FileRejection &rejection)
+{
+    const auto translated = [](const char *text) {
+        return QCoreApplication::translate("Localizable", text);
+    };
+    switch (rejection.reason) {
     case FileRejection::Reason::Unsupported:
-        return QCoreApplication::translate("Localizable", "unsupported type");
+        return translated("unsupported type");
     case FileRejection::Reason::Unreadable:
-        return QCoreApplication::translate("Localizable", "unreadable");
+        return translated("unreadable");
     case FileRejection::Reason::AlreadyInList:
-        return QCoreApplication::translate("Localizable", "already in the list");
+        return translated("already in the list");
     case FileRejection::Reason::Hidden:
-        return QCoreApplication::translate("Localizable", "hidden");
+        return translated("hidden");
     case FileRejection::Reason::Missing:
-        return QCoreApplication::translate("Localizable", "not found");
+        return translated("not found");
     case FileRejection::Reason::NotAnImage:
-        return QCoreApplication::translate("Localizable", "not an image");
+        return translated("not an image");
+    case FileRejection::Reason::SameFile:
+        return translated("the same file as %1").arg(rejection.sameAs);
+    case FileRejection::Reason::SameFileInList:
+        return translated("the same file as %1, already in the list").arg(rejection.sameAs);
+    case FileRejection::Reason::InvalidName:
+        return translated("its name is not valid UTF-8, so it cannot be opened");
     }
     return {};
 }

@@ -65,13 +65,13 @@ QList<PresetBatch::FileResult> PresetBatch::run(const ExifConfiguration &preset,
                                                 const QStringList &paths)
 {
     QList<FileResult> results;
-    const FileAdmissionResult admitted =
-        FileAdmission::preprocessFilesToBeAdded(paths, [](const QString &) { return false; });
+    const FileAdmissionResult admitted = FileAdmission::preprocessFilesToBeAdded(paths, {});
     for (const FileRejection &rejection : admitted.rejected) {
-        // What a folder hides is not something the user asked for.
-        if (rejection.reason != FileRejection::Reason::Hidden)
+        // What a folder hides, and a second name of a file already taken, are not failures.
+        if (rejection.reason != FileRejection::Reason::Hidden &&
+            rejection.reason != FileRejection::Reason::SameFile)
             results.append(
-                {rejection.path, Outcome::Failed, {FileAdmission::reasonText(rejection.reason)}});
+                {rejection.path, Outcome::Failed, {FileAdmission::reasonText(rejection)}});
     }
 
     QList<ExifFileInfoPtr> files;

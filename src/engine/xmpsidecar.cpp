@@ -1,6 +1,6 @@
 #include "engine/xmpsidecar.h"
 
-#include "values/usersettings.h"
+#include "values/imagefiletypes.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -30,7 +30,7 @@ QString newPathFor(const QString &path)
 
 QString Finder::sidecarFor(const QString &path)
 {
-    if (!UserSettings::isCameraRawFile(path))
+    if (!ImageFileTypes::isCameraRawFile(path))
         return {};
     const QFileInfo info(path);
     const QString folder = info.path();

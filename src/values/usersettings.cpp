@@ -1,5 +1,7 @@
 #include "values/usersettings.h"
 
+#include "values/imagefiletypes.h"
+
 #include <QMutex>
 #include <QMutexLocker>
 #include <QSettings>
@@ -131,22 +133,7 @@ bool UserSettings::verifiesImageData(const QString &path)
         return stored.toBool();
     // Raw writers are where ExifTool's makers' quirks live, and a damaged raw cannot be
     // redeveloped; for the others the check costs more than it is likely to find.
-    return isCameraRawFile(path);
-}
-
-bool UserSettings::isCameraRawFile(const QString &path)
-{
-    static const QStringList rawSuffixes{
-        QStringLiteral("cr2"), QStringLiteral("cr3"), QStringLiteral("crw"), QStringLiteral("nef"),
-        QStringLiteral("nrw"), QStringLiteral("arw"), QStringLiteral("sr2"), QStringLiteral("srf"),
-        QStringLiteral("dng"), QStringLiteral("orf"), QStringLiteral("pef"), QStringLiteral("raf"),
-        QStringLiteral("rw2"), QStringLiteral("x3f"), QStringLiteral("erf"), QStringLiteral("3fr"),
-        QStringLiteral("iiq"), QStringLiteral("mrw"), QStringLiteral("srw"), QStringLiteral("rwl"),
-    };
-    const qsizetype dot = path.lastIndexOf(u'.');
-    if (dot < 0 || path.indexOf(u'/', dot) >= 0)
-        return false;
-    return rawSuffixes.contains(path.mid(dot + 1).toLower());
+    return ImageFileTypes::isCameraRawFile(path);
 }
 
 bool UserSettings::writesXmpSidecars()

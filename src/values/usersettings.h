@@ -62,8 +62,6 @@ public:
     static FileDate fileCreateDateMode();
     // Whether a save of this file compares the image data of the old and the new file.
     static bool verifiesImageData(const QString &path);
-    // By extension: the camera raw formats the program opens.
-    static bool isCameraRawFile(const QString &path);
     static bool writesXmpSidecars();
     static bool writesReadOnlyFiles();
 

@@ -106,7 +106,7 @@ QStringList AddFilesNote::detailLines() const
     lines.reserve(m_rejected.size());
     for (const FileRejection &rejection : m_rejected)
         lines << QStringLiteral("%1 \u2014 %2")
-                     .arg(rejection.path, FileAdmission::reasonText(rejection.reason));
+                     .arg(rejection.path, FileAdmission::reasonText(rejection));
     return lines;
 }
 

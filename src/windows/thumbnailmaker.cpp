@@ -1,6 +1,7 @@
 #include "windows/thumbnailmaker.h"
 
 #include "engine/exiftoolprocess.h"
+#include "values/imagefiletypes.h"
 #include "values/logging.h"
 
 #include <QBuffer>
@@ -103,15 +104,9 @@ bool ThumbnailMaker::prefersEmbeddedPreview(const QString &path)
 {
     // Raw files are TIFF-like enough for Qt to try, and then give a full-size decode or a
     // tiny first-directory thumbnail; Photoshop files Qt cannot read at all.
-    static const QSet<QString> suffixes{
-        QStringLiteral("cr2"), QStringLiteral("cr3"), QStringLiteral("crw"), QStringLiteral("nef"),
-        QStringLiteral("nrw"), QStringLiteral("arw"), QStringLiteral("sr2"), QStringLiteral("srf"),
-        QStringLiteral("dng"), QStringLiteral("orf"), QStringLiteral("pef"), QStringLiteral("raf"),
-        QStringLiteral("rw2"), QStringLiteral("rwl"), QStringLiteral("x3f"), QStringLiteral("3fr"),
-        QStringLiteral("erf"), QStringLiteral("kdc"), QStringLiteral("mrw"), QStringLiteral("mos"),
-        QStringLiteral("iiq"), QStringLiteral("srw"), QStringLiteral("psd"), QStringLiteral("psb"),
-        QStringLiteral("raw"), QStringLiteral("gpr"), QStringLiteral("mef")};
-    return suffixes.contains(QFileInfo(path).suffix().toLower());
+    const QString extension = ImageFileTypes::extensionOf(path);
+    return ImageFileTypes::isCameraRawFile(path) || extension == u"psd"_qs ||
+           extension == u"psb"_qs;
 }
 
 bool ThumbnailMaker::decodesAtFullSizeOnly(const QString &path)

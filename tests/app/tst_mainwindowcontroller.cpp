@@ -27,6 +27,8 @@
 #include <QTest>
 #include <QUrl>
 
+#include <unistd.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -250,6 +252,40 @@ private Q_SLOTS:
         QCOMPARE(window.files().size(), 4);
         QCOMPARE(window.addFilesNote()->rejections().value(0).reason,
                  FileRejection::Reason::AlreadyInList);
+    }
+
+    // A relative name is the current folder's, as a shell gives it; and however a file is
+    // named, it is one row, the note saying which names were merged into it.
+    void eachFileIsOneRowWhateverItsName()
+    {
+        MainWindowController &window = controller();
+        const QString photo = image(u"names/d/a.jpg"_s);
+        QVERIFY(QFile::link(QFileInfo(photo).path(), m_dir.filePath(u"names/link"_s)));
+        QCOMPARE(::link(QFile::encodeName(photo).constData(),
+                        QFile::encodeName(m_dir.filePath(u"names/hard.jpg"_s)).constData()),
+                 0);
+        const QString current = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(QFileInfo(photo).path()));
+        const bool isAdded =
+            window.addFiles({u"a.jpg"_s, u"../d/./a.jpg"_s}) && window.waitForPendingReads();
+        const QString here = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(current));
+        QVERIFY(isAdded);
+        QCOMPARE(window.files().size(), 1);
+        QCOMPARE(window.files().first()->fileName(), here + u"/a.jpg"_s);
+        QVERIFY(window.files().first()->originalExifData().contains(Artist));
+        QCOMPARE(
+            window.addFilesNote()->detailLines(),
+            QStringList{here + u"/../d/./a.jpg \u2014 the same file as "_s + here + u"/a.jpg"_s});
+
+        const QString names = QFileInfo(here).path();
+        QVERIFY(!window.addFiles({names + u"/link/a.jpg"_s, names + u"/hard.jpg"_s}));
+        QVERIFY(window.waitForPendingReads());
+        QCOMPARE(window.files().size(), 1);
+        const QString inList =
+            u" \u2014 the same file as "_s + here + u"/a.jpg, already in the list"_s;
+        QCOMPARE(window.addFilesNote()->detailLines(),
+                 QStringList({names + u"/link/a.jpg"_s + inList, names + u"/hard.jpg"_s + inList}));
     }
 
     void presetsMenuIsSortedAndAppliesToTheSelection()

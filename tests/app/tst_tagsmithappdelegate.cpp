@@ -6,6 +6,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
 #include <QFile>
 #include <QLabel>
 #include <QPointer>
@@ -30,14 +31,23 @@ public:
         openedFiles.append(path);
         return true;
     }
+    bool openFiles(const QStringList &paths, const QList<FileRejection> &turnedAway) override
+    {
+        openedFiles.append(paths);
+        rejected.append(turnedAway);
+        return true;
+    }
 
     bool dirty = false;
     int saveStatus = 0;
     QStringList openedFiles;
+    QList<FileRejection> rejected;
     QWidget widget;
 };
 
-FakeMainWindow *start(TagsmithAppDelegate &delegate, const QStringList &arguments)
+// arguments: a QStringList, or the bytes of a QList<QByteArray>.
+template <typename Arguments = QStringList>
+FakeMainWindow *start(TagsmithAppDelegate &delegate, const Arguments &arguments)
 {
     FakeMainWindow *fake = nullptr;
     delegate.setMainWindowFactory([&fake](TagsmithAppDelegate &) {
@@ -105,6 +115,23 @@ private Q_SLOTS:
         QVERIFY(preset);
         QCOMPARE(preset->changedValues().value(u"IPTC:City"_s), u"Roma"_s);
         QVERIFY(delegate.debug() && DebugMode::isEnabled());
+    }
+
+    // A shell hands over names relative to its folder, as bytes that need not be UTF-8.
+    void commandLineNamesAreTheCurrentFoldersAndMayBeNoUtf8()
+    {
+        const QString current = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(m_dir.path()));
+        TagsmithAppDelegate delegate;
+        FakeMainWindow *fake =
+            start(delegate, QList<QByteArray>{"tagsmith", "a.jpg", ".", "caf\xe9.jpg", "-debug"});
+        const QString here = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(current));
+        QVERIFY(fake && delegate.debug());
+        QCOMPARE(fake->openedFiles, (QStringList{here + u"/a.jpg"_s, here + u"/."_s}));
+        QCOMPARE(fake->rejected.size(), 1);
+        QCOMPARE(fake->rejected.first().path, here + u"/caf\ufffd.jpg"_s);
+        QCOMPARE(fake->rejected.first().reason, FileRejection::Reason::InvalidName);
     }
 
     // With unsaved changes the main window is asked to close, so that it can put its question.

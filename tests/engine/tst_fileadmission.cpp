@@ -12,6 +12,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -26,7 +27,7 @@ QStringList outcome(const FileAdmissionResult &result)
     for (const QString &path : result.accepted)
         lines << u"accepted "_qs + path;
     for (const FileRejection &rejection : result.rejected)
-        lines << FileAdmission::reasonText(rejection.reason) + u' ' + rejection.path;
+        lines << FileAdmission::reasonText(rejection) + u' ' + rejection.path;
     return lines;
 }
 
@@ -62,6 +63,25 @@ private Q_SLOTS:
         // A link back up the tree must not make the scan endless.
         QVERIFY(QFile::link(m_root + u"/d"_qs, m_root + u"/d/b/loop"_qs));
         QVERIFY(QFile::link(m_root + u"/d/gone.jpg"_qs, m_root + u"/d/b/dangling.jpg"_qs));
+
+        // One file under five names: a hard link, a link to its folder, and a link after which
+        // ".." leads into its folder rather than back.
+        QVERIFY(touch(m_root + u"/same/d/a.jpg"_qs) && QDir().mkpath(m_root + u"/same/d/sub"_qs));
+        QCOMPARE(::link(QFile::encodeName(m_root + u"/same/d/a.jpg"_qs).constData(),
+                        QFile::encodeName(m_root + u"/same/d/hard.jpg"_qs).constData()),
+                 0);
+        QVERIFY(QFile::link(m_root + u"/same/d"_qs, m_root + u"/same/link"_qs));
+        QVERIFY(QFile::link(m_root + u"/same/d/sub"_qs, m_root + u"/same/up"_qs));
+
+        // Names made of raw bytes, as another system's archive or camera card may bring them.
+        const QByteArray bytes = QFile::encodeName(m_root + u"/bytes/"_qs);
+        QVERIFY(QDir().mkpath(m_root + u"/bytes"_qs));
+        QCOMPARE(::mkdir(QByteArray(bytes + "fol\xe9").constData(), 0755), 0);
+        for (const char *name : {"caf\xe9.jpg", "caf\xc3\xa9.jpg", "ok.jpg", "fol\xe9/in.jpg"}) {
+            const int fd = ::open(QByteArray(bytes + name).constData(), O_CREAT | O_WRONLY, 0644);
+            QVERIFY(fd >= 0);
+            ::close(fd);
+        }
     }
 
     void admitsWithReasons_data()
@@ -97,6 +117,49 @@ private Q_SLOTS:
                               "unsupported type @/d/b/pipe.jpg|already in the list @/d/b/x.heic|"
                               "already in the list @/d/b")
                    .split(u'|');
+
+        QTest::newRow("other names, one add")
+            << u"@/same/d/a.jpg @/same/d/./a.jpg @/same/link/a.jpg @/same/d/hard.jpg "
+               u"@/same/up/../a.jpg @/same/d/sub/../a.jpg"_qs.split(u' ')
+            << none
+            << QStringLiteral("accepted @/same/d/a.jpg|"
+                              "the same file as @/same/d/a.jpg @/same/d/./a.jpg|"
+                              "the same file as @/same/d/a.jpg @/same/link/a.jpg|"
+                              "the same file as @/same/d/a.jpg @/same/d/hard.jpg|"
+                              "the same file as @/same/d/a.jpg @/same/up/../a.jpg|"
+                              "the same file as @/same/d/a.jpg @/same/d/sub/../a.jpg")
+                   .split(u'|');
+        QTest::newRow("other names of a listed file")
+            << u"@/same/link/a.jpg @/same/d/hard.jpg @/same/d/./a.jpg"_qs.split(u' ')
+            << QStringList{u"@/same/d/a.jpg"_qs}
+            << QStringLiteral("the same file as @/same/d/a.jpg, already in the list "
+                              "@/same/link/a.jpg|"
+                              "the same file as @/same/d/a.jpg, already in the list "
+                              "@/same/d/hard.jpg|"
+                              "the same file as @/same/d/a.jpg, already in the list "
+                              "@/same/d/./a.jpg")
+                   .split(u'|');
+        QTest::newRow("folder of a file listed through a link")
+            << QStringList{u"@/same/d"_qs} << QStringList{u"@/same/link/a.jpg"_qs}
+            << QStringLiteral("the same file as @/same/link/a.jpg, already in the list "
+                              "@/same/d/a.jpg|"
+                              "the same file as @/same/link/a.jpg, already in the list "
+                              "@/same/d/hard.jpg")
+                   .split(u'|');
+        // The row keeps the name given, cleaned; where ".." follows a link, the real path.
+        QTest::newRow("relative and dot-dot after a link")
+            << QStringList{u"same/up/../a.jpg"_qs, u"same/./link/"_qs} << none
+            << QStringLiteral("accepted @/same/d/a.jpg|"
+                              "the same file as @/same/d/a.jpg @/same/link/a.jpg|"
+                              "the same file as @/same/d/a.jpg @/same/link/hard.jpg")
+                   .split(u'|');
+        const QString invalid = u"its name is not valid UTF-8, so it cannot be opened"_qs;
+        QTest::newRow("names that are no UTF-8")
+            << QStringList{u"@/bytes"_qs, u"@/bytes/caf\ufffd.jpg"_qs} << none
+            << QStringList{u"accepted @/bytes/caf\u00e9.jpg"_qs, u"accepted @/bytes/ok.jpg"_qs,
+                           invalid + u" @/bytes/caf\ufffd.jpg"_qs,
+                           invalid + u" @/bytes/fol\ufffd"_qs,
+                           invalid + u" @/bytes/caf\ufffd.jpg"_qs};
     }
 
     void admitsWithReasons()
@@ -108,9 +171,26 @@ private Q_SLOTS:
         inList.replaceInStrings(u"@"_qs, m_root);
         expected.replaceInStrings(u"@"_qs, m_root);
 
-        const FileAdmissionResult result = FileAdmission::preprocessFilesToBeAdded(
-            paths, [&inList](const QString &path) { return inList.contains(path); });
+        // Relative paths are the current folder's.
+        const QString current = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(m_root));
+        const FileAdmissionResult result = FileAdmission::preprocessFilesToBeAdded(paths, inList);
+        QVERIFY(QDir::setCurrent(current));
         QCOMPARE(outcome(result), expected);
+    }
+
+    void commandLineNamesAreAbsoluteAndValid()
+    {
+        const QList<QByteArray> arguments{"a.jpg",      ".",           "/abs/b.nef",      "",
+                                          "d/../c.jpg", "caf\xe9.jpg", "caf\xc3\xa9.jpg"};
+        const FileAdmissionResult files =
+            FileAdmission::commandLineFiles(arguments, u"/home/ann/shoot"_qs);
+        QCOMPARE(files.accepted, QStringList({u"/home/ann/shoot/a.jpg"_qs, u"/home/ann/shoot/."_qs,
+                                              u"/abs/b.nef"_qs, u"/home/ann/shoot/d/../c.jpg"_qs,
+                                              u"/home/ann/shoot/caf\u00e9.jpg"_qs}));
+        QCOMPARE(outcome({{}, files.rejected}),
+                 QStringList{u"its name is not valid UTF-8, so it cannot be opened "
+                             u"/home/ann/shoot/caf\ufffd.jpg"_qs});
     }
 
     void supportsByLowerCasedExtension_data()

@@ -103,12 +103,12 @@ private Q_SLOTS:
         }
     }
 
-    // "b" ends long before the slow "a" and waits its turn; the second "a" must not start
-    // before the first has ended.
+    // "b" ends long before the slow "a" and waits its turn; "a" under another name must not
+    // start before the first has ended.
     void earlyFinishWaitsAndOneFileNeverRunsTwiceAtOnce()
     {
         QList<std::shared_ptr<SlowOperation>> operations;
-        for (const QString &name : {u"a"_qs, u"b"_qs, u"a"_qs, u"c"_qs}) {
+        for (const QString &name : {u"/x/a"_qs, u"/x/b"_qs, u"/x/./a"_qs, u"/x/c"_qs}) {
             operations << std::make_shared<SlowOperation>();
             operations.last()->name = name;
             operations.last()->ms = operations.size() == 1 ? 400 : 50;

@@ -8,12 +8,12 @@
 int main(int argc, char *argv[])
 {
     QCoreApplication app(argc, argv);
-    const FileAdmissionResult result = FileAdmission::preprocessFilesToBeAdded(
-        app.arguments().mid(1), [](const QString &) { return false; });
+    const FileAdmissionResult result =
+        FileAdmission::preprocessFilesToBeAdded(app.arguments().mid(1), {});
     QTextStream out(stdout);
     for (const QString &path : result.accepted)
         out << "accepted " << path << '\n';
     for (const FileRejection &rejection : result.rejected)
-        out << FileAdmission::reasonText(rejection.reason) << ' ' << rejection.path << '\n';
+        out << FileAdmission::reasonText(rejection) << ' ' << rejection.path << '\n';
     return 0;
 }

@@ -45,7 +45,10 @@ private Q_SLOTS:
                              {u"/a/secret.jpg"_qs, Reason::Unreadable},
                              {u"/a/x.jpg"_qs, Reason::AlreadyInList},
                              {u"/a/.cache"_qs, Reason::Hidden},
-                             {u"/gone.jpg"_qs, Reason::Missing}});
+                             {u"/gone.jpg"_qs, Reason::Missing},
+                             {u"/a/./x.jpg"_qs, Reason::SameFile, u"/a/x.jpg"_qs},
+                             {u"/b/x.jpg"_qs, Reason::SameFileInList, u"/a/x.jpg"_qs},
+                             {u"/a/caf\ufffd.jpg"_qs, Reason::InvalidName}});
         QVERIFY(!note.isShowingDetails());
         note.detailsButton()->click();
         QVERIFY(note.isShowingDetails());
@@ -53,7 +56,11 @@ private Q_SLOTS:
                  QStringList({u"/a/notes.txt \u2014 unsupported type"_qs,
                               u"/a/secret.jpg \u2014 unreadable"_qs,
                               u"/a/x.jpg \u2014 already in the list"_qs,
-                              u"/a/.cache \u2014 hidden"_qs, u"/gone.jpg \u2014 not found"_qs}));
+                              u"/a/.cache \u2014 hidden"_qs, u"/gone.jpg \u2014 not found"_qs,
+                              u"/a/./x.jpg \u2014 the same file as /a/x.jpg"_qs,
+                              u"/b/x.jpg \u2014 the same file as /a/x.jpg, already in the list"_qs,
+                              u"/a/caf\ufffd.jpg \u2014 its name is not valid UTF-8, so it "
+                              u"cannot be opened"_qs}));
 
         // Stays inside the list when it is resized.
         list.resize(300, 500);
