@@ -1,5 +1,6 @@
 #include "app/commandline.h"
 #include "app/tagsmithappdelegate.h"
+#include "catalogue/stringtables.h"
 
 #include <QApplication>
 #include <QDir>
@@ -12,6 +13,7 @@ namespace {
 
 void nameApplication()
 {
+    StringTables::installPluralForms();
     QCoreApplication::setOrganizationName(QStringLiteral("Tagsmith"));
     QCoreApplication::setApplicationName(QStringLiteral("Tagsmith"));
     QCoreApplication::setApplicationVersion(QStringLiteral(TAGSMITH_VERSION));

@@ -2,6 +2,7 @@
 
 #include "values/logging.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
@@ -204,6 +205,18 @@ void StringTables::loadDirectory(const QString &directory, const QLocale &locale
     }
     for (const QString &path : std::as_const(fallbacks))
         addFile(path);
+}
+
+void StringTables::installPluralForms()
+{
+    static QTranslator *translator = nullptr;
+    if (translator || !QCoreApplication::instance())
+        return;
+    translator = new QTranslator(QCoreApplication::instance());
+    if (translator->load(QStringLiteral(":/i18n/plurals_en.qm")))
+        QCoreApplication::installTranslator(translator);
+    else
+        qCWarning(lcTagsmith) << "The plural forms of the texts are missing";
 }
 
 bool StringTables::addFile(const QString &path)

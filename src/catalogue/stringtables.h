@@ -12,6 +12,9 @@ class StringTables
 {
 public:
     static StringTables &instance();
+    // Installs the English plural forms of the texts that count with %n ("1 file", "2 files")
+    // as the application's translator; once an application object exists, and only once.
+    static void installPluralForms();
 
     // The .qm files of a directory for a locale, each falling back to its _en file.
     StringTables(const QString &directory, const QLocale &locale);

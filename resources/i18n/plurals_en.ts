@@ -1,0 +1,57 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en">
+<!-- The English plural forms of every text that counts with %n; installed as a translator at
+     start, so QCoreApplication::translate(context, text, nullptr, n) says "1 file", "2 files". -->
+<context>
+    <name>Localizable</name>
+    <message numerus="yes">
+        <source>reading it took longer than %n second(s)</source>
+        <translation>
+            <numerusform>reading it took longer than %n second</numerusform>
+            <numerusform>reading it took longer than %n seconds</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The file “%1” had %n other name(s) (hard links); they keep the content it had before this save.</source>
+        <translation>
+            <numerusform>The file “%1” had another name (a hard link); it keeps the content the file had before this save.</numerusform>
+            <numerusform>The file “%1” had %n other names (hard links); they keep the content it had before this save.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MainWindowController</name>
+    <message numerus="yes">
+        <source>All metadata cannot be removed from the %n selected file(s) without making them unreadable (camera raw files need their tags).</source>
+        <translation>
+            <numerusform>All metadata cannot be removed from the selected file without making it unreadable (camera raw files need their tags).</numerusform>
+            <numerusform>All metadata cannot be removed from the %n selected files without making them unreadable (camera raw files need their tags).</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n other selected file(s) cannot lose all metadata and stay as they are.</source>
+        <translation>
+            <numerusform>%n other selected file cannot lose all metadata and stays as it is.</numerusform>
+            <numerusform>%n other selected files cannot lose all metadata and stay as they are.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove all metadata from %n file(s)?</source>
+        <translation>
+            <numerusform>Remove all metadata from %n file?</numerusform>
+            <numerusform>Remove all metadata from %n files?</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>PasteMetadataDialog</name>
+    <message numerus="yes">
+        <source>Paste the values copied from “%1” into %n file(s):</source>
+        <translation>
+            <numerusform>Paste the values copied from “%1” into %n file:</numerusform>
+            <numerusform>Paste the values copied from “%1” into %n files:</numerusform>
+        </translation>
+    </message>
+</context>
+</TS>
