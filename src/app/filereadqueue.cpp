@@ -29,7 +29,7 @@ void FileReadQueue::enqueue(Batch batch)
         m_pendingPaths.insert(file->fileName());
     // Adds that arrive before the next read starts (the desktop hands over files one by one)
     // share one read and one selection.
-    if (m_queue.empty()) {
+    if (m_queue.empty() || m_queue.back().isReload != batch.isReload) {
         m_queue.push_back(std::move(batch));
     } else {
         m_queue.back().files.append(batch.files);
@@ -99,8 +99,9 @@ void FileReadQueue::handleFinished()
         return;
     }
     m_readCount += m_chunkCount;
+    m_current.result.timedOut += result.timedOut;
     if (!result.ok() && m_current.result.ok())
-        m_current.result = result;
+        m_current.result.errorMessage = result.errorMessage;
     reportProgress();
     // A cancel from the progress signal has already told the batch.
     if (!m_isReading)

@@ -27,6 +27,8 @@ public:
         QList<ExifFileInfoPtr> files;
         QList<FileRejection> rejected;
         ExifReadResult result;
+        // New records for files already in the list, which they replace once read.
+        bool isReload = false;
     };
 
     // Large enough that ExifTool's start-up is lost in the run, small enough that a cancel

@@ -225,11 +225,17 @@ void MainWindowController::cancelReading()
 
 void MainWindowController::handleBatchRead(const FileReadQueue::Batch &batch)
 {
+    if (batch.isReload) {
+        replaceReloadedFiles(batch);
+        return;
+    }
     QList<ExifFileInfoPtr> valid;
     QList<FileRejection> rejected = batch.rejected;
     for (const ExifFileInfoPtr &file : batch.files) {
         if (!file->isValid()) {
-            rejected.append({file->fileName(), FileRejection::Reason::Unreadable});
+            rejected.append({file->fileName(), batch.result.timedOut.contains(file->fileName())
+                                                   ? FileRejection::Reason::TimedOut
+                                                   : FileRejection::Reason::Unreadable});
         } else if (const auto reason =
                        FileAdmission::rejectionAfterReading(file->originalExifData())) {
             rejected.append({file->fileName(), *reason});
@@ -329,24 +335,44 @@ void MainWindowController::reloadSelectedFiles()
     const QList<ExifFileInfoPtr> selected = selectedFiles();
     if (selected.isEmpty())
         return;
-    QGuiApplication::setOverrideCursor(Qt::BusyCursor);
-    QList<int> invalidRows;
-    QList<ExifFileInfoPtr> reloaded;
-    for (const ExifFileInfoPtr &old : selected) {
-        const int row = m_model->rowOf(old->fileName());
-        auto fresh = std::make_shared<ExifFileInfo>(old->fileName());
-        m_exifRunner.loadExifInformation(fresh);
+    // Read like added files, in the background with the same progress; the new records take
+    // the old ones' rows when they are in.
+    FileReadQueue::Batch batch;
+    batch.isReload = true;
+    for (const ExifFileInfoPtr &old : selected)
+        batch.files.append(std::make_shared<ExifFileInfo>(old->fileName()));
+    m_readQueue->enqueue(std::move(batch));
+}
+
+void MainWindowController::replaceReloadedFiles(const FileReadQueue::Batch &batch)
+{
+    QList<int> goneRows;
+    QList<int> rows;
+    for (const ExifFileInfoPtr &fresh : batch.files) {
+        const int row = m_model->rowOf(fresh->fileName());
+        if (row < 0)
+            continue; // removed from the list while it was read
         m_model->replaceFile(row, fresh);
         m_imagesCache->removeImage(fresh->fileName());
         if (fresh->isValid())
-            reloaded.append(fresh);
+            rows.append(row);
         else
-            invalidRows.append(row);
+            goneRows.append(row);
     }
-    QGuiApplication::restoreOverrideCursor();
-    m_model->removeRowsAt(invalidRows);
-    m_currentFiles = reloaded;
-    m_configController->setExifFiles(m_currentFiles);
+    QList<FileRejection> rejected;
+    for (const QString &path : batch.result.timedOut)
+        rejected.append({path, FileRejection::Reason::TimedOut});
+    if (!rejected.isEmpty())
+        m_addFilesNote->showRejections(rejected);
+    m_model->removeRowsAt(goneRows);
+    // Rows after a removed one moved up.
+    QList<int> kept;
+    for (const ExifFileInfoPtr &fresh : batch.files) {
+        if (fresh->isValid() && m_model->rowOf(fresh->fileName()) >= 0)
+            kept.append(m_model->rowOf(fresh->fileName()));
+    }
+    selectRows(kept);
+    handleSelectionChanged();
     updateWindowModified();
     recheckUIEnablement();
 }

@@ -33,7 +33,7 @@ class QPushButton;
 class QuickLookImageCache;
 class ResultsWindowController;
 struct ExifFilesUpdate;
-class GeotagDialog; // geotagging
+class GeotagDialog;      // geotagging
 class MetadataClipboard; // copy and paste
 struct MetadataSelection;
 class PasteMetadataDialog;
@@ -153,6 +153,7 @@ private:
     void connectCommands();
     void handleSelectionChanged();
     void handleBatchRead(const FileReadQueue::Batch &batch);
+    void replaceReloadedFiles(const FileReadQueue::Batch &batch);
     void handleReadingChanged(bool busy);
     void handleExifFilesUpdate(const ExifFilesUpdate &update);
     void showProgressPanel(bool fadeIn);
@@ -169,7 +170,6 @@ private:
     bool m_debug;
     std::unique_ptr<ExifBackgroundRunner> m_runner;
     std::unique_ptr<MainWindow> m_window;
-    ExifRunner m_exifRunner;
     QuickLookImageCache *m_imagesCache = nullptr;
     FileReadQueue *m_readQueue = nullptr;
     FileListModel *m_model = nullptr;

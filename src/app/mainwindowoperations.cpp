@@ -13,6 +13,7 @@
 #include "windows/progresspanel.h"
 #include "windows/resultswindowcontroller.h"
 
+#include <QCoreApplication>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -66,33 +67,58 @@ void MainWindowController::removeAllMetadata()
     const QList<ExifFileInfoPtr> selected = selectedFiles();
     if (files().isEmpty() || m_saving || selected.isEmpty())
         return;
-    static const QStringList plain{QStringLiteral("image/jpeg"), QStringLiteral("image/tiff"),
-                                   QStringLiteral("image/png"), QStringLiteral("image/gif")};
-    bool any = false;
+    static const QStringList plain{QStringLiteral("image/jpeg"), QStringLiteral("image/png"),
+                                   QStringLiteral("image/gif"), QStringLiteral("image/webp")};
+    int strippable = 0;
     bool needsStrongWarning = false;
     for (const ExifFileInfoPtr &file : selected) {
         const QString mime = file->exifValue(MimeTypeKey);
         if (!ExifRunnerRemoveMetadataOperation::canStrip(mime))
             continue;
-        any = true;
-        needsStrongWarning =
-            needsStrongWarning || mime == QStringLiteral("image/tiff") || !plain.contains(mime);
+        ++strippable;
+        needsStrongWarning = needsStrongWarning || !plain.contains(mime);
     }
-    if (!any)
+    const int kept = int(selected.size()) - strippable;
+    if (strippable == 0) {
+        QMessageBox *sheet = makeSheet(
+            localized(QStringLiteral("Nothing to remove")),
+            QCoreApplication::translate("MainWindowController",
+                                        "All metadata cannot be removed from the %n selected "
+                                        "file(s) without making them unreadable (camera raw "
+                                        "files need their tags).",
+                                        nullptr, kept));
+        sheet->addButton(QMessageBox::Ok);
+        sheet->open();
         return;
+    }
 
+    QString informative = needsStrongWarning
+                              ? localized(QStringLiteral("REMOVE_ALL_METADATA_WARNING2"))
+                              : localized(QStringLiteral("All tags will be removed immediately."));
+    if (kept > 0) {
+        informative += u' ' + QCoreApplication::translate(
+                                  "MainWindowController",
+                                  "%n other selected file(s) cannot lose all metadata and stay "
+                                  "as they are.",
+                                  nullptr, kept);
+    }
+    informative += u' ' + localized(QStringLiteral("Revert Last Save can put the files back as "
+                                                   "they were until they are saved again."));
     QMessageBox *sheet = makeSheet(
-        localized(QStringLiteral("Do you want to remove all metadata?")),
-        needsStrongWarning ? localized(QStringLiteral("REMOVE_ALL_METADATA_WARNING2"))
-                           : localized(QStringLiteral("All tags will be removed imediatelly.")));
+        QCoreApplication::translate("MainWindowController", "Remove all metadata from %n file(s)?",
+                                    nullptr, strippable),
+        informative);
     QPushButton *remove =
         sheet->addButton(localized(QStringLiteral("Remove All Metadata")), QMessageBox::AcceptRole);
-    sheet->addButton(localized(QStringLiteral("Don't Remove")), QMessageBox::RejectRole);
-    sheet->setDefaultButton(remove);
+    QPushButton *cancel =
+        sheet->addButton(localized(QStringLiteral("Don't Remove")), QMessageBox::RejectRole);
+    // Enter must not strip thousands of files.
+    sheet->setDefaultButton(cancel);
+    sheet->setEscapeButton(cancel);
     connect(sheet, &QMessageBox::finished, this, [this, sheet, remove] {
         if (sheet->clickedButton() != remove)
             return;
-        // All the selected files go, not only the kinds that made the question.
+        // All the selected files go: the ones that cannot be stripped are told why, each.
         const QList<ExifFileInfoPtr> current = selectedFiles();
         if (current.isEmpty())
             return;

@@ -12,8 +12,13 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QSet>
+
+#include <atomic>
 
 namespace {
+
+std::atomic<int> s_readTimeoutMs{60'000};
 
 bool existsOnDisk(const QString &path)
 {
@@ -38,6 +43,16 @@ QStringList ExifRunner::readCommandArguments(const QStringList &paths)
     return arguments;
 }
 
+void ExifRunner::setReadTimeout(int milliseconds)
+{
+    s_readTimeoutMs = milliseconds;
+}
+
+int ExifRunner::readTimeout()
+{
+    return s_readTimeoutMs;
+}
+
 ExifToolResult ExifRunner::executeRawCommand_FileInfo(const QStringList &paths) const
 {
     return m_command.run(readCommandArguments(paths));
@@ -60,16 +75,41 @@ ExifRunner::readReport(const QStringList &paths,
             bytes += paths.at(end++).toUtf8().size() + 1;
 
         ExifReportParser parser;
-        parser.setRecordHandler(onRecord);
+        QSet<QString> recorded;
+        parser.setRecordHandler([&](const QString &path, TagDictionary record) {
+            recorded.insert(path);
+            if (onRecord)
+                onRecord(path, std::move(record));
+            else
+                report.records.insert(path, std::move(record));
+        });
         const qsizetype recordsBefore = report.records.size() + recordsHanded;
+        // "-v0" has ExifTool send each file's record as soon as it is done, so that a file it
+        // gets stuck on is the first one without a record.
         const ExifToolResult run = m_command.run(
-            readCommandArguments(paths.mid(first, end - first)), [&](QByteArrayView chunk) {
+            QStringList{QStringLiteral("-v0")} +
+                readCommandArguments(paths.mid(first, end - first)),
+            [&](QByteArrayView chunk) {
                 parser.addData(chunk.toByteArray());
                 if (m_recordsRead)
                     m_recordsRead(recordsBefore + parser.recordCount());
-            });
+            },
+            -1, s_readTimeoutMs);
         recordsHanded += onRecord ? parser.recordCount() : 0;
-        report.records.insert(parser.finish());
+        parser.finish();
+        if (run.outcome == ExifToolResult::Outcome::TimedOut) {
+            qsizetype stuck = first;
+            while (stuck < end && recorded.contains(paths.at(stuck)))
+                ++stuck;
+            if (stuck < end) {
+                qCWarning(lcTagsmith).noquote()
+                    << QStringLiteral("ExifTool got stuck reading %1").arg(paths.at(stuck));
+                report.result.timedOut.append(paths.at(stuck));
+                report.ran = true;
+                first = stuck + 1;
+                continue;
+            }
+        }
         if (run.outcome != ExifToolResult::Outcome::Finished) {
             // After a crash, what did arrive is still the files' true content.
             qCWarning(lcTagsmith).noquote() << run.errorMessage;
@@ -141,9 +181,15 @@ ExifReadResult ExifRunner::loadExifInformations(const QList<ExifFileInfoPtr> &fi
         byPath.erase(waiting);
     });
     if (report.ran) {
-        // What ExifTool reported nothing for is still read, with nothing in it.
+        // What ExifTool reported nothing for is still read, with nothing in it; but a file it
+        // got stuck on is not read at all.
         for (auto it = byPath.cbegin(); it != byPath.cend(); ++it) {
+            const bool stuck = report.result.timedOut.contains(it.key());
             for (const ExifFileInfoPtr &file : it.value()) {
+                if (stuck) {
+                    file->setValid(false);
+                    continue;
+                }
                 file->setReadData({});
                 file->setIdentity(identities.value(it.key()));
             }

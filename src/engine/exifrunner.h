@@ -23,6 +23,8 @@ class NumberFormatter;
 struct ExifReadResult
 {
     QString errorMessage; // user-presentable; empty when ExifTool ran
+    // Files ExifTool got stuck on: read no further, and left not valid.
+    QStringList timedOut;
 
     bool ok() const { return errorMessage.isEmpty(); }
 };
@@ -46,7 +48,13 @@ public:
         m_recordsRead = std::move(handler);
     }
 
-    // Missing files become not valid and stay out of the run; every other file is valid
+    // How long a read may go without ExifTool finishing a file before that file is given up
+    // (tests shorten it). Process-wide.
+    static void setReadTimeout(int milliseconds);
+    static int readTimeout();
+
+    // Missing files become not valid and stay out of the run; so do files ExifTool got stuck
+    // on (ExifReadResult::timedOut), whose batch goes on without them. Every other file is valid
     // afterwards, with empty dictionaries when ExifTool reported nothing for it.
     ExifReadResult loadExifInformations(const QList<ExifFileInfoPtr> &files);
     // The same for one file; a missing file only becomes not valid.

@@ -196,6 +196,7 @@ ExifRunnerFileModifiyOperation::writeFile(const QStringList &arguments, ErrorMes
         errors.addError(tr("The file could not be saved: %1").arg(m_replacement->errorString()));
     } else {
         m_replacement->setExpectedIdentity(m_efi->identity());
+        m_replacement->setKeepsReplacedFileAt(m_keepAt);
         QStringList all = arguments;
         // ExifTool puts a bare JPEG XL codestream into a container (losslessly) only when told
         // to ignore minor errors; the read-back still checks every written value.
@@ -231,6 +232,11 @@ ExifRunnerFileModifiyOperation::writeFile(const QStringList &arguments, ErrorMes
     if (reReads() && !result.reRead && !result.leftAlone)
         result.reRead = loadOldDataWithErrors(errors);
     return result;
+}
+
+QString ExifRunnerFileModifiyOperation::keptFile() const
+{
+    return m_replacement ? m_replacement->keptFile() : QString();
 }
 
 bool ExifRunnerFileModifiyOperation::mayWrite(ErrorMessages &errors) const

@@ -61,6 +61,13 @@ protected:
         std::optional<TagDictionary> reRead;
     };
     WriteResult writeFile(const QStringList &arguments, ErrorMessages &errors);
+    // Asks the next writeFile to move the file it replaces to path instead of letting it go;
+    // keptFile() then names it, or is empty when it could not be kept.
+    void keepReplacedFileAt(const QString &path) { m_keepAt = path; }
+    QString keptFile() const;
+    // Whether the file may be written at all: it is still the file that was read, and the
+    // user may write it. Adds the reason when not.
+    bool mayWrite(ErrorMessages &errors) const;
 
     // Called by writeFile with what the new file reads back as, before it replaces the old
     // one; a subclass adds warnings for values that did not come out as asked.
@@ -93,8 +100,6 @@ private:
     QHash<QString, TagDictionary> readFiles(const QStringList &paths, const QStringList &extra,
                                             ExifToolResult &result);
     void describeFinalFile(TagDictionary &values) const;
-    // Whether the file may be written at all; adds the reason when not.
-    bool mayWrite(ErrorMessages &errors) const;
 
     const QString m_fileName;
     const ExifFileInfoPtr m_efi;
@@ -103,4 +108,5 @@ private:
     ErrorMessagesPtr m_errors;
     std::optional<TagDictionary> m_oldData;
     std::unique_ptr<FileReplacement> m_replacement;
+    QString m_keepAt;
 };

@@ -1,5 +1,9 @@
 #include "engine/exifrunnerremovemetadataoperation.h"
 
+#include "engine/revertrecord.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
 
 #include <array>
 
@@ -9,6 +13,11 @@ const QString MimeTypeKey = QStringLiteral("File:MIMEType");
 const QString Jpeg = QStringLiteral("image/jpeg");
 const QString Tiff = QStringLiteral("image/tiff");
 const QString Photoshop = QStringLiteral("application/vnd.adobe.photoshop");
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("ExifRunnerRemoveMetadataOperation", text);
+}
 
 // ExifTool cannot drop the IFD0 of a TIFF (it holds the image), says so, and keeps it. The
 // user asked for nothing that failed, so the warning is not shown.
@@ -61,7 +70,21 @@ ExifRunnerRemoveMetadataOperation::ExifRunnerRemoveMetadataOperation(ExifFileInf
 
 bool ExifRunnerRemoveMetadataOperation::canStrip(const QString &mimeType)
 {
-    return mimeType == Jpeg || mimeType == Tiff || mimeType == Photoshop;
+    // ExifTool keeps what these need to show their picture; a raw file would lose the tags its
+    // decoder reads, and it goes by its own MIME type, even when it is TIFF inside.
+    static const QSet<QString> strippable{
+        Jpeg,
+        Tiff,
+        Photoshop,
+        QStringLiteral("image/png"),
+        QStringLiteral("image/gif"),
+        QStringLiteral("image/webp"),
+        QStringLiteral("image/heic"),
+        QStringLiteral("image/heif"),
+        QStringLiteral("image/avif"),
+        QStringLiteral("image/jxl"),
+    };
+    return strippable.contains(mimeType);
 }
 
 QStringList ExifRunnerRemoveMetadataOperation::removeArguments(const QString &mimeType)
@@ -77,16 +100,37 @@ QStringList ExifRunnerRemoveMetadataOperation::removeArguments(const QString &mi
 
 void ExifRunnerRemoveMetadataOperation::run()
 {
-    const QString mimeType = efi()->exifValue(MimeTypeKey);
-    // Errors stay null: the file is reported without messages.
-    if (!canStrip(mimeType))
-        return;
-
     auto errors = std::make_shared<ErrorMessages>(fileName());
+    const QString mimeType = efi()->exifValue(MimeTypeKey);
+    if (!canStrip(mimeType)) {
+        const QString type = efi()->exifValue(QStringLiteral("File:FileType"));
+        errors->addError(tr("%1 was not changed: all metadata cannot be removed from a %2 file "
+                            "without making it unreadable.")
+                             .arg(QFileInfo(fileName()).fileName(),
+                                  type.isEmpty() ? tr("file of this type") : type));
+        storeResults(errors, std::nullopt);
+        return;
+    }
+
+    QString keepError;
+    const QString keepAt = RevertRecord::newKeptPath(fileName(), &keepError);
+    keepReplacedFileAt(keepAt);
     const WriteResult result = writeFile(addRemoveArgs(removeArguments(mimeType)), *errors);
     if (mimeType != Jpeg && hasIFD0MinorWarning(*errors))
         removeIFD0MinorWarning(*errors);
-
+    if (result.replaced) {
+        RevertEntry entry;
+        entry.path = fileName();
+        entry.keptFile = keptFile();
+        QString error = keepError;
+        if (entry.keptFile.isEmpty() || !RevertRecord::store(entry, &error)) {
+            RevertRecord::removeKeptFile(entry.keptFile);
+            RevertRecord::discard(fileName());
+            errors->addWarning(tr("This removal cannot be reverted: %1").arg(error));
+        }
+    } else {
+        RevertRecord::removeKeptFile(keepAt);
+    }
     storeResults(errors, adoptRewrittenFile(result));
 }
 

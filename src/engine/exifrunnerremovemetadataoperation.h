@@ -6,7 +6,10 @@
 #include <QString>
 #include <QStringList>
 
-// Strips all metadata from a JPEG, TIFF or Photoshop file; other kinds of file are left alone.
+// Strips all metadata from a file of a type that stays whole without it (JPEG, TIFF, Photoshop,
+// PNG, GIF, WebP, HEIF, AVIF, JPEG XL); a raw file, which needs its tags to be read at all, is
+// left alone and reported. The file as it was is kept beside it until its next save, so Revert
+// Last Save can put it back byte for byte.
 class ExifRunnerRemoveMetadataOperation : public ExifRunnerFileModifiyOperation
 {
 public:
@@ -14,7 +17,7 @@ public:
 
     void run() override;
 
-    // Only these are ever stripped; for any other type (PNG, raw...) ExifTool is not run.
+    // Only these are ever stripped; for any other type (raw...) ExifTool is not run.
     static bool canStrip(const QString &mimeType);
     // ExifTool's arguments for stripping a file of this type, up to but without "-o" and the
     // paths; empty when the type is not stripped.

@@ -9,6 +9,12 @@
 #include <QFileInfo>
 #include <QTemporaryFile>
 
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+
 namespace {
 
 QString tr(const char *text)
@@ -54,6 +60,10 @@ void ExifRunnerRevertOperation::run()
         storeResults(errors, std::nullopt);
         return;
     }
+    if (!m_entry.keptFile.isEmpty()) {
+        restoreKeptFile(errors);
+        return;
+    }
     QTemporaryFile import(QDir::tempPath() + QStringLiteral("/tagsmith-revert-XXXXXX.json"));
     if (!m_entry.previous.isEmpty() &&
         (!import.open() || import.write(RevertRecord::importJson(m_entry)) < 0 ||
@@ -74,9 +84,48 @@ void ExifRunnerRevertOperation::run()
     storeResults(errors, reReads() ? result.reRead : std::nullopt);
 }
 
+void ExifRunnerRevertOperation::restoreKeptFile(const ErrorMessagesPtr &errors)
+{
+    if (!mayWrite(*errors)) {
+        storeResults(errors, std::nullopt);
+        return;
+    }
+    // Through a symbolic link, its target is what the removal replaced.
+    const QFileInfo info(fileName());
+    const QString target = info.isSymLink() ? info.canonicalFilePath() : fileName();
+    if (!QFileInfo::exists(m_entry.keptFile) ||
+        ::rename(QFile::encodeName(m_entry.keptFile).constData(),
+                 QFile::encodeName(target).constData()) != 0) {
+        errors->addError(tr("The file as it was before its metadata was removed could not be put "
+                            "back (%1); the file is unchanged.")
+                             .arg(QString::fromLocal8Bit(std::strerror(errno))));
+        storeResults(errors, std::nullopt);
+        return;
+    }
+    RevertRecord::discard(fileName(), true);
+    RevertRecord::removeKeptFile(m_entry.keptFile);
+    // Without this the rename itself may not survive a power cut.
+    const int folder = ::open(QFile::encodeName(QFileInfo(target).absolutePath()).constData(),
+                              O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (folder < 0 || ::fsync(folder) != 0)
+        errors->addWarning(tr("The folder of the file could not be written to disk."));
+    if (folder >= 0)
+        ::close(folder);
+    efi()->setIdentity(FileIdentity::of(fileName()));
+    const std::optional<TagDictionary> reRead =
+        reReads() ? std::optional<TagDictionary>(loadOldDataWithErrors(*errors)) : std::nullopt;
+    storeResults(errors, reRead);
+}
+
 void ExifRunnerRevertOperation::postProcessInMainThread()
 {
     const std::optional<TagDictionary> data = oldData();
+    if (reReads() && data && !m_entry.keptFile.isEmpty()) {
+        // The whole file is back: every value is what it holds, as after a removal.
+        efi()->setExifData(*data);
+        efi()->setOriginalExifData(*data);
+        return;
+    }
     if (reReads() && data) {
         // The reverted tags take their values on disk, unless the user has edited one since.
         const TagDictionary before = efi()->originalExifData();

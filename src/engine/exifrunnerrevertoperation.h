@@ -5,8 +5,9 @@
 
 #include <memory>
 
-// Writes back what a file held before its last save, through the same road as the save, and
-// then forgets the record. A file changed on disk since that save is left alone.
+// Writes back what a file held before its last save, through the same road as the save, or puts
+// back the whole file that a removal of all metadata kept, and then forgets the record. A file
+// changed on disk since that save is left alone.
 class ExifRunnerRevertOperation : public ExifRunnerFileModifiyOperation
 {
 public:
@@ -28,5 +29,8 @@ protected:
     std::optional<QDateTime> findDateForFile(const QString &key) const override;
 
 private:
+    // Puts the whole file kept by a removal of all metadata back in place.
+    void restoreKeptFile(const ErrorMessagesPtr &errors);
+
     const RevertEntry m_entry;
 };

@@ -105,7 +105,7 @@ void ExifRunnerSaveOperation::run()
             *errors);
         result = writeFile(arguments, *errors);
         if (result.replaced)
-            RevertRecord::storeAfterSave(std::move(revert), efi()->originalExifData(),
+            RevertRecord::storeAfterSave(fileName(), std::move(revert), efi()->originalExifData(),
                                          result.reRead, *errors);
     }
     // A file changed by someone else is left whole, sidecar included.

@@ -13,7 +13,7 @@ ExifToolCommand::ExifToolCommand(QString program)
 }
 
 ExifToolResult ExifToolCommand::run(const QStringList &arguments, const OutputHandler &onOutput,
-                                    int timeoutMs) const
+                                    int timeoutMs, int idleTimeoutMs) const
 {
     ExifToolResult result;
     QProcess process;
@@ -32,17 +32,23 @@ ExifToolResult ExifToolCommand::run(const QStringList &arguments, const OutputHa
 
     const QDeadlineTimer deadline =
         timeoutMs < 0 ? QDeadlineTimer(QDeadlineTimer::Forever) : QDeadlineTimer(timeoutMs);
+    const auto idleDeadline = [idleTimeoutMs] {
+        return idleTimeoutMs < 0 ? QDeadlineTimer(QDeadlineTimer::Forever)
+                                 : QDeadlineTimer(idleTimeoutMs);
+    };
+    QDeadlineTimer idle = idleDeadline();
     auto drain = [&] {
         const QByteArray chunk = process.readAllStandardOutput();
         if (chunk.isEmpty())
             return;
+        idle = idleDeadline();
         if (onOutput)
             onOutput(chunk);
         else
             result.standardOutput += chunk;
     };
     while (process.state() != QProcess::NotRunning) {
-        if (deadline.hasExpired()) {
+        if (deadline.hasExpired() || idle.hasExpired()) {
             process.kill();
             process.waitForFinished(-1);
             result.outcome = ExifToolResult::Outcome::TimedOut;
@@ -50,9 +56,9 @@ ExifToolResult ExifToolCommand::run(const QStringList &arguments, const OutputHa
             result.standardError = process.readAllStandardError();
             return result;
         }
-        const int slice = deadline.isForever()
-                              ? 1000
-                              : int(std::clamp<qint64>(deadline.remainingTime(), 0, 1000));
+        const QDeadlineTimer next = std::min(deadline, idle);
+        const int slice =
+            next.isForever() ? 1000 : int(std::clamp<qint64>(next.remainingTime(), 0, 1000));
         if (!process.waitForReadyRead(slice))
             process.waitForFinished(slice);
         drain();

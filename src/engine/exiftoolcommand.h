@@ -36,9 +36,10 @@ public:
     const QString &program() const { return m_program; }
 
     // When onOutput is set, standard output is handed over chunk by chunk as it arrives
-    // instead of being collected. timeoutMs < 0 waits as long as it takes.
+    // instead of being collected. timeoutMs < 0 waits as long as it takes; idleTimeoutMs, when
+    // not negative, gives up once no output came for that long.
     ExifToolResult run(const QStringList &arguments, const OutputHandler &onOutput = {},
-                       int timeoutMs = -1) const;
+                       int timeoutMs = -1, int idleTimeoutMs = -1) const;
 
 private:
     QString m_program;

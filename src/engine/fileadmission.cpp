@@ -1,7 +1,9 @@
 #include "engine/fileadmission.h"
 
+#include "engine/exifrunner.h"
 #include "engine/fileidentity.h"
 #include "engine/filekey.h"
+#include "engine/filereplacement.h"
 #include "values/imagefiletypes.h"
 
 #include <QCoreApplication>
@@ -159,6 +161,9 @@ struct Admission
         for (const QByteArray &name : *entries) {
             const QString entry = QFile::decodeName(name);
             const QString path = prefix + entry;
+            // Our own scratch and kept files are no news to the user.
+            if (entry.startsWith(FileReplacement::ScratchPrefix))
+                continue;
             // Caches, trash and sidecar folders of other programs hide themselves this way.
             if (entry.startsWith(QLatin1Char('.')))
                 reject(path, FileRejection::Reason::Hidden);
@@ -279,6 +284,10 @@ QString FileAdmission::reasonText(const FileRejection &rejection)
         return translated("the same file as %1, already in the list").arg(rejection.sameAs);
     case FileRejection::Reason::InvalidName:
         return translated("its name is not valid UTF-8, so it cannot be opened");
+    case FileRejection::Reason::TimedOut:
+        return QCoreApplication::translate("Localizable",
+                                           "reading it took longer than %n second(s)", nullptr,
+                                           ExifRunner::readTimeout() / 1000);
     }
     return {};
 }

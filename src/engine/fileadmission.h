@@ -23,7 +23,9 @@ struct FileRejection
         // Another name of a file in the list.
         SameFileInList,
         // Its bytes are no valid UTF-8, which is all Qt can name a file with.
-        InvalidName
+        InvalidName,
+        // ExifTool got stuck reading it (a stalled disk or network share, a damaged file).
+        TimedOut
     };
     QString path;
     Reason reason = Reason::Unsupported;

@@ -177,6 +177,7 @@ bool FileReplacement::prepare()
     discard();
     m_committed = false;
     m_changedOutside = false;
+    m_keptFile.clear();
     m_originalState.reset();
     m_errorString.clear();
 
@@ -430,14 +431,25 @@ bool FileReplacement::swapInto(const QByteArray &target, ErrorMessages &errors)
                 }
                 return reportChangedOutside(errors);
             }
-            ::unlink(temporary.constData());
+            if (m_keepAt.isEmpty() ||
+                ::rename(temporary.constData(), encoded(m_keepAt).constData()) != 0)
+                ::unlink(temporary.constData());
+            else
+                m_keptFile = m_keepAt;
             return true;
         }
         if (errno != EINVAL && errno != ENOSYS && errno != ENOTSUP)
             return fail(errors, translated("the new file cannot take the original's place"), errno);
     }
-    if (::rename(temporary.constData(), target.constData()) != 0)
+    const bool keeps =
+        !m_keepAt.isEmpty() && ::link(target.constData(), encoded(m_keepAt).constData()) == 0;
+    if (::rename(temporary.constData(), target.constData()) != 0) {
+        if (keeps)
+            ::unlink(encoded(m_keepAt).constData());
         return fail(errors, translated("the new file cannot take the original's place"), errno);
+    }
+    if (keeps)
+        m_keptFile = m_keepAt;
     return true;
 }
 

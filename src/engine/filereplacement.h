@@ -55,6 +55,10 @@ public:
     void setExpectedIdentity(std::optional<FileIdentity> identity) { m_expected = identity; }
     // True after a commit() that found the target changed by someone else.
     bool targetChangedOutside() const { return m_changedOutside; }
+    // Where commit() moves the file it replaces instead of letting it go, on the same file
+    // system. After the commit, keptFile() says whether it is there.
+    void setKeepsReplacedFileAt(const QString &path) { m_keepAt = path; }
+    const QString &keptFile() const { return m_keptFile; }
 
     // Puts the temporary file in place of the target. False (with the reason in errors) when
     // it is missing or empty, when the original owner or attributes cannot be given to it, when
@@ -95,6 +99,8 @@ private:
     int m_aliasLock = -1;
     std::optional<FileSnapshot> m_originalState;
     std::optional<FileIdentity> m_expected;
+    QString m_keepAt;
+    QString m_keptFile;
     bool m_changedOutside = false;
     QString m_errorString;
     bool m_committed = false;

@@ -14,10 +14,14 @@
 #include <QJsonDocument>
 #include <QMutex>
 #include <QMutexLocker>
+#include <QRandomGenerator>
 #include <QSaveFile>
 #include <QStandardPaths>
 
 #include <sys/stat.h>
+
+#include <cerrno>
+#include <cstring>
 
 namespace {
 
@@ -179,13 +183,16 @@ std::optional<RevertEntry> RevertRecord::captureBeforeSave(ExifToolSession &sess
     return entry;
 }
 
-void RevertRecord::storeAfterSave(std::optional<RevertEntry> entry,
+void RevertRecord::storeAfterSave(const QString &path, std::optional<RevertEntry> entry,
                                   const QHash<QString, QString> &original,
                                   const std::optional<QHash<QString, QString>> &reRead,
                                   ErrorMessages &errors)
 {
-    if (!entry)
+    if (!entry) {
+        // An older record no longer matches the file, and its kept file, if any, is of no use.
+        discard(path);
         return;
+    }
     // Without a full earlier read every tag would look new, and a revert would strip them all.
     if (reRead && original.contains(QStringLiteral("File:FileType"))) {
         for (auto it = reRead->cbegin(); it != reRead->cend(); ++it) {
@@ -202,6 +209,29 @@ void RevertRecord::storeAfterSave(std::optional<RevertEntry> entry,
         errors.addWarning(tr("This save cannot be reverted: %1").arg(error));
 }
 
+QString RevertRecord::newKeptPath(const QString &path, QString *error)
+{
+    // Through a symbolic link, its target is the file that gets replaced.
+    const QFileInfo info(QFileInfo(path).isSymLink() ? QFileInfo(path).canonicalFilePath() : path);
+    const QString folder = info.absolutePath() + u'/' + KeptFolder;
+    if (::mkdir(QFile::encodeName(folder).constData(), 0700) != 0 && errno != EEXIST) {
+        if (error)
+            *error = QString::fromLocal8Bit(std::strerror(errno));
+        return {};
+    }
+    return folder + u'/' + info.fileName() + u'.' +
+           QString::number(QRandomGenerator::global()->generate64(), 36);
+}
+
+void RevertRecord::removeKeptFile(const QString &keptFile)
+{
+    if (keptFile.isEmpty())
+        return;
+    QFile::remove(keptFile);
+    // Only when nothing else is kept there.
+    QDir().rmdir(QFileInfo(keptFile).absolutePath());
+}
+
 bool RevertRecord::store(RevertEntry entry, QString *error)
 {
     if (!statFile(entry.path, entry.size, entry.modifiedNs)) {
@@ -214,6 +244,13 @@ bool RevertRecord::store(RevertEntry entry, QString *error)
                        {QStringLiteral("modified"), QString::number(entry.modifiedNs)},
                        {QStringLiteral("previous"), entry.previous},
                        {QStringLiteral("absent"), QJsonArray::fromStringList(entry.absent)}};
+    if (!entry.keptFile.isEmpty())
+        object.insert(QStringLiteral("kept"), entry.keptFile);
+    // A file has one record: the one it replaces lets its kept file go.
+    if (const std::optional<RevertEntry> earlier = load(entry.path);
+        earlier && earlier->keptFile != entry.keptFile) {
+        removeKeptFile(earlier->keptFile);
+    }
     QMutexLocker locker(&s_lock);
     const QString folder = directoryLocked();
     QDir().mkpath(folder);
@@ -250,6 +287,7 @@ std::optional<RevertEntry> RevertRecord::load(const QString &path)
     entry.previous = object.value(QStringLiteral("previous")).toObject();
     for (const QJsonValue &key : object.value(QStringLiteral("absent")).toArray())
         entry.absent.append(key.toString());
+    entry.keptFile = object.value(QStringLiteral("kept")).toString();
     return entry;
 }
 
@@ -259,8 +297,12 @@ bool RevertRecord::contains(const QString &path)
     return namesLocked().contains(recordName(path));
 }
 
-void RevertRecord::discard(const QString &path)
+void RevertRecord::discard(const QString &path, bool keepsFile)
 {
+    if (!keepsFile) {
+        if (const std::optional<RevertEntry> entry = load(path))
+            removeKeptFile(entry->keptFile);
+    }
     QMutexLocker locker(&s_lock);
     const QString name = recordName(path);
     QFile::remove(directoryLocked() + u'/' + name);

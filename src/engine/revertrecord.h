@@ -22,8 +22,11 @@ struct RevertEntry
     qint64 modifiedNs = 0;
     QJsonObject previous; // "Group:Tag" -> value
     QStringList absent;   // tags the file did not have, which a revert removes
+    // The whole file as it was, for an operation no list of tags can undo (removing all
+    // metadata): a second name of the old file, beside it, that a revert puts back in place.
+    QString keptFile;
 
-    bool isEmpty() const { return previous.isEmpty() && absent.isEmpty(); }
+    bool isEmpty() const { return previous.isEmpty() && absent.isEmpty() && keptFile.isEmpty(); }
     // Whether the file on disk is still the one the save wrote.
     bool matchesDisk() const;
 };
@@ -56,17 +59,27 @@ public:
                                                         const QString &path,
                                                         const QStringList &keys,
                                                         ErrorMessages &errors);
-    static void storeAfterSave(std::optional<RevertEntry> entry,
+    static void storeAfterSave(const QString &path, std::optional<RevertEntry> entry,
                                const QHash<QString, QString> &original,
                                const std::optional<QHash<QString, QString>> &reRead,
                                ErrorMessages &errors);
 
+    // A new name for keeping a whole file, in the hidden folder KeptFolder beside it (the same
+    // file system, so the old file moves there without a copy). Empty, with error set, when the
+    // folder cannot be made.
+    static QString newKeptPath(const QString &path, QString *error);
+    // Removes a kept file and, once empty, its folder.
+    static void removeKeptFile(const QString &keptFile);
+    static inline const QString KeptFolder = QStringLiteral(".tagsmith-kept");
+
     // Stamps entry with the file's present size and time and keeps it in place of any earlier
-    // record of that file.
+    // record of that file, whose kept file, if any, goes.
     static bool store(RevertEntry entry, QString *error = nullptr);
     static std::optional<RevertEntry> load(const QString &path);
     static bool contains(const QString &path);
-    static void discard(const QString &path);
+    // Forgets the record; keepsFile leaves its kept file where it is (a revert has just moved
+    // it back in place).
+    static void discard(const QString &path, bool keepsFile = false);
 
     // ExifTool's JSON import of entry's previous values, "#" marking them as raw.
     static QByteArray importJson(const RevertEntry &entry);

@@ -6,6 +6,7 @@
 #include "editors/configurationviewcontroller.h"
 #include "editors/exiffilesupdate.h"
 #include "engine/exifbackgroundrunner.h"
+#include "engine/exifrunner.h"
 #include "../support/fixtures.h"
 #include "values/usersettings.h"
 #include "windows/addfilesnote.h"
@@ -25,8 +26,10 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <QUrl>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -333,19 +336,33 @@ private Q_SLOTS:
     void removeAllMetadata_data()
     {
         QTest::addColumn<QStringList>("files");
-        QTest::addColumn<QString>("informativeText");
-        QTest::addColumn<QString>("answer");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("informativeText"); // how it starts
+        QTest::addColumn<QString>("answer");          // "Enter": the default button
         QTest::addColumn<QStringList>("calls");
-        const QString plain = u"All tags will be removed imediatelly."_s;
+        const QString plain = u"All tags will be removed immediately."_s;
         const QString strong =
             StringTables::instance().localizedString(u"REMOVE_ALL_METADATA_WARNING2"_s);
         const QString remove = u"Remove All Metadata"_s;
         const QStringList both{u"j.jpg"_s, u"p.png"_s}, none;
         // clang-format off
-        QTest::newRow("PNG only") << QStringList{u"p.png"_s} << QString() << QString() << none;
-        QTest::newRow("JPEG+PNG") << both << plain << remove << QStringList{u"remove 1 j.jpg,p.png"_s};
-        QTest::newRow("TIFF") << QStringList{u"t.tif"_s} << strong << remove << QStringList{u"remove 1 t.tif"_s};
-        QTest::newRow("declined") << both << plain << u"Don't Remove"_s << none;
+        QTest::newRow("PNG") << QStringList{u"p.png"_s} << u"Remove all metadata from 1 file?"_s
+                             << plain << remove << QStringList{u"remove 1 p.png"_s};
+        QTest::newRow("JPEG+PNG") << both << u"Remove all metadata from 2 files?"_s << plain
+                                  << remove << QStringList{u"remove 1 j.jpg,p.png"_s};
+        QTest::newRow("TIFF") << QStringList{u"t.tif"_s} << u"Remove all metadata from 1 file?"_s
+                              << strong << remove << QStringList{u"remove 1 t.tif"_s};
+        QTest::newRow("JPEG+raw") << QStringList{u"j.jpg"_s, u"r.dng"_s}
+                                  << u"Remove all metadata from 1 file?"_s
+                                  << plain + u" 1 other selected file cannot lose all metadata"_s
+                                  << remove << QStringList{u"remove 1 j.jpg,r.dng"_s};
+        QTest::newRow("raw only") << QStringList{u"r.dng"_s} << u"Nothing to remove"_s
+                                  << u"All metadata cannot be removed from the selected file"_s
+                                  << u"OK"_s << none;
+        QTest::newRow("declined") << both << u"Remove all metadata from 2 files?"_s << plain
+                                  << u"Don't Remove"_s << none;
+        QTest::newRow("Enter declines") << both << u"Remove all metadata from 2 files?"_s << plain
+                                        << u"Enter"_s << none;
         // clang-format on
     }
 
@@ -353,17 +370,32 @@ private Q_SLOTS:
     {
         QFETCH(QStringList, files);
         QFETCH(QString, informativeText);
+        QFETCH(QString, answer);
         MainWindowController &window = controller();
         QStringList paths;
-        for (const QString &name : std::as_const(files))
-            paths.append(image(name, {}));
+        for (const QString &name : std::as_const(files)) {
+            if (name.endsWith(u".dng"_s)) {
+                // A TIFF under a raw name is a raw file to ExifTool.
+                const QString tiff = image(name.chopped(3) + u"tif"_s, {});
+                QFile::remove(tiff.chopped(3) + u"dng"_s);
+                QVERIFY(QFile::rename(tiff, tiff.chopped(3) + u"dng"_s));
+                paths.append(tiff.chopped(3) + u"dng"_s);
+            } else {
+                paths.append(image(name, {}));
+            }
+        }
         QVERIFY(add(paths));
 
         window.removeAllMetadata();
         QMessageBox *sheet = visibleBox(window.window());
-        QCOMPARE(sheet ? sheet->informativeText() : QString(), informativeText);
-        if (sheet) {
-            QFETCH(QString, answer);
+        QVERIFY(sheet);
+        QTEST(sheet->text(), "text");
+        QVERIFY2(sheet->informativeText().startsWith(informativeText),
+                 qPrintable(sheet->informativeText()));
+        if (answer == u"Enter") {
+            QTest::keyClick(sheet, Qt::Key_Return);
+            QTRY_VERIFY(!sheet->isVisible());
+        } else {
             QVERIFY(clickButton(window.window(), answer));
         }
         QTEST(m_runner->calls, "calls");
@@ -373,6 +405,39 @@ private Q_SLOTS:
         window.finishProcessing({});
         QVERIFY(!window.isSaving());
         QTRY_VERIFY(!window.progressPanel());
+    }
+
+    // Reload reads in the background like an add: the window keeps turning, the rows take the
+    // files' new values and lose their edits, and a file ExifTool gets stuck on is reported.
+    void reloadReadsInTheBackground()
+    {
+        MainWindowController &window = controller();
+        const QString a = image(u"reload/a.jpg"_s), b = image(u"reload/b.jpg"_s);
+        QVERIFY(add({a, b}));
+        window.selectRows({0, 1});
+        window.selectedFiles().first()->setExifValue(u"IFD0:Artist"_s, u"Typed"_s);
+        QVERIFY(Fixtures::runExifTool({u"-overwrite_original"_s, u"-Artist=Outside"_s, a}).ok());
+        QVERIFY(QFile::remove(b));
+        QCOMPARE(::mkfifo(QFile::encodeName(b).constData(), 0644), 0);
+
+        const int limit = ExifRunner::readTimeout();
+        ExifRunner::setReadTimeout(2000);
+        int ticks = 0;
+        QTimer ticker;
+        connect(&ticker, &QTimer::timeout, this, [&ticks] { ++ticks; });
+        ticker.start(20);
+        window.reloadSelectedFiles();
+        QVERIFY(window.readQueue()->isBusy());
+        QVERIFY(window.waitForPendingReads());
+        const QStringList note = window.addFilesNote()->detailLines();
+        ExifRunner::setReadTimeout(limit);
+
+        QVERIFY2(ticks > 30, qPrintable(QString::number(ticks))); // not frozen for 2 s
+        QCOMPARE(window.files().size(), 1);
+        QCOMPARE(window.selectedFiles().size(), 1);
+        QCOMPARE(window.selectedFiles().first()->exifValue(u"IFD0:Artist"_s), u"Outside"_s);
+        QVERIFY(!window.window()->isWindowModified());
+        QCOMPARE(note, QStringList{b + u" \u2014 reading it took longer than 2 seconds"_s});
     }
 
     void fileListModelKeepsRowsConsistent()

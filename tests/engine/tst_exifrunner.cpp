@@ -6,6 +6,7 @@
 #include "../support/fixtures.h"
 #include "../support/readfixtures.h"
 
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QLocale>
@@ -14,6 +15,8 @@
 #include <QtTest>
 
 #include <atomic>
+
+#include <sys/stat.h>
 
 namespace {
 
@@ -69,8 +72,8 @@ private Q_SLOTS:
         QVERIFY2(m_result.ok(), qPrintable(m_result.errorMessage));
         QCOMPARE(
             QString::fromUtf8(readFile(m_dir.filePath(u"runs.log"_qs))).split(u'\n'),
-            QStringList({u"-g1"_qs, u"-X"_qs, u"-n"_qs, u"-charset"_qs, u"UTF-8"_qs, m_set.jpeg,
-                         m_set.tiff, m_set.png, m_set.text, u"--end--"_qs, QString()}));
+            QStringList({u"-v0"_qs, u"-g1"_qs, u"-X"_qs, u"-n"_qs, u"-charset"_qs, u"UTF-8"_qs,
+                         m_set.jpeg, m_set.tiff, m_set.png, m_set.text, u"--end--"_qs, QString()}));
         QVERIFY(!record(m_set.missing)->isValid());
         QVERIFY(record(m_set.missing)->exifData().isEmpty());
         for (const QString &path : {m_set.jpeg, m_set.tiff, m_set.png, m_set.text}) {
@@ -185,9 +188,43 @@ private Q_SLOTS:
         const qsizetype runs = logged.removeAll(u"--end--"_qs);
         QVERIFY(runs >= 2 && runs <= 4);
         QCOMPARE(logged.count(u"-X"_qs), runs); // each run has the read options
-        for (const QString &option : {u"-g1"_qs, u"-X"_qs, u"-n"_qs, u"-charset"_qs, u"UTF-8"_qs})
+        for (const QString &option :
+             {u"-v0"_qs, u"-g1"_qs, u"-X"_qs, u"-n"_qs, u"-charset"_qs, u"UTF-8"_qs})
             logged.removeAll(option);
         QCOMPARE(logged, paths);
+    }
+
+    // A file ExifTool gets stuck on (here a FIFO, as a stalled network share would do) fails
+    // alone once the time is up; the files before and after it are read.
+    void stuckFileFailsAloneWithinTheLimit()
+    {
+        const QString folder = m_dir.filePath(u"stuck"_qs);
+        QVERIFY(QDir().mkpath(folder));
+        QList<ExifFileInfoPtr> files;
+        for (const char *name : {"a.jpg", "b.jpg", "stuck.jpg", "d.jpg", "e.jpg"}) {
+            const QString path = folder + u'/' + QString::fromLatin1(name);
+            if (QByteArrayView(name) == "stuck.jpg")
+                QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0644), 0);
+            else
+                QCOMPARE(Fixtures::makeImage(path, {u"-Artist=Ann"_qs}), QString());
+            files.append(std::make_shared<ExifFileInfo>(path));
+        }
+        const int limit = ExifRunner::readTimeout();
+        ExifRunner::setReadTimeout(2000);
+        QElapsedTimer clock;
+        clock.start();
+        const ExifReadResult result = ExifRunner().loadExifInformations(files);
+        const qint64 elapsed = clock.elapsed();
+        ExifRunner::setReadTimeout(limit);
+
+        QVERIFY2(result.ok(), qPrintable(result.errorMessage));
+        QCOMPARE(result.timedOut, QStringList{folder + u"/stuck.jpg"_qs});
+        for (const ExifFileInfoPtr &file : std::as_const(files)) {
+            const bool stuck = file->fileName().endsWith(u"stuck.jpg"_qs);
+            QCOMPARE(file->isValid(), !stuck);
+            QCOMPARE(file->exifValue(u"IFD0:Artist"_qs), stuck ? QString() : u"Ann"_qs);
+        }
+        QVERIFY2(elapsed < 2000 + 15'000, qPrintable(QString::number(elapsed)));
     }
 
     void formatNumber_data()

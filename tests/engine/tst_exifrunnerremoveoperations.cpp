@@ -1,11 +1,13 @@
 #include "engine/exifrunner.h"
 #include "engine/exifrunnerremoveexifgroupsoperation.h"
 #include "engine/exifrunnerremovemetadataoperation.h"
+#include "engine/exifrunnerrevertoperation.h"
 #include "engine/exiftoolsession.h"
 #include "values/usersettings.h"
 
 #include "../support/fixtures.h"
 
+#include <QDir>
 #include <QFile>
 #include <QImage>
 #include <QTemporaryDir>
@@ -121,6 +123,7 @@ private Q_SLOTS:
         QVERIFY(m_dir.isValid());
         UserSettings::setStoreFile(m_dir.filePath(u"settings.ini"_qs));
         UserSettings::setValue(UserSettings::FileModifyDate, 1); // keep the previous date
+        RevertRecord::setDirectory(m_dir.filePath(u"records"_qs));
     }
 
     void init()
@@ -139,7 +142,8 @@ private Q_SLOTS:
         QTest::newRow("tiff") << u"tif"_qs << QStringList{u"-all="_qs, u"-CommonIFD0="_qs} + tail
                               << 0;
         QTest::newRow("photoshop") << u"psd"_qs << QStringList{u"-all="_qs} + tail << 0;
-        QTest::newRow("png is left alone") << u"png"_qs << QStringList{} << 0;
+        QTest::newRow("png") << u"png"_qs << QStringList{u"-all="_qs} + tail << 0;
+        QTest::newRow("raw file is left alone") << u"dng"_qs << QStringList{} << 0;
     }
 
     void stripRemovesUserTagsAndKeepsThePicture()
@@ -150,7 +154,15 @@ private Q_SLOTS:
         const QString path = m_dir.filePath(u"strip %f."_qs + suffix);
         const QStringList userGroups{u"IFD0:Artist"_qs, u"IFD0:Make"_qs, u"XMP-dc:"_qs,
                                      u"IPTC:"_qs,       u"GPS:"_qs,      u"ExifIFD:"_qs};
-        if (suffix == u"psd"_qs) {
+        if (suffix == u"dng"_qs) {
+            // A TIFF under a raw name is what ExifTool takes for a raw file.
+            QCOMPARE(Fixtures::makeImage(path.chopped(3) + u"tif"_qs, {u"-IFD0:Artist=Ann"_qs}),
+                     QString());
+            QVERIFY(QFile::rename(path.chopped(3) + u"tif"_qs, path));
+            QVERIFY(Fixtures::runExifTool({u"-overwrite_original"_qs, u"-IFD0:Make=Canon"_qs,
+                                           u"-XMP-dc:Title=Sea"_qs, path})
+                        .ok());
+        } else if (suffix == u"psd"_qs) {
             QFile file(path);
             QVERIFY(file.open(QIODevice::WriteOnly) && file.write(photoshopFile(16, 8)) > 0);
             file.close();
@@ -177,6 +189,10 @@ private Q_SLOTS:
         if (arguments.isEmpty()) {
             QVERIFY(m_session.writes.isEmpty());
             QCOMPARE(Fixtures::readBytes(path), before);
+            QCOMPARE(op->errors()->messages().size(), 1);
+            QCOMPARE(op->errors()->messages().first().message(),
+                     u"strip %f.dng was not changed: all metadata cannot be removed from a DNG "
+                     "file without making it unreadable."_qs);
             return;
         }
         compareWrites({arguments}, path);
@@ -191,6 +207,60 @@ private Q_SLOTS:
         else
             QCOMPARE(QImage(path).convertToFormat(QImage::Format_RGB32),
                      pictureBefore.convertToFormat(QImage::Format_RGB32));
+    }
+
+    // Revert Last Save puts the whole file back, maker notes, ICC profile and dates included,
+    // and a later save lets the kept copy go.
+    void stripIsRevertedByteForByte_data()
+    {
+        QTest::addColumn<QString>("suffix");
+        QTest::newRow("jpeg with maker notes") << u"jpg"_qs;
+        QTest::newRow("png") << u"png"_qs;
+        QTest::newRow("tiff") << u"tif"_qs;
+    }
+
+    void stripIsRevertedByteForByte()
+    {
+        QFETCH(QString, suffix);
+        const QString folder = m_dir.filePath(u"revert-"_qs + suffix);
+        QVERIFY(QDir().mkpath(folder));
+        const QString path = folder + u"/revert strip."_qs + suffix;
+        if (suffix == u"jpg"_qs)
+            QCOMPARE(makeMakerNotesImage(path, ReadableNotes), QString());
+        else
+            QCOMPARE(Fixtures::makeImage(path, {u"-XMP-dc:Title=Sea"_qs, u"-IFD0:Artist=Ann"_qs}),
+                     QString());
+        QVERIFY(setOldTime(path));
+        const QByteArray before = Fixtures::readBytes(path);
+        const ExifFileInfoPtr file = loaded(path);
+
+        run(true, file);
+        QVERIFY(Fixtures::readBytes(path) != before);
+        const QString keptFolder = folder + u'/' + RevertRecord::KeptFolder;
+        QCOMPARE(QDir(keptFolder).entryList(QDir::Files).size(), 1);
+        const auto revert = ExifRunnerRevertOperation::create(file, 1);
+        QVERIFY(revert);
+        revert->setExifToolSession(&m_session);
+        revert->run();
+        revert->postProcessInMainThread();
+        QCOMPARE(revert->errors()->messages().size(), 0);
+        QCOMPARE(Fixtures::readBytes(path), before);
+        QVERIFY(hasOldTime(path));
+        QVERIFY(!QFileInfo::exists(keptFolder));
+        QVERIFY(!RevertRecord::contains(path));
+        QCOMPARE(file->exifValue(u"IFD0:Artist"_qs), u"Ann"_qs);
+
+        // Stripped again, then saved: the save's own record replaces the kept file.
+        run(true, file);
+        QVERIFY(QFileInfo::exists(keptFolder));
+        const std::optional<RevertEntry> stripRecord = RevertRecord::load(path);
+        QVERIFY(stripRecord && !stripRecord->keptFile.isEmpty());
+        RevertEntry saveRecord;
+        saveRecord.path = path;
+        saveRecord.absent = {u"IFD0:Artist"_qs};
+        QVERIFY(RevertRecord::store(saveRecord));
+        QVERIFY(!QFileInfo::exists(stripRecord->keptFile));
+        QVERIFY(!QFileInfo::exists(keptFolder));
     }
 
     void makerNotesGoWithMakeAndModel_data()
