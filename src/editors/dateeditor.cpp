@@ -110,19 +110,6 @@ QString DateEditor::formatDateStringForLabel(const QString &value) const
     return text;
 }
 
-bool DateEditor::isModified() const
-{
-    if (!hasExifFiles() || gatherExifFilesValues(exifFiles()).size() >= 2)
-        return false;
-    const ExifFileInfoPtr &file = exifFiles().first();
-    const QString current = file->exifValue(field()->xmlName());
-    const QString original = file->originalExifData().value(field()->xmlName());
-    if (current.isEmpty())
-        return !original.isEmpty();
-    // Always the date-and-time rule, also for a date-only row: kept as the row has always done.
-    return !dateValuesEqual(current, original, DateEditorTypeDateTime);
-}
-
 void DateEditor::updateExifFileValue(const ExifFileInfoPtr &)
 {
     // The popup's panel writes the files itself.

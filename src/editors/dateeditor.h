@@ -39,7 +39,6 @@ public:
     void clearEditor() override;
     void setExifFiles(const QList<ExifFileInfoPtr> &files) override;
     void updateExifFileValue(const ExifFileInfoPtr &file) override;
-    bool isModified() const override;
     void setExifConfiguration(const ExifConfiguration *configuration) override;
     bool copyToConfiguration(ExifConfiguration &configuration) override;
     int createEditorContent(QWidget *parent, QRect frame) override;

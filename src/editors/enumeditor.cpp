@@ -155,17 +155,6 @@ void EnumEditor::updateExifFileValue(const ExifFileInfoPtr &file)
         file->setExifValue(field()->xmlName(), value);
 }
 
-bool EnumEditor::isModified() const
-{
-    bool modified = false;
-    visitChangedValues(exifFiles(), [&modified](const ExifFileInfoPtr &, const QString &current,
-                                                const QString &original) {
-        modified = !(current.isEmpty() && original.isEmpty()) && current != original;
-        return !modified;
-    });
-    return modified;
-}
-
 void EnumEditor::clearEditor()
 {
     FieldEditor::clearEditor();

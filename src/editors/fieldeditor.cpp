@@ -5,6 +5,7 @@
 #include "catalogue/exifconfiguration.h"
 #include "catalogue/stringtables.h"
 #include "controls/aperturetheme.h"
+#include "engine/exifutil.h"
 #include "values/tagsmithexception.h"
 
 #include <QCheckBox>
@@ -257,7 +258,17 @@ QSet<QString> FieldEditor::gatherExifFilesOriginalValues(const QList<ExifFileInf
 
 bool FieldEditor::isModified() const
 {
-    return false;
+    if (!m_field)
+        return false;
+    // The same rule as the file list's mark, the review and the save.
+    const FieldDataRepresentation representation = m_field->dataRepresentation();
+    bool modified = false;
+    visitChangedValues(
+        m_exifFiles, [&](const ExifFileInfoPtr &, const QString &current, const QString &original) {
+            modified = isValueModified(current, original, representation);
+            return !modified;
+        });
+    return modified;
 }
 
 void FieldEditor::updateModifiedLabel()

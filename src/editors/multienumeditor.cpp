@@ -151,17 +151,6 @@ void MultiEnumEditor::updateExifFileValue(const ExifFileInfoPtr &file)
         file->setExifValue(field()->xmlName(), list.join(u' '));
 }
 
-bool MultiEnumEditor::isModified() const
-{
-    bool modified = false;
-    visitChangedValues(exifFiles(), [&modified](const ExifFileInfoPtr &, const QString &current,
-                                                const QString &original) {
-        modified = current != original && splitComponents(current) != splitComponents(original);
-        return !modified;
-    });
-    return modified;
-}
-
 void MultiEnumEditor::clearEditor()
 {
     FieldEditor::clearEditor();

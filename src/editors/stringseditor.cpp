@@ -114,20 +114,6 @@ void StringsEditor::updateExifFileValue(const ExifFileInfoPtr &file)
         file->setExifValue(field()->xmlName(), text);
 }
 
-bool StringsEditor::isModified() const
-{
-    bool modified = false;
-    visitChangedValues(exifFiles(), [&modified](const ExifFileInfoPtr &, const QString &current,
-                                                const QString &original) {
-        if (current == original)
-            return true;
-        modified = original.isEmpty() ? !current.isEmpty()
-                                      : splitStringsValue(current) != splitStringsValue(original);
-        return !modified;
-    });
-    return modified;
-}
-
 void StringsEditor::setExifConfiguration(const ExifConfiguration *configuration)
 {
     setEnabled(true);

@@ -24,7 +24,6 @@ public:
     void updateExifFileValue(const ExifFileInfoPtr &file) override;
     void setExifConfiguration(const ExifConfiguration *configuration) override;
     bool copyToConfiguration(ExifConfiguration &configuration) override;
-    bool isModified() const override;
     void setEnabled(bool enabled) override;
     int createEditorContent(QWidget *parent, QRect frame) override;
     int showEditor(int top) override;

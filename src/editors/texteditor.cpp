@@ -311,32 +311,6 @@ void TextEditor::receiveFilesUpdateNotification(const ExifFilesUpdate &update)
     updateModifiedLabel();
 }
 
-bool TextEditor::isModified() const
-{
-    if (!hasExifFiles())
-        return false;
-    const auto representation = field()->dataRepresentation();
-    double tolerance = -1;
-    if (representation == FieldDataRepresentation::Fraction)
-        tolerance = 0.0001;
-    else if (isCoordinate())
-        tolerance = 1e-7;
-    bool modified = false;
-    visitChangedValues(
-        exifFiles(), [&](const ExifFileInfoPtr &, const QString &current, const QString &original) {
-            if (current.isEmpty() && original.isEmpty())
-                return true;
-            if (current.isEmpty() != original.isEmpty())
-                modified = true;
-            else if (tolerance < 0)
-                modified = current != original;
-            else
-                modified = std::abs(leadingNumber(current) - leadingNumber(original)) > tolerance;
-            return !modified;
-        });
-    return modified;
-}
-
 void TextEditor::setExifConfiguration(const ExifConfiguration *configuration)
 {
     setEnabled(true);

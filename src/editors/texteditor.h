@@ -33,7 +33,6 @@ public:
     void updateExifFileValue(const ExifFileInfoPtr &file) override;
     void setExifConfiguration(const ExifConfiguration *configuration) override;
     bool copyToConfiguration(ExifConfiguration &configuration) override;
-    bool isModified() const override;
     void setEnabled(bool enabled) override;
     int createEditorContent(QWidget *parent, QRect frame) override;
     // Writes, relabels and announces only after the user typed: an untouched row writes nothing.

@@ -11,6 +11,7 @@
 #include "values/numberformatter.h"
 #include "values/taglist.h"
 #include "values/usersettings.h"
+#include "values/zoneshift.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -48,6 +49,25 @@ std::optional<double> parseNumber(const QString &text, const QLocale &locale)
     NumberFormatter formatter(locale);
     formatter.setLenient(true);
     return formatter.numberFromString(text);
+}
+
+bool isNumericType(const ExifFieldPtr &field)
+{
+    const auto type = field ? qint32(field->dataType()) : 0;
+    return type >= qint32(FieldDataType::Int8) && type <= qint32(FieldDataType::UDouble);
+}
+
+// A number typed in the user's locale into a text row ("-1,5" in German) goes to ExifTool as
+// plain digits with a point; text that already is one, or no number at all, goes as it is.
+QString plainNumberText(const QString &text)
+{
+    bool plain = false;
+    QLocale::c().toDouble(text.trimmed(), &plain);
+    if (plain)
+        return text;
+    if (const auto number = parseNumber(text, QLocale()))
+        return QLocale::c().toString(*number, 'f', QLocale::FloatingPointShortest);
+    return text;
 }
 
 bool numbersMatch(double a, double b, qint64 decimals)
@@ -126,8 +146,11 @@ void ExifRunnerSaveOperation::postProcessInMainThread()
         for (auto it = written->cbegin(); it != written->cend(); ++it) {
             const QString &value = it.value();
             const auto found = data->constFind(it.key());
-            if (value.isEmpty() || isDateOffsetText(value) || found == data->cend() ||
-                found.value() == value || efi()->exifValue(it.key()) != value) {
+            const bool isShift = isDateRepresentation(representationOf(
+                                     ExifFieldsController::defaultInstance()->field(it.key()))) &&
+                                 isDateOffsetText(value);
+            if (value.isEmpty() || isShift || found == data->cend() || found.value() == value ||
+                efi()->exifValue(it.key()) != value) {
                 continue;
             }
             if (readsBackAsWritten(it.key(), value, *data))
@@ -180,7 +203,7 @@ TagDictionary ExifRunnerSaveOperation::convertValuesToChange(const TagDictionary
             }
             break;
         default:
-            converted.insert(key, value);
+            converted.insert(key, isNumericType(field) ? plainNumberText(value) : value);
             break;
         }
     }
@@ -192,17 +215,16 @@ TagDictionary ExifRunnerSaveOperation::convertValuesToChange(const TagDictionary
 std::optional<QString> ExifRunnerSaveOperation::formatNumberForExifTool(const QString &text,
                                                                         const ExifField &field)
 {
-    const QLocale english(QLocale::English, QLocale::UnitedStates);
     // What the user typed in their own locale; a value in ExifTool's own form still reads.
     std::optional<double> number = parseNumber(text, QLocale());
     if (!number)
-        number = parseNumber(text, english);
+        number = parseNumber(text, QLocale::c());
     if (!number)
         return std::nullopt;
-    // en_US groups thousands ("12,345"); ExifTool then writes 12 and the read-back check warns.
+    // Plain digits and a point in every locale: ExifTool reads "12,345" as 12.
     if (field.decimals() < 0)
-        return english.toString(*number, 'f', QLocale::FloatingPointShortest);
-    NumberFormatter formatter(english);
+        return QLocale::c().toString(*number, 'f', QLocale::FloatingPointShortest);
+    NumberFormatter formatter(QLocale::c());
     formatter.setMaximumFractionDigits(int(std::min<qint64>(field.decimals(), 340)));
     return formatter.stringFromNumber(*number);
 }
@@ -301,29 +323,47 @@ bool ExifRunnerSaveOperation::readsBackAsWritten(const QString &key, const QStri
     case FieldDataRepresentation::DateTime: {
         if (!isDateOffsetText(value))
             break;
-        // A shift is checked against the original it was applied to.
-        const QDateTime expected = applyDateOffset(value, efi()->originalExifData().value(key));
+        // A shift is checked against the original it was applied to; ExifTool keeps the
+        // original's zone, and a date without a time stays one.
+        const QString original = efi()->originalExifData().value(key);
+        const bool dateOnly =
+            representation == FieldDataRepresentation::Date ||
+            !parseDateValueOfType(withoutDateZone(original), DateEditorTypeDateTime);
+        const QDateTime expected = applyDateOffset(
+            value,
+            dateOnly ? withoutDateZone(original).section(u' ', 0, 0) + u" 00:00:00" : original);
         if (!expected.isValid())
             return false;
-        const QString expectedText = representation == FieldDataRepresentation::Date
-                                         ? formatDateValue(expected)
-                                         : formatDateTimeValue(expected);
-        return valuesEqualForRepresentation(got, expectedText, representation);
+        const QString expectedText =
+            (dateOnly ? formatDateValue(expected) : formatDateTimeValue(expected)) +
+            dateZoneSuffix(original);
+        return valuesEqualForRepresentation(
+            got, expectedText, dateOnly ? FieldDataRepresentation::Date : representation);
     }
     case FieldDataRepresentation::Number: {
         const auto expected = formatNumberForExifTool(value, *field);
-        const auto expectedNumber =
-            expected ? parseNumber(*expected, QLocale(QLocale::English, QLocale::UnitedStates))
-                     : std::nullopt;
+        const auto expectedNumber = expected ? parseNumber(*expected, QLocale::c()) : std::nullopt;
         std::optional<double> gotNumber = field->createFormatter()->numberFromString(got);
         if (!gotNumber)
             gotNumber = leadingNumber(got);
         return expectedNumber && numbersMatch(*gotNumber, *expectedNumber, field->decimals());
     }
-    case FieldDataRepresentation::Latitude:
-    case FieldDataRepresentation::Longitude:
-        // Stored as degrees, minutes and seconds: the decimal comes back rounded.
-        return std::fabs(leadingNumber(got) - leadingNumber(value)) <= 1e-6;
+    case FieldDataRepresentation::None: {
+        if (isNumericType(field)) {
+            bool isNumber = false;
+            const double expected = QLocale::c().toDouble(plainNumberText(value), &isNumber);
+            if (isNumber && numbersMatch(leadingNumber(got), expected, -1))
+                return true;
+        }
+        // ExifTool's read drops the trailing blanks of an EXIF text (not of one made only of
+        // blanks).
+        qsizetype end = value.size();
+        while (end > 0 && value.at(end - 1).isSpace())
+            --end;
+        if (end > 0 && end < value.size() && got == QStringView(value).left(end))
+            return true;
+        break;
+    }
     default:
         break;
     }

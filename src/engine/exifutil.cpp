@@ -3,9 +3,8 @@
 #include "catalogue/exiffieldscontroller.h"
 #include "values/datevalue.h"
 #include "values/leadingnumber.h"
+#include "values/numberformatter.h"
 #include "values/taglist.h"
-
-#include <QRegularExpression>
 
 #include <algorithm>
 #include <cmath>
@@ -56,69 +55,56 @@ QStringList changedKeys(const TagDictionary &current, const TagDictionary &origi
     return changed;
 }
 
-// The repairs rewrite values whose numbers lack leading zeros ("2012:1:5 9:03:07"); any other
-// count of numbers is not a date this repair understands and is left alone.
-void injectRepairedDate(const QString &key, const QString &value, TagDictionary &changes,
-                        DateEditorType type)
-{
-    if (value.isEmpty() || value.contains(u'+') || value.contains(u'-'))
-        return;
-
-    static const QRegularExpression separators(QStringLiteral("[ \\t\\n\\r:]"));
-    const QStringList pieces = value.split(separators, Qt::SkipEmptyParts);
-    const qsizetype expected = type == DateEditorTypeDateTime ? 6 : 3;
-    if (pieces.size() != expected)
-        return;
-    bool wellFormed = pieces.at(0).size() == 4;
-    for (qsizetype i = 0; i < pieces.size(); ++i) {
-        wellFormed = wellFormed && (i == 0 || pieces.at(i).size() == 2);
-        // The lenient date parser reads "x" as 0, which would write a different day over a
-        // value we do not understand.
-        if (!std::all_of(pieces.at(i).cbegin(), pieces.at(i).cend(),
-                         [](QChar c) { return c >= u'0' && c <= u'9'; }))
-            return;
-    }
-    if (wellFormed)
-        return;
-
-    const std::optional<DateComponents> parsed = parseDateValueOfType(value, type);
-    if (!parsed)
-        return;
-    // A wall time that the local zone skips at a daylight-saving change is still the camera's
-    // own reading: only out-of-range fields go through the calendar, or the repair would move it.
-    const DateComponents &c = *parsed;
-    const bool inRange = c.year >= 1 && c.year <= 9999 && c.month >= 1 && c.month <= 12 &&
-                         c.day >= 1 && c.day <= 31 && c.hour >= 0 && c.hour <= 23 &&
-                         c.minute >= 0 && c.minute <= 59 && c.second >= 0 && c.second <= 59 &&
-                         QDate::isValid(static_cast<int>(c.year), static_cast<int>(c.month),
-                                        static_cast<int>(c.day));
-    // Date-only fields get the full date-time text too: what the date parser yields, at 00:00:00.
-    QString repaired;
-    if (inRange) {
-        repaired = formatDateTimeComponents(c);
-    } else if (const QDateTime date = dateFromComponents(c); date.isValid()) {
-        repaired = formatDateTimeValue(date);
-    }
-    if (!repaired.isEmpty() && repaired != value)
-        changes.insert(key, repaired);
-}
-
 } // namespace
+
+std::optional<double> numberOfText(const QString &text)
+{
+    // Values are shown in the user's locale ("12.345,6" in German) and typed either way.
+    static thread_local NumberFormatter local = [] {
+        NumberFormatter formatter{QLocale()};
+        formatter.setLenient(true);
+        return formatter;
+    }();
+    if (local.locale() != QLocale())
+        local.setLocale(QLocale());
+    if (const auto number = local.numberFromString(text))
+        return number;
+    bool ok = false;
+    const double number = QLocale::c().toDouble(text.trimmed(), &ok);
+    return ok ? std::optional<double>(number) : std::nullopt;
+}
 
 bool valuesEqualForRepresentation(const QString &newValue, const QString &oldValue,
                                   FieldDataRepresentation representation)
 {
     if (newValue.isNull() != oldValue.isNull())
         return false;
+    // Two absent values are not "equal" here: a key with no value is never left unwritten.
+    if (newValue.isNull())
+        return false;
 
     switch (representation) {
     case FieldDataRepresentation::None:
-    case FieldDataRepresentation::Number:
     case FieldDataRepresentation::Enum:
+        return newValue == oldValue;
+    case FieldDataRepresentation::Number: {
+        if (newValue == oldValue)
+            return true;
+        const auto a = numberOfText(newValue);
+        const auto b = numberOfText(oldValue);
+        return a && b && std::fabs(*a - *b) <= 1e-12 * std::max(1.0, std::fabs(*b));
+    }
     case FieldDataRepresentation::Longitude:
-    case FieldDataRepresentation::Latitude:
-        // Two absent values are not "equal" here: a key with no value is never left unwritten.
-        return !newValue.isNull() && newValue == oldValue;
+    case FieldDataRepresentation::Latitude: {
+        // ExifTool keeps a coordinate as degrees, minutes and seconds and gives back another
+        // decimal form of it ("59.33455" for "59.334550"); a ten-millionth of a degree is about
+        // a centimetre.
+        if (newValue == oldValue)
+            return true;
+        const auto a = numberOfText(newValue);
+        const auto b = numberOfText(oldValue);
+        return a && b && std::fabs(*a - *b) <= 1e-7;
+    }
     case FieldDataRepresentation::Date:
         return dateValuesEqual(newValue, oldValue, DateEditorTypeDate);
     case FieldDataRepresentation::DateTime:
@@ -132,6 +118,14 @@ bool valuesEqualForRepresentation(const QString &newValue, const QString &oldVal
         return sameSets(splitStringsValue(newValue), splitStringsValue(oldValue));
     }
     return false;
+}
+
+bool isValueModified(const QString &current, const QString &original,
+                     FieldDataRepresentation representation)
+{
+    if (current.isNull() && original.isNull())
+        return false;
+    return !valuesEqualForRepresentation(current, original, representation);
 }
 
 bool isExifFileModified(const ExifFileInfo &file)
@@ -169,26 +163,14 @@ QStringList ExifUtil::changedFieldsArray(const ExifFileInfo &file)
 
 TagDictionary ExifUtil::changedFieldsDictionary(const ExifFileInfo &file)
 {
+    // Only what the user edited: a malformed date the user left alone stays as the camera
+    // wrote it, and a file without edits is not rewritten to repair one.
     const TagDictionary current = file.exifData();
     TagDictionary changes;
     for (const QString &key : changedKeys(current, file.originalExifData(), false, false)) {
         const auto it = current.constFind(key);
         if (it != current.cend() && !it->isNull())
             changes.insert(key, *it);
-    }
-
-    // An edited value is never overridden by a repair.
-    static const QList<std::pair<QString, DateEditorType>> repairs{
-        {u"IFD0:ModifyDate"_qs, DateEditorTypeDateTime},
-        {u"ExifIFD:DateTimeOriginal"_qs, DateEditorTypeDateTime},
-        {u"ExifIFD:CreateDate"_qs, DateEditorTypeDateTime},
-        {u"IPTC:DateCreated"_qs, DateEditorTypeDate},
-        {u"GPS:GPSDateStamp"_qs, DateEditorTypeDate},
-    };
-    for (const auto &[key, type] : repairs) {
-        if (changes.contains(key))
-            continue;
-        injectRepairedDate(key, current.value(key), changes, type);
     }
     return changes;
 }
@@ -200,20 +182,9 @@ QSet<QString> ExifUtil::removedFieldsSet(const ExifFileInfo &file)
     const ExifFieldsController *catalogue = ExifFieldsController::defaultInstance();
     QSet<QString> removed;
     for (auto it = original.cbegin(); it != original.cend(); ++it) {
-        if (catalogue->field(it.key()) && current.value(it.key()).trimmed().isEmpty())
+        // Absent, not blank: a value of spaces, as some cameras write, is a value.
+        if (catalogue->field(it.key()) && current.value(it.key()).isNull())
             removed.insert(it.key());
     }
     return removed;
-}
-
-void ExifUtil::injectInvalidDateTime(const QString &key, TagDictionary &changes,
-                                     const ExifFileInfo &file)
-{
-    injectRepairedDate(key, file.exifValue(key), changes, DateEditorTypeDateTime);
-}
-
-void ExifUtil::injectInvalidDate(const QString &key, TagDictionary &changes,
-                                 const ExifFileInfo &file)
-{
-    injectRepairedDate(key, file.exifValue(key), changes, DateEditorTypeDate);
 }

@@ -10,6 +10,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 // The change model: whether a file's working values differ from what was read, and what a save
 // must write or delete. Values are compared by meaning (see valuesEqualForRepresentation), and
 // only keys the catalogue knows take part. Stateless; callable from any thread as long as the
@@ -33,26 +35,25 @@ public:
     // Catalogue keys whose current value differs from the original, in no particular order. A
     // key present on one side only is always changed.
     static QStringList changedFieldsArray(const ExifFileInfo &file);
-    // Changed keys with their current values, plus repairs of malformed standard dates that the
-    // user did not edit: the assignments a save writes. Removed keys are not in it.
+    // Changed keys with their current values: the assignments a save writes. Removed keys are
+    // not in it.
     static TagDictionary changedFieldsDictionary(const ExifFileInfo &file);
-    // Catalogue keys that the original had and whose current value is absent or blank.
+    // Catalogue keys that the original had and whose current value is absent.
     static QSet<QString> removedFieldsSet(const ExifFileInfo &file);
-
-    // Store in changes a well-formed rewrite of the file's current value of key when that value
-    // is a date-time (or date) whose numbers lack their leading zeros. A date-only value is
-    // rewritten with the time 00:00:00 appended.
-    static void injectInvalidDateTime(const QString &key, TagDictionary &changes,
-                                      const ExifFileInfo &file);
-    static void injectInvalidDate(const QString &key, TagDictionary &changes,
-                                  const ExifFileInfo &file);
 };
 
 // One file's dirty question.
 bool isExifFileModified(const ExifFileInfo &file);
 
 // Whether a current value (newValue) means the same as an original one (oldValue) for a field of
-// the given representation. A null text is an absent value; a present value never equals an
-// absent one.
+// the given representation: the one rule behind the list's mark, the rows' labels, the review,
+// what a save writes and the check after it. A null text is an absent value; a present value
+// never equals an absent one. Numbers and coordinates compare as numbers (a coordinate within a
+// ten-millionth of a degree), dates with their zones, lists as sets.
 bool valuesEqualForRepresentation(const QString &newValue, const QString &oldValue,
                                   FieldDataRepresentation representation);
+// Whether a row's value is an edit: two absent values are not.
+bool isValueModified(const QString &current, const QString &original,
+                     FieldDataRepresentation representation);
+// A number as shown in the user's locale or written plainly; nullopt for anything else.
+std::optional<double> numberOfText(const QString &text);

@@ -186,17 +186,14 @@ bool dateValuesEqual(const QString &newValue, const QString &oldValue, DateEdito
 {
     const auto newDate = newValue.isNull() ? std::nullopt : parseDateValueOfType(newValue, type);
     const auto oldDate = oldValue.isNull() ? std::nullopt : parseDateValueOfType(oldValue, type);
-    // Two zones that differ name another instant; a value without one names no zone to compare.
+    // The zone is part of the value: adding, removing or changing one is an edit.
     if (newDate && oldDate) {
         // "+0200" and "+02:00" are one zone.
         auto zoneOf = [](const QString &value) {
             const QString zone = dateZoneSuffix(value);
             return shiftZoneText(zone, DateComponents{}).value_or(zone);
         };
-        const QString newZone = zoneOf(newValue);
-        const QString oldZone = zoneOf(oldValue);
-        return newDate->hasSameUnits(*oldDate) &&
-               (newZone.isEmpty() || oldZone.isEmpty() || newZone == oldZone);
+        return newDate->hasSameUnits(*oldDate) && zoneOf(newValue) == zoneOf(oldValue);
     }
     if (newDate || oldDate)
         return false;

@@ -151,15 +151,14 @@ private Q_SLOTS:
     void valuesThatDidNotReadBackAreNamed()
     {
         const ExifFileInfoPtr file = load(u"verify/a.jpg"_qs, u"kept"_qs);
-        file->setExifValue(u"ExifIFD:ISO"_qs, u"12345"_qs);      // en_US "12,345" reads back as 12
+        file->setExifValue(u"ExifIFD:ISO"_qs, u"12345"_qs);
         file->setExifValue(u"ExifIFD:CreateDate"_qs, u"+1h"_qs); // shifts a date that is absent
         QStringList messages = save({file})->messages(file->fileName());
-        messages.sort();
-        QCOMPARE(
-            messages,
-            QStringList({u"2 Date Digitized (ExifIFD:CreateDate) did not read back as written."_qs,
-                         u"2 ISO Speed (ExifIFD:ISO) did not read back as written."_qs}));
-        QCOMPARE(readWithExifTool(file->fileName())[u"IFD0:Artist"_qs].toString(), u"kept"_qs);
+        QCOMPARE(messages, QStringList{u"2 Date Digitized (ExifIFD:CreateDate) did not read back "
+                                       "as written."_qs});
+        const QJsonObject tags = readWithExifTool(file->fileName());
+        QCOMPARE(tags[u"IFD0:Artist"_qs].toString(), u"kept"_qs);
+        QCOMPARE(tags[u"ExifIFD:ISO"_qs].toInt(), 12345);
     }
 
     // ExifTool adds and drops tags on its own: a first position brings GPS:GPSVersionID, and the

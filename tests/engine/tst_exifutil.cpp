@@ -22,7 +22,7 @@ class TestExifUtil : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        // A zone with daylight saving, so that a repair through the calendar would move times.
+        // A zone with daylight saving, so that dates compared through the calendar would move.
         qputenv("TZ", "Europe/Berlin");
         tzset();
         ExifFieldsController::defaultInstance()->initializeConfigurations();
@@ -38,7 +38,17 @@ private Q_SLOTS:
         auto row = [](const char *name, R r, const QString &n, const QString &o, bool equal) {
             QTest::newRow(name) << r << n << o << equal;
         };
-        row("number compares text", R::Number, u"100.0"_qs, u"100"_qs, false);
+        row("number by value", R::Number, u"100.0"_qs, u"100"_qs, true);
+        row("number change", R::Number, u"100.5"_qs, u"100"_qs, false);
+        row("coordinate in another decimal form", R::Latitude, u"33.868800"_qs, u"33.8688"_qs,
+            true);
+        row("coordinate moved a metre", R::Longitude, u"151.20931"_qs, u"151.2093"_qs, false);
+        row("zone added", R::DateTime, u"2013:05:01 10:00:00+02:00"_qs, u"2013:05:01 10:00:00"_qs,
+            false);
+        row("zone changed", R::DateTime, u"2013:05:01 10:00:00+01:00"_qs,
+            u"2013:05:01 10:00:00+02:00"_qs, false);
+        row("zone spelt two ways", R::DateTime, u"2013:05:01 10:00:00+0200"_qs,
+            u"2013:05:01 10:00:00+02:00"_qs, true);
         row("both absent never equal", R::None, absent, absent, false);
         row("empty is not absent", R::Enum, u""_qs, absent, false);
         row("date padding", R::Date, u"2012:01:05"_qs, u"2012:1:5"_qs, true);
@@ -82,7 +92,9 @@ private Q_SLOTS:
         row("keyword comma unescaped", keywords, u"Łódź,Smith, John"_qs, true,
             {{keywords, u"Łódź,Smith, John"_qs}}, false);
         row("artist removed", artist, QString(), true, {}, true);
-        row("artist blanked", artist, u"   "_qs, true, {{artist, u"   "_qs}}, true);
+        row("artist blanked", artist, u"   "_qs, true, {{artist, u"   "_qs}}, false);
+        row("untouched blank description", u"IFD0:ImageDescription"_qs, u"   "_qs, false, {},
+            false);
         row("date shift", taken, u"+1d2h"_qs, true, {{taken, u"+1d2h"_qs}}, false);
         row("edited date not repaired", taken, u"2013:2:6 9:03:07"_qs, true,
             {{taken, u"2013:2:6 9:03:07"_qs}}, false);
@@ -96,6 +108,7 @@ private Q_SLOTS:
         QFETCH(TagDictionary, assignments);
         QFETCH(bool, removed);
         const TagDictionary base{{u"IFD0:Artist"_qs, u"Jane"_qs},
+                                 {u"IFD0:ImageDescription"_qs, u"   "_qs},
                                  {u"IPTC:Keywords"_qs, u"Łódź,Smith\\, John"_qs},
                                  {u"ExifIFD:DateTimeOriginal"_qs, u"2012:1:5 9:03:07"_qs}};
         ExifFileInfo file(u"/a.jpg"_qs);
@@ -104,32 +117,9 @@ private Q_SLOTS:
 
         QCOMPARE(isExifFileModified(file), modified);
         QCOMPARE(ExifUtil::changedFieldsArray(file), modified ? QStringList{key} : QStringList{});
-        // The malformed date that the user did not edit is repaired by every save.
-        if (key != u"ExifIFD:DateTimeOriginal")
-            assignments.insert(u"ExifIFD:DateTimeOriginal"_qs, u"2012:01:05 09:03:07"_qs);
+        // The malformed date that the user did not edit is left as it is.
         QCOMPARE(ExifUtil::changedFieldsDictionary(file), assignments);
         QCOMPARE(ExifUtil::removedFieldsSet(file), removed ? QSet<QString>{key} : QSet<QString>{});
-    }
-
-    void dateRepair_data()
-    {
-        QTest::addColumn<QString>("value");
-        QTest::addColumn<QString>("repaired");
-        QTest::newRow("zone") << u"2012:1:5 9:03:07+02:00"_qs << QString();
-        QTest::newRow("skipped wall time kept")
-            << u"2013:3:31 2:30:00"_qs << u"2013:03:31 02:30:00"_qs;
-        QTest::newRow("past month end") << u"2013:2:29 2:30:00"_qs << u"2013:03:01 02:30:00"_qs;
-        QTest::newRow("date-only field") << u"2012:1:5"_qs << u"2012:01:05 00:00:00"_qs;
-    }
-
-    void dateRepair()
-    {
-        QFETCH(QString, value);
-        const bool dateOnly = value.size() < 10;
-        const QString key = dateOnly ? u"IPTC:DateCreated"_qs : u"IFD0:ModifyDate"_qs;
-        ExifFileInfo file(u"/a.jpg"_qs);
-        file.setReadData({{key, value}});
-        QTEST(ExifUtil::changedFieldsDictionary(file).value(key), "repaired");
     }
 
     // The save operation asks for changes on its thread while an editor may write on the main one.
