@@ -24,7 +24,7 @@ ROOT = os.path.dirname(HERE)
 REPRESENTATIONS = {"number", "date", "datetime", "enum", "multi-enum", "fraction",
                    "longitude", "latitude", "strings", "none"}
 DATATYPES = {"string", "int8", "uint8", "int16", "uint16", "int32", "uint32", "float",
-             "double", "udouble", "binary", "enum", "rdf-bag"}
+             "double", "udouble", "binary", "enum", "rdf-bag", "lang-alt"}
 
 INTEGER_TYPES = {"int8u": "uint8", "int8s": "int8", "int16u": "uint16", "int16s": "int16",
                  "int32u": "uint32", "int32s": "int32", "integer": "int32"}
@@ -154,6 +154,8 @@ def describe_field(record, key, options, maker):
         datatype = "binary"
     elif kind == "date":
         representation = "datetime"
+    elif kind == "lang-alt":
+        datatype = "lang-alt"
     if kind == "boolean":
         values = [("True", "True"), ("False", "False")]
     if values and "noenum" not in options:

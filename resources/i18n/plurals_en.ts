@@ -54,4 +54,31 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>TextEditor</name>
+    <message numerus="yes">
+        <source>%n other language(s)</source>
+        <translation>
+            <numerusform>%n other language</numerusform>
+            <numerusform>%n other languages</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>GeotagDialog</name>
+    <message numerus="yes">
+        <source>%n photo(s) recorded the camera's time zone (OffsetTimeOriginal); it is used for them.</source>
+        <translation>
+            <numerusform>%n photo recorded the camera's time zone (OffsetTimeOriginal); it is used for it.</numerusform>
+            <numerusform>%n photos recorded the camera's time zone (OffsetTimeOriginal); it is used for them.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n photo(s) carry no time zone: they are matched in the zone chosen here.</source>
+        <translation>
+            <numerusform>%n photo carries no time zone: it is matched in the zone chosen here.</numerusform>
+            <numerusform>%n photos carry no time zone: they are matched in the zone chosen here.</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

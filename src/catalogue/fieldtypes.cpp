@@ -7,7 +7,7 @@
 
 FieldDataType fieldDataTypeFromString(const QString &text)
 {
-    static const std::array<std::pair<QLatin1StringView, FieldDataType>, 13> keywords{{
+    static const std::array<std::pair<QLatin1StringView, FieldDataType>, 14> keywords{{
         {QLatin1StringView("string"), FieldDataType::String},
         {QLatin1StringView("int8"), FieldDataType::Int8},
         {QLatin1StringView("uint8"), FieldDataType::UInt8},
@@ -21,6 +21,7 @@ FieldDataType fieldDataTypeFromString(const QString &text)
         {QLatin1StringView("binary"), FieldDataType::Binary},
         {QLatin1StringView("enum"), FieldDataType::Enum},
         {QLatin1StringView("rdf-bag"), FieldDataType::RdfBag},
+        {QLatin1StringView("lang-alt"), FieldDataType::LangAlt},
     }};
     for (const auto &[keyword, type] : keywords) {
         if (text == keyword)

@@ -19,6 +19,8 @@ enum class FieldDataType : qint32 {
     Binary = 11,
     Enum = 12,
     RdfBag = 13,
+    // An XMP text with a value per language; the plain tag is its default language.
+    LangAlt = 14,
 };
 
 enum class FieldDataRepresentation : qint32 {

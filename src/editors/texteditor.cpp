@@ -63,6 +63,11 @@ QLineEdit *TextEditor::editor() const
     return m_editor;
 }
 
+QLabel *TextEditor::otherLanguagesLabel() const
+{
+    return m_otherLanguages;
+}
+
 AttachedWindow *TextEditor::errorMessageWindow() const
 {
     return m_errorMessageWindow;
@@ -99,6 +104,16 @@ int TextEditor::createEditorContent(QWidget *parent, QRect frame)
         connect(&ExifFilesUpdateCenter::instance(), &ExifFilesUpdateCenter::exifFilesUpdated, this,
                 &TextEditor::receiveFilesUpdateNotification);
     }
+    if (field()->dataType() == FieldDataType::LangAlt) {
+        m_otherLanguages = new QLabel(m_editor);
+        m_otherLanguages->setFont(ApertureTheme::labelFont());
+        m_otherLanguages->setEnabled(false);
+        auto *layout = new QHBoxLayout(m_editor);
+        layout->setContentsMargins(0, 0, 6, 0);
+        layout->addStretch();
+        layout->addWidget(m_otherLanguages);
+        m_otherLanguages->hide();
+    }
     setContentControl(m_editor);
     m_editor->show();
     stretchWithRow(m_editor);
@@ -121,6 +136,7 @@ void TextEditor::clearEditor()
         m_editor->setPlaceholderText(QString());
         m_editor->setReadOnly(true);
     }
+    showOtherLanguages({});
     showErrorPopup(QString());
     updateModifiedLabel();
 }
@@ -167,7 +183,34 @@ void TextEditor::setExifFiles(const QList<ExifFileInfoPtr> &files)
         m_editor->clear();
         m_editor->setPlaceholderText(multipleValuesText());
     }
+    showOtherLanguages(files);
     updateModifiedLabel();
+}
+
+void TextEditor::showOtherLanguages(const QList<ExifFileInfoPtr> &files)
+{
+    if (!m_otherLanguages)
+        return;
+    const QString prefix = field()->xmlName() + u'-';
+    QStringList languages;
+    for (const ExifFileInfoPtr &file : files) {
+        for (const QString &key : file->languageKeys()) {
+            if (key.startsWith(prefix) && !languages.contains(key.mid(prefix.size())))
+                languages.append(key.mid(prefix.size()));
+        }
+    }
+    if (languages.isEmpty()) {
+        m_otherLanguages->hide();
+        m_editor->setTextMargins(0, 0, 0, 0);
+        return;
+    }
+    languages.sort();
+    m_otherLanguages->setText(tr("%n other language(s)", nullptr, int(languages.size())));
+    m_otherLanguages->setToolTip(
+        tr("Also held in: %1. Editing changes the default language only; the others are kept.")
+            .arg(languages.join(QStringLiteral(", "))));
+    m_otherLanguages->show();
+    m_editor->setTextMargins(0, 0, m_otherLanguages->sizeHint().width() + 8, 0);
 }
 
 QString TextEditor::formatLocation(double degrees) const

@@ -40,6 +40,10 @@ public:
     void focusControl() override;
     void commitPendingInput() override;
 
+    // For a language alternative: "N other languages" inside the row when the files hold the
+    // value in other languages too, which an edit of the default one keeps; otherwise null.
+    QLabel *otherLanguagesLabel() const;
+
     // A stored coordinate as the user's GPS_FORMAT setting shows it.
     QString formatLocation(double degrees) const;
     // false (and the popup) when the text is not a coordinate; nothing is written then.
@@ -51,11 +55,13 @@ private:
     void controlTextDidChange();
     void controlTextDidEndEditing();
     void displayValue(const QString &value);
+    void showOtherLanguages(const QList<ExifFileInfoPtr> &files);
     QString currentText() const;
     bool isCoordinate() const;
     QString referenceKey() const;
 
     QPointer<QLineEdit> m_editor;
+    QPointer<QLabel> m_otherLanguages;
     bool m_textChanged = false;
     QPointer<AttachedWindow> m_errorMessageWindow;
     QPointer<QLabel> m_errorMessageLabel;

@@ -3,6 +3,25 @@
 #include <QFileInfo>
 #include <QMutexLocker>
 
+namespace {
+
+// ExifTool's tag names have no dash: one after the group's colon starts a language code.
+QStringList languageKeysOf(const TagDictionary &data)
+{
+    QStringList keys;
+    for (auto it = data.cbegin(); it != data.cend(); ++it) {
+        const QString &key = it.key();
+        if (!key.startsWith(u"XMP-"))
+            continue;
+        const qsizetype colon = key.indexOf(u':');
+        if (colon > 0 && key.indexOf(u'-', colon) > 0)
+            keys.append(key);
+    }
+    return keys;
+}
+
+} // namespace
+
 ExifFileInfo::ExifFileInfo(QString fileName)
     : m_fileName(std::move(fileName))
 {
@@ -52,15 +71,25 @@ TagDictionary ExifFileInfo::originalExifData() const
 
 void ExifFileInfo::setOriginalExifData(TagDictionary data)
 {
+    QStringList languages = languageKeysOf(data);
     QMutexLocker locker(&m_mutex);
     m_originalExifData = std::move(data);
+    m_languageKeys = std::move(languages);
+}
+
+QStringList ExifFileInfo::languageKeys() const
+{
+    QMutexLocker locker(&m_mutex);
+    return m_languageKeys;
 }
 
 void ExifFileInfo::setReadData(const TagDictionary &data)
 {
+    QStringList languages = languageKeysOf(data);
     QMutexLocker locker(&m_mutex);
     m_exifData = data;
     m_originalExifData = data;
+    m_languageKeys = std::move(languages);
     m_valid = true;
 }
 

@@ -5,6 +5,7 @@
 
 #include <QMutex>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 #include <optional>
@@ -30,6 +31,10 @@ public:
     // What the file held when last read; only ever replaced as a whole.
     TagDictionary originalExifData() const;
     void setOriginalExifData(TagDictionary data);
+
+    // The original's keys of values in a named language beside a language alternative's
+    // default one ("XMP-dc:Title-de"); kept apart so a form need not walk every tag for them.
+    QStringList languageKeys() const;
 
     // Sets both dictionaries and the valid flag in one step, as a read does.
     void setReadData(const TagDictionary &data);
@@ -58,6 +63,7 @@ private:
     mutable QMutex m_mutex;
     TagDictionary m_exifData;
     TagDictionary m_originalExifData;
+    QStringList m_languageKeys;
     bool m_valid = false;
     QString m_sidecarPath;
     std::optional<FileIdentity> m_identity;

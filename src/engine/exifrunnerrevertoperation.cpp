@@ -46,7 +46,7 @@ QStringList ExifRunnerRevertOperation::exifToolArguments(const QString &importPa
     if (!m_entry.previous.isEmpty())
         arguments.append(QStringLiteral("-j=") + importPath);
     for (const QString &key : m_entry.absent)
-        arguments.append(u'-' + key + u'=');
+        arguments.append(u'-' + ExifRunnerSaveOperation::writtenForm(key) + u'=');
     return arguments + ExifRunnerSaveOperation::otherExifFileArguments();
 }
 

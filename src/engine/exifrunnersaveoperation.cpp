@@ -262,7 +262,7 @@ QStringList ExifRunnerSaveOperation::gatherExifToolArgumentsToChange(const TagDi
             for (const QString &item : splitStringsItems(value))
                 arguments.append(u'-' + key + u'=' + item);
         } else {
-            arguments.append(u'-' + key + u'=' + value);
+            arguments.append(u'-' + writtenForm(key) + u'=' + value);
         }
     }
     return arguments;
@@ -272,8 +272,18 @@ QStringList ExifRunnerSaveOperation::gatherExifToolArgumentsToRemove(const QSet<
 {
     QStringList arguments;
     for (const QString &key : keys)
-        arguments.append(u'-' + key + u'=');
+        arguments.append(u'-' + writtenForm(key) + u'=');
     return arguments;
+}
+
+QString ExifRunnerSaveOperation::writtenForm(const QString &key)
+{
+    // ExifTool takes a language alternative named without a language for all of its languages
+    // and drops the others; the row edits the default one only.
+    const ExifFieldPtr field = ExifFieldsController::defaultInstance()->field(key);
+    if (field && field->dataType() == FieldDataType::LangAlt)
+        return key + QStringLiteral("-x-default");
+    return key;
 }
 
 QStringList ExifRunnerSaveOperation::otherExifFileArguments()

@@ -47,6 +47,8 @@ public:
     static std::optional<QString> identifyMaker(const TagDictionary &values);
     static QStringList gatherExifToolArgumentsToChange(const TagDictionary &converted);
     static QStringList gatherExifToolArgumentsToRemove(const QSet<QString> &keys);
+    // The name a key is written under: a language alternative's default language.
+    static QString writtenForm(const QString &key);
     // The fixed options, without "-o" and the paths, which the write step adds.
     static QStringList otherExifFileArguments();
 

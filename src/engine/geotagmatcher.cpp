@@ -106,7 +106,42 @@ GeotagMatch GeotagMatcher::matchCaptureTime(const QString &wallClock) const
 
 GeotagMatch GeotagMatcher::matchFile(const ExifFileInfo &file) const
 {
-    return matchCaptureTime(captureTime(file));
+    const QDateTime reading = parseWallClock(captureTime(file));
+    if (!reading.isValid())
+        return {};
+    CameraClock clock = m_options.clock;
+    clock.zone = zoneFor(file);
+    return matchInstant(clock.toUtc(reading));
+}
+
+QTimeZone GeotagMatcher::zoneFor(const ExifFileInfo &file) const
+{
+    if (m_options.usePhotoZones) {
+        if (const std::optional<QTimeZone> zone = recordedZone(file))
+            return *zone;
+    }
+    return m_options.clock.zone;
+}
+
+std::optional<QTimeZone> GeotagMatcher::recordedZone(const ExifFileInfo &file)
+{
+    static const QRegularExpression offset(QStringLiteral(R"(([+-])(\d{2}):(\d{2})\s*$)"));
+    const TagDictionary current = file.exifData();
+    const QString date = current.value(QStringLiteral("XMP-exif:DateTimeOriginal"));
+    // A pending shift ("+1:00") is no zone.
+    const QString candidates[] = {current.value(QStringLiteral("ExifIFD:OffsetTimeOriginal")),
+                                  current.value(QStringLiteral("ExifIFD:OffsetTime")),
+                                  parseWallClock(date).isValid() ? date : QString()};
+    for (const QString &text : candidates) {
+        const QRegularExpressionMatch match = offset.match(text);
+        if (!match.hasMatch())
+            continue;
+        const int seconds = (match.captured(2).toInt() * 60 + match.captured(3).toInt()) * 60;
+        const QTimeZone zone(match.captured(1) == u"-" ? -seconds : seconds);
+        if (zone.isValid())
+            return zone;
+    }
+    return std::nullopt;
 }
 
 QString GeotagMatcher::captureTime(const ExifFileInfo &file)

@@ -36,6 +36,8 @@ struct GeotagOptions
     bool interpolate = true;
     // Photos between two points further apart than this stay untagged.
     qint64 maxGapSeconds = 30 * 60;
+    // A photo that records its own zone (recordedZone) is read in that zone, not the clock's.
+    bool usePhotoZones = true;
 };
 
 enum class GeotagStatus {
@@ -80,6 +82,11 @@ public:
     // The file's capture time as wall-clock text: DateTimeOriginal, else CreateDate, from the
     // current values, with a pending shift resolved against the original value. Empty if none.
     static QString captureTime(const ExifFileInfo &file);
+    // The zone the camera recorded with the photo: OffsetTimeOriginal, else OffsetTime, else
+    // the zone of the XMP capture date; nullopt when it carries none.
+    static std::optional<QTimeZone> recordedZone(const ExifFileInfo &file);
+    // The zone a file's capture time is read in under these options.
+    QTimeZone zoneFor(const ExifFileInfo &file) const;
     // "2024:05:01 10:00:00" without a zone; invalid when the text is not a date-time.
     static QDateTime parseWallClock(const QString &text);
 

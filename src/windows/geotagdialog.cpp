@@ -14,6 +14,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
@@ -67,6 +68,8 @@ GeotagDialog::GeotagDialog(const QList<ExifFileInfoPtr> &files, QWidget *parent)
     m_zoneCombo = new QComboBox(clockBox);
     m_zoneCombo->setEditable(true);
     m_zoneCombo->setInsertPolicy(QComboBox::NoInsert);
+    // The computer's zone is offered first but never taken unasked: photos from a trip were
+    // often taken in another one.
     const QByteArray systemZone = QTimeZone::systemTimeZoneId();
     m_zoneCombo->addItem(QString::fromLatin1(systemZone));
     m_zoneCombo->addItem(QStringLiteral("UTC"));
@@ -74,8 +77,27 @@ GeotagDialog::GeotagDialog(const QList<ExifFileInfoPtr> &files, QWidget *parent)
         if (id != systemZone && id != "UTC")
             m_zoneCombo->addItem(QString::fromLatin1(id));
     }
+    m_zoneCombo->setCurrentIndex(-1);
+    m_zoneCombo->lineEdit()->setPlaceholderText(text("Choose the zone the camera's clock was set to"));
     m_zoneCombo->completer()->setFilterMode(Qt::MatchContains);
     m_zoneCombo->completer()->setCompletionMode(QCompleter::PopupCompletion);
+    for (const ExifFileInfoPtr &file : std::as_const(m_files))
+        m_filesWithoutZone += GeotagMatcher::recordedZone(*file) ? 0 : 1;
+    m_zoneNote = new QLabel(clockBox);
+    m_zoneNote->setWordWrap(true);
+    const int withZone = int(m_files.size()) - m_filesWithoutZone;
+    QStringList note;
+    if (withZone > 0) {
+        note << tr("%n photo(s) recorded the camera's time zone (OffsetTimeOriginal); it is used "
+                   "for them.",
+                   nullptr, withZone);
+    }
+    if (m_filesWithoutZone > 0) {
+        note << tr("%n photo(s) carry no time zone: they are matched in the zone chosen here.",
+                   nullptr, m_filesWithoutZone);
+    }
+    m_zoneNote->setText(note.join(u' '));
+    m_zoneCombo->setEnabled(m_filesWithoutZone > 0);
 
     m_rightButton = new QRadioButton(text("The camera's clock was right"), clockBox);
     m_rightButton->setChecked(true);
@@ -107,6 +129,7 @@ GeotagDialog::GeotagDialog(const QList<ExifFileInfoPtr> &files, QWidget *parent)
 
     auto *clockLayout = new QFormLayout(clockBox);
     clockLayout->addRow(text("Time zone of the clock:"), m_zoneCombo);
+    clockLayout->addRow(m_zoneNote);
     clockLayout->addRow(m_rightButton);
     clockLayout->addRow(lateRow);
     clockLayout->addRow(referenceRow);
@@ -134,12 +157,18 @@ GeotagDialog::GeotagDialog(const QList<ExifFileInfoPtr> &files, QWidget *parent)
 
     auto *buttons = new QDialogButtonBox(this);
     m_previewButton = buttons->addButton(text("Preview on Map"), QDialogButtonBox::ActionRole);
-    m_applyButton = buttons->addButton(text("Apply"), QDialogButtonBox::AcceptRole);
+    m_applyButton = buttons->addButton(text("Apply"), QDialogButtonBox::ApplyRole);
     buttons->addButton(QDialogButtonBox::Cancel);
     connect(m_previewButton, &QPushButton::clicked, this,
             [this] { Q_EMIT previewRequested(m_track.points, proposedPins()); });
     connect(m_applyButton, &QPushButton::clicked, this, &GeotagDialog::apply);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    // Return confirms a typed zone, never the whole dialog: no button is pressed by it (an
+    // accepting button would be made the default when the box is shown, hence Apply's role).
+    for (QPushButton *button : findChildren<QPushButton *>()) {
+        button->setAutoDefault(false);
+        button->setDefault(false);
+    }
 
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(logsBox);
@@ -199,8 +228,7 @@ void GeotagDialog::setGpxFiles(const QStringList &paths)
 GeotagOptions GeotagDialog::options() const
 {
     GeotagOptions options;
-    const QTimeZone zone(m_zoneCombo->currentText().trimmed().toLatin1());
-    options.clock.zone = zone.isValid() ? zone : QTimeZone::utc();
+    options.clock.zone = chosenZone().value_or(QTimeZone());
     if (m_lateButton->isChecked()) {
         const qint64 seconds = qint64(m_lateMinutes->value()) * 60;
         options.clock.correctionSeconds = m_lateDirection->currentIndex() == 0 ? seconds : -seconds;
@@ -306,17 +334,36 @@ void GeotagDialog::rematch()
     const GeotagMatcher matcher(m_track.points, options());
     m_matches.clear();
     m_results->clear();
+    const bool zoneChosen = chosenZone().has_value();
     int matched = 0;
     for (const ExifFileInfoPtr &file : std::as_const(m_files)) {
-        const GeotagMatch match = m_track.isEmpty() ? GeotagMatch{} : matcher.matchFile(*file);
+        const std::optional<QTimeZone> recorded = GeotagMatcher::recordedZone(*file);
+        const bool canMatch = !m_track.isEmpty() && (recorded || zoneChosen);
+        const GeotagMatch match = canMatch ? matcher.matchFile(*file) : GeotagMatch{};
         m_matches << FileMatch{file, match};
         matched += match.isMatched() ? 1 : 0;
         auto *item = new QTreeWidgetItem(m_results);
         item->setText(0, QFileInfo(file->fileName()).fileName());
-        item->setText(1, GeotagMatcher::captureTime(*file));
-        item->setText(2, m_track.isEmpty() ? QString() : describe(match));
+        const QString taken = GeotagMatcher::captureTime(*file);
+        item->setText(1, recorded || zoneChosen
+                             ? taken + u' ' + QString::fromUtf8(matcher.zoneFor(*file).id())
+                             : taken);
+        if (!m_track.isEmpty())
+            item->setText(2, canMatch ? describe(match) : text("not matched: choose a time zone"));
     }
-    m_summary->setText(text("%1 of %2 files matched.").arg(matched).arg(m_files.size()));
-    m_applyButton->setEnabled(matched > 0);
+    QString summary = text("%1 of %2 files matched.").arg(matched).arg(m_files.size());
+    if (m_filesWithoutZone > 0 && !zoneChosen)
+        summary += u' ' + text("Choose the time zone of the camera's clock.");
+    m_summary->setText(summary);
+    m_applyButton->setEnabled(matched > 0 && (m_filesWithoutZone == 0 || zoneChosen));
     m_previewButton->setEnabled(!m_track.isEmpty());
+}
+
+std::optional<QTimeZone> GeotagDialog::chosenZone() const
+{
+    const QString name = m_zoneCombo->currentText().trimmed();
+    if (name.isEmpty())
+        return std::nullopt;
+    const QTimeZone zone(name.toLatin1());
+    return zone.isValid() ? std::optional(zone) : std::nullopt;
 }

@@ -9,6 +9,9 @@
 #include <QDialog>
 #include <QList>
 #include <QStringList>
+#include <QTimeZone>
+
+#include <optional>
 
 class QCheckBox;
 class QComboBox;
@@ -42,6 +45,8 @@ public:
     static QString describe(const GeotagMatch &match);
 
     QComboBox *zoneCombo() const { return m_zoneCombo; }
+    QLabel *zoneNote() const { return m_zoneNote; }
+    QLabel *summaryLabel() const { return m_summary; }
     QRadioButton *lateButton() const { return m_lateButton; }
     QSpinBox *lateMinutes() const { return m_lateMinutes; }
     QComboBox *lateDirection() const { return m_lateDirection; }
@@ -67,6 +72,8 @@ private:
     void onRemoveGpxFiles();
     void handleReferencePhotoChanged();
     void rematch();
+    // The zone typed or picked in the box; nullopt while none is (or it is not a zone).
+    std::optional<QTimeZone> chosenZone() const;
 
     QList<ExifFileInfoPtr> m_files;
     QStringList m_gpxFiles;
@@ -76,6 +83,8 @@ private:
     QListWidget *m_gpxList = nullptr;
     QLabel *m_trackLabel = nullptr;
     QComboBox *m_zoneCombo = nullptr;
+    QLabel *m_zoneNote = nullptr;
+    int m_filesWithoutZone = 0;
     QRadioButton *m_rightButton = nullptr;
     QRadioButton *m_lateButton = nullptr;
     QSpinBox *m_lateMinutes = nullptr;

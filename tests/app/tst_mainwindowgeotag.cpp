@@ -13,6 +13,7 @@
 #include <QComboBox>
 #include <QDateTimeEdit>
 #include <QGuiApplication>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSpinBox>
@@ -95,6 +96,77 @@ private Q_SLOTS:
         }
         QCOMPARE(dialog.options().clock.zone.id(), QByteArray("Europe/Berlin"));
         QTEST(dialog.options().clock.correctionSeconds, "correction");
+    }
+
+    // The photos' own zone is used where they carry one; otherwise nothing is matched until the
+    // user names the camera's zone, and never in the computer's zone unasked. Track: 23:50 to
+    // 00:10 UTC; each photo taken at 02:00 on its clock.
+    void zoneFromThePhotos_data()
+    {
+        QTest::addColumn<QStringList>("zones"); // OffsetTimeOriginal of each photo, "" for none
+        QTest::addColumn<QString>("typed");     // typed into the zone box
+        QTest::addColumn<QStringList>("results");
+        QTest::addColumn<bool>("canApply");
+        const QString exact = u"48.150000, 5.400000, 650.0 m"_qs;
+        const QString before = u"not matched: before the track"_qs;
+        QTest::newRow("all carry a zone") << QStringList{u"+02:00"_qs, u"+03:00"_qs} << QString()
+                                          << QStringList{exact, before} << true;
+        QTest::newRow("one without, none chosen")
+            << QStringList{u"+02:00"_qs, QString()} << QString()
+            << QStringList{exact, u"not matched: choose a time zone"_qs} << false;
+        QTest::newRow("one without, zone chosen")
+            << QStringList{u"+02:00"_qs, QString()} << u"Europe/Paris"_qs
+            << QStringList{exact, exact} << true;
+        QTest::newRow("not a zone") << QStringList{QString()} << u"Mars/Olympus"_qs
+                                    << QStringList{u"not matched: choose a time zone"_qs} << false;
+    }
+    void zoneFromThePhotos()
+    {
+        QFETCH(QStringList, zones);
+        QFETCH(QString, typed);
+        const QString gpx = m_dir.filePath(u"zones.gpx"_qs);
+        QVERIFY(Fixtures::writeBytes(gpx, Track));
+        QList<ExifFileInfoPtr> files;
+        for (const QString &zone : std::as_const(zones)) {
+            auto file = std::make_shared<ExifFileInfo>(u"/p/%1.jpg"_qs.arg(files.size()));
+            TagDictionary values{{u"ExifIFD:DateTimeOriginal"_qs, u"2024:05:02 02:00:00"_qs}};
+            if (!zone.isEmpty())
+                values.insert(u"ExifIFD:OffsetTimeOriginal"_qs, zone);
+            file->setReadData(values);
+            files << file;
+        }
+        GeotagDialog dialog(files);
+        dialog.setGpxFiles({gpx});
+        if (!typed.isEmpty())
+            dialog.zoneCombo()->setCurrentText(typed);
+        QStringList results;
+        for (int row = 0; row < dialog.resultsList()->topLevelItemCount(); ++row)
+            results << dialog.resultsList()->topLevelItem(row)->text(2);
+        QTEST(results, "results");
+        QTEST(dialog.applyButton()->isEnabled(), "canApply");
+        QCOMPARE(dialog.zoneCombo()->isEnabled(), zones.contains(QString()));
+    }
+
+    // Return in the zone box picks the zone; it does not apply the dialog.
+    void returnInZoneBoxDoesNotApply()
+    {
+        const QString gpx = m_dir.filePath(u"return.gpx"_qs);
+        QVERIFY(Fixtures::writeBytes(gpx, Track));
+        auto file = std::make_shared<ExifFileInfo>(u"/p/r.jpg"_qs);
+        file->setReadData({{u"ExifIFD:DateTimeOriginal"_qs, u"2024:05:02 02:00:00"_qs}});
+        GeotagDialog dialog({file});
+        dialog.setGpxFiles({gpx});
+        QSignalSpy applied(&dialog, &GeotagDialog::applied);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        dialog.zoneCombo()->setFocus();
+        dialog.zoneCombo()->setCurrentText(u"Europe/Paris"_qs);
+        QVERIFY(dialog.applyButton()->isEnabled());
+        QTest::keyClick(dialog.zoneCombo()->lineEdit(), Qt::Key_Return);
+        QTest::keyClick(dialog.zoneCombo(), Qt::Key_Enter);
+        QVERIFY(dialog.isVisible());
+        QCOMPARE(applied.count(), 0);
+        QVERIFY(!file->hasExifValue(u"GPS:GPSLatitude"_qs));
     }
 
     // From the menu command to the bytes on disk, with ExifTool's own geotagging as reference.

@@ -6,6 +6,7 @@
 #include "values/usersettings.h"
 
 #include <QCheckBox>
+#include <QLabel>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -184,6 +185,43 @@ private Q_SLOTS:
         row.editor.editor()->setText(typed);
         row.editor.removeButton()->setChecked(typed != u"<off>");
         QTEST(presetEntry(row.editor, preset, key), "entry");
+    }
+
+    // The row says how many other languages the selected files hold (none: no mark), and an
+    // edit of it changes the default language's value only.
+    void otherLanguagesShown_data()
+    {
+        QTest::addColumn<QStringList>("languagesPerFile"); // "de,fr" per file
+        QTest::addColumn<QString>("shown");                // "" when hidden
+        QTest::newRow("none") << QStringList{u""_qs, u""_qs} << QString();
+        QTest::newRow("one file with two")
+            << QStringList{u"de,fr"_qs, u""_qs} << u"2 other languages"_qs;
+        QTest::newRow("same language in both") << QStringList{u"de"_qs, u"de"_qs}
+                                               << u"1 other language"_qs;
+    }
+    void otherLanguagesShown()
+    {
+        QFETCH(QStringList, languagesPerFile);
+        const QString key = u"XMP-dc:Description"_qs;
+        Row<TextEditor> row(makeField(key, FieldDataRepresentation::None, std::nullopt,
+                                      FieldDataType::LangAlt));
+        QList<ExifFileInfoPtr> files;
+        for (const QString &languages : std::as_const(languagesPerFile)) {
+            TagDictionary data{{key, u"English"_qs}};
+            for (const QString &language : languages.split(u',', Qt::SkipEmptyParts))
+                data.insert(key + u'-' + language, language);
+            files << std::make_shared<ExifFileInfo>(u"/p/%1.jpg"_qs.arg(files.size()));
+            files.last()->setReadData(data);
+        }
+        row.editor.setExifFiles(files);
+        QLabel *label = row.editor.otherLanguagesLabel();
+        QVERIFY(label);
+        QFETCH(QString, shown);
+        QCOMPARE(label->isVisibleTo(row.editor.editor()) ? label->text() : QString(), shown);
+        typeAndCommit(row.editor.editor(), u"New"_qs);
+        QCOMPARE(currentValues(files, key), QStringList(files.size(), u"New"_qs));
+        if (!shown.isEmpty())
+            QCOMPARE(files.first()->exifValue(key + u"-de"_qs), u"de"_qs);
     }
 
 private:

@@ -192,6 +192,36 @@ private Q_SLOTS:
         file.removeExifValue(u"ExifIFD:DateTimeOriginal"_qs);
         QCOMPARE(GeotagMatcher::captureTime(file), u"2024:05:01 08:00:00"_qs);
     }
+
+    // Values are "KEY=VALUE" joined by "|".
+    void recordedZone_data()
+    {
+        QTest::addColumn<QString>("values");
+        QTest::addColumn<int>("offsetSeconds"); // -1: none
+        QTest::newRow("original") << u"ExifIFD:OffsetTimeOriginal=-05:30|ExifIFD:OffsetTime=+01:00"_qs
+                                  << -(5 * 3600 + 1800);
+        QTest::newRow("modification's when no other") << u"ExifIFD:OffsetTime=+01:00"_qs << 3600;
+        QTest::newRow("XMP date's zone")
+            << u"XMP-exif:DateTimeOriginal=2024:05:01 10:00:00+09:00"_qs << 9 * 3600;
+        QTest::newRow("a pending shift is no zone") << u"XMP-exif:DateTimeOriginal=+01:00"_qs << -1;
+        QTest::newRow("none") << u"ExifIFD:DateTimeOriginal=2024:05:01 10:00:00"_qs << -1;
+    }
+    void recordedZone()
+    {
+        QFETCH(QString, values);
+        QFETCH(int, offsetSeconds);
+        ExifFileInfo file(u"/x/z.jpg"_qs);
+        TagDictionary read;
+        for (const QString &pair : values.split(u'|')) {
+            const qsizetype equals = pair.indexOf(u'=');
+            read.insert(pair.left(equals), pair.mid(equals + 1));
+        }
+        file.setReadData(read);
+        const std::optional<QTimeZone> zone = GeotagMatcher::recordedZone(file);
+        QCOMPARE(zone.has_value(), offsetSeconds != -1);
+        if (zone)
+            QCOMPARE(zone->offsetFromUtc(QDateTime::currentDateTimeUtc()), offsetSeconds);
+    }
 };
 
 QTEST_GUILESS_MAIN(TestGeotagMatcher)

@@ -63,7 +63,12 @@ private Q_SLOTS:
             << rich
             << u"IPTC:Keywords=a, b\\, c, d|XMP-dc:Subject=three|XMP-dc:Title=Bonjour|"
                u"ExifIFD:DateTimeOriginal=+1d2h"_qs;
-        QTest::newRow("removals") << rich << u"IFD0:Software|IPTC:Keywords|GPS:GPSLatitude"_qs;
+        QTest::newRow("removals")
+            << rich << u"IFD0:Software|IPTC:Keywords|GPS:GPSLatitude|XMP-dc:Title"_qs;
+        // The save adds a default language beside one the file had alone.
+        QTest::newRow("default language added")
+            << QStringList{u"-XMP-dc:Title-de=Hallo"_qs, u"-XMP-dc:Rights-fr=Droits"_qs}
+            << u"XMP-dc:Title=Hello|XMP-dc:Rights=Rights"_qs;
         // Writing creates whole blocks (EXIF, GPS, IPTC, XMP) with tags of ExifTool's own.
         QTest::newRow("into a bare file")
             << QStringList{}

@@ -190,6 +190,50 @@ private Q_SLOTS:
         QVERIFY(!isExifFileModified(*file));
     }
 
+    // Editing or removing a language alternative's default value keeps its other languages.
+    void otherLanguagesKept_data()
+    {
+        QTest::addColumn<QStringList>("fixture");
+        QTest::addColumn<QString>("value"); // empty: removed
+        QTest::addColumn<QStringList>("languages");
+        const QStringList three{u"-XMP-dc:Description=English"_qs,
+                                u"-XMP-dc:Description-de=Deutsch"_qs,
+                                u"-XMP-dc:Description-fr-CA=Français"_qs};
+        QTest::newRow("edited") << three << u"New words"_qs << QStringList{u"de"_qs, u"fr-CA"_qs};
+        QTest::newRow("removed") << three << QString() << QStringList{u"de"_qs, u"fr-CA"_qs};
+        QTest::newRow("added beside another")
+            << QStringList{u"-XMP-dc:Description-de=Deutsch"_qs} << u"First"_qs
+            << QStringList{u"de"_qs};
+    }
+
+    void otherLanguagesKept()
+    {
+        QFETCH(QStringList, fixture);
+        QFETCH(QString, value);
+        const QString key = u"XMP-dc:Description"_qs;
+        const QString path =
+            m_dir.filePath(u"lang-"_qs + QString::fromLatin1(QTest::currentDataTag()) + u".jpg");
+        QCOMPARE(Fixtures::makeImage(path, fixture), QString());
+        const ExifFileInfoPtr file = load(path);
+        QStringList languages;
+        for (const QString &languageKey : file->languageKeys())
+            languages.append(languageKey.mid(key.size() + 1));
+        languages.sort();
+        QTEST(languages, "languages");
+        if (value.isEmpty())
+            file->removeExifValue(key);
+        else
+            file->setExifValue(key, value);
+        const QStringList messages = save({file})->messages(path);
+        QVERIFY2(messages.isEmpty(), qPrintable(messages.join(u'\n')));
+        const QJsonObject tags = tagsOf(path);
+        QCOMPARE(tags[key].toString(), value);
+        QCOMPARE(tags[key + u"-de"_qs].toString(), u"Deutsch"_qs);
+        if (fixture.size() > 1)
+            QCOMPARE(tags[key + u"-fr-CA"_qs].toString(), u"Français"_qs);
+        QVERIFY(!isExifFileModified(*file));
+    }
+
 private:
     QTemporaryDir m_dir;
 };
