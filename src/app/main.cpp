@@ -1,11 +1,13 @@
 #include "app/commandline.h"
 #include "app/tagsmithappdelegate.h"
 #include "catalogue/stringtables.h"
+#include "engine/scratchjournal.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QIcon>
+#include <QThreadPool>
 
 #include <unistd.h>
 
@@ -17,6 +19,12 @@ void nameApplication()
     QCoreApplication::setOrganizationName(QStringLiteral("Tagsmith"));
     QCoreApplication::setApplicationName(QStringLiteral("Tagsmith"));
     QCoreApplication::setApplicationVersion(QStringLiteral(TAGSMITH_VERSION));
+}
+
+// What saves stopped by a crash or a kill left beside the photos goes, off the main thread.
+void removeScratchLeftovers()
+{
+    QThreadPool::globalInstance()->start([] { ScratchJournal::cleanUp(); });
 }
 
 // The arguments as the bytes given, which need not be UTF-8.
@@ -49,6 +57,7 @@ int main(int argc, char *argv[])
 
     QApplication app(argc, argv);
     nameApplication();
+    removeScratchLeftovers();
     QGuiApplication::setDesktopFileName(QStringLiteral("org.tagsmith.Tagsmith"));
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("org.tagsmith.Tagsmith")));
 

@@ -119,10 +119,15 @@ void ExifRunnerSaveOperation::run()
     WriteResult result;
     // An edit of XMP tags alone leaves a raw file with a sidecar untouched.
     if (writesFile()) {
-        // What the file held in these tags, so the save can be taken back.
-        std::optional<RevertEntry> revert = RevertRecord::captureBeforeSave(
-            exifToolSession(), fileName(), m_itemsToChange.keys() + m_itemsToRemove.values(),
-            *errors);
+        // What the file held in these tags, so the save can be taken back: as it was read when
+        // the file is untouched since, otherwise asked of ExifTool.
+        const QStringList keys = m_itemsToChange.keys() + m_itemsToRemove.values();
+        const std::optional<FileIdentity> read = efi()->identity();
+        std::optional<RevertEntry> revert;
+        if (read && FileIdentity::of(fileName()) == read)
+            revert = RevertRecord::fromEarlierRead(fileName(), keys, efi()->originalExifData());
+        if (!revert)
+            revert = RevertRecord::captureBeforeSave(exifToolSession(), fileName(), keys, *errors);
         result = writeFile(arguments, *errors);
         if (result.replaced)
             RevertRecord::storeAfterSave(fileName(), std::move(revert), efi()->originalExifData(),

@@ -1,6 +1,7 @@
 #include "engine/filereplacement.h"
 
 #include "engine/errormessages.h"
+#include "engine/scratchjournal.h"
 #include "values/logging.h"
 
 #include <QCoreApplication>
@@ -84,15 +85,16 @@ bool isProcessAlive(pid_t pid)
 
 // A leftover is named "<prefix><pid>-…", its process is gone, and nobody holds its lock (the
 // lock covers a recycled process id and a folder shared between machines).
-void removeLeftovers(const QString &folder, const QByteArray &prefix)
+FileReplacement::Leftovers removeLeftoversIn(const QString &folder, const QByteArray &prefix)
 {
+    FileReplacement::Leftovers found;
     const int folderFd = ::open(encoded(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (folderFd < 0)
-        return;
+        return found;
     DIR *dir = ::fdopendir(folderFd);
     if (!dir) {
         ::close(folderFd);
-        return;
+        return found;
     }
     std::vector<QByteArray> stale;
     while (const dirent *entry = ::readdir(dir)) {
@@ -102,21 +104,29 @@ void removeLeftovers(const QString &folder, const QByteArray &prefix)
         bool isNumber = false;
         const qsizetype dash = name.indexOf('-', prefix.size());
         const pid_t pid = name.mid(prefix.size(), dash - prefix.size()).toInt(&isNumber);
-        if (!isNumber || pid <= 0 || pid == ::getpid() || isProcessAlive(pid))
+        if (!isNumber || pid <= 0)
             continue;
+        if (pid == ::getpid() || isProcessAlive(pid)) {
+            ++found.inUse;
+            continue;
+        }
         const int fd = ::openat(::dirfd(dir), name.constData(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC);
         if (fd < 0)
             continue;
         if (::flock(fd, LOCK_EX | LOCK_NB) == 0)
             stale.push_back(name);
+        else
+            ++found.inUse;
         ::close(fd);
     }
     for (const QByteArray &name : stale) {
         qCInfo(lcTagsmith) << "Removing what a stopped save left behind:" << folder
                            << QString::fromLocal8Bit(name);
         removeTreeAt(::dirfd(dir), name.constData());
+        ++found.removed;
     }
     ::closedir(dir);
+    return found;
 }
 
 QString scratchTemplate(const QString &folder, const QString &prefix)
@@ -162,6 +172,11 @@ FileIdentity identityOf(const struct statx &st)
 
 } // namespace
 
+FileReplacement::Leftovers FileReplacement::removeLeftovers(const QString &folder)
+{
+    return removeLeftoversIn(folder, encoded(ScratchPrefix));
+}
+
 FileReplacement::FileReplacement(QString path)
     : m_path(std::move(path))
 {
@@ -201,7 +216,7 @@ bool FileReplacement::prepare()
     }
 
     const QString folder = QFileInfo(m_targetPath).absolutePath();
-    removeLeftovers(folder, encoded(ScratchPrefix));
+    ScratchJournal::enter(folder);
     if (!makeScratchDirectory(folder))
         return false;
     m_temporaryPath = m_scratchDirectory % QStringLiteral("/exiftool_%1_%2")
@@ -242,7 +257,7 @@ bool FileReplacement::makeOutputAlias()
         if (base.contains(u'%'))
             continue;
         const QString prefix = QStringLiteral("tagsmith-alias-");
-        removeLeftovers(base, encoded(prefix));
+        removeLeftoversIn(base, encoded(prefix));
         m_aliasDirectory = makeLockedDirectory(scratchTemplate(base, prefix), m_aliasLock, error);
         if (m_aliasDirectory.isEmpty())
             continue;

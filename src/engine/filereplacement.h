@@ -80,6 +80,14 @@ public:
     // Scratch folders and files start with this, followed by the owner's process id.
     static inline const QString ScratchPrefix = QStringLiteral(".tagsmith-");
 
+    struct Leftovers
+    {
+        int removed = 0; // scratch places of stopped runs, removed
+        int inUse = 0;   // those of runs still going
+    };
+    // Removes the scratch places stopped runs left in folder.
+    static Leftovers removeLeftovers(const QString &folder);
+
 private:
     bool makeScratchDirectory(const QString &folder);
     bool makeOutputAlias();

@@ -1,7 +1,10 @@
 #include "engine/revertrecord.h"
 
 #include "engine/errormessages.h"
+#include "catalogue/exiffieldscontroller.h"
 #include "engine/exiftoolsession.h"
+#include "values/numberformatter.h"
+#include "values/taglist.h"
 #include "values/usersettings.h"
 
 #include <QCoreApplication>
@@ -12,6 +15,7 @@
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QLocale>
 #include <QMutex>
 #include <QMutexLocker>
 #include <QRandomGenerator>
@@ -164,6 +168,58 @@ std::optional<RevertEntry> RevertRecord::capture(ExifToolSession &session, const
     for (auto it = values.constBegin(); it != values.constEnd(); ++it) {
         if (it.key() != QStringLiteral("SourceFile"))
             entry.previous.insert(it.key(), it.value());
+    }
+    return entry;
+}
+
+std::optional<RevertEntry> RevertRecord::fromEarlierRead(const QString &path,
+                                                         const QStringList &keys,
+                                                         const QHash<QString, QString> &read)
+{
+    if (!read.contains(QStringLiteral("File:FileType")))
+        return std::nullopt;
+    const ExifFieldsController *catalogue = ExifFieldsController::defaultInstance();
+    RevertEntry entry;
+    entry.path = path;
+    const auto keep = [&](const QString &key, const QString &value) {
+        if (value.startsWith(QStringLiteral("(Binary data ")))
+            return false;
+        const ExifFieldPtr field = catalogue->field(key);
+        const auto representation =
+            field ? field->dataRepresentation() : FieldDataRepresentation::None;
+        if (representation == FieldDataRepresentation::Number) {
+            // Shown in the user's locale, and a real number rounded to the field's decimals:
+            // only a whole number comes back exactly.
+            const FieldDataType type = field->dataType();
+            if (type == FieldDataType::Float || type == FieldDataType::Double ||
+                type == FieldDataType::UDouble)
+                return false;
+            const auto number = field->createFormatter()->numberFromString(value);
+            if (!number)
+                return false;
+            entry.previous.insert(
+                key, QLocale::c().toString(*number, 'f', QLocale::FloatingPointShortest));
+        } else if (representation == FieldDataRepresentation::Strings) {
+            entry.previous.insert(key, QJsonArray::fromStringList(splitStringsItems(value)));
+        } else {
+            entry.previous.insert(key, value);
+        }
+        return true;
+    };
+    for (const QString &key : keysWrittenWith(keys)) {
+        const auto value = read.constFind(key);
+        if (value == read.cend())
+            entry.absent.append(key);
+        else if (!keep(key, value.value()))
+            return std::nullopt;
+        // Every language of a language alternative: writing its default one may touch them.
+        if (!key.startsWith(u"XMP-"))
+            continue;
+        const QString languages = key + u'-';
+        for (auto it = read.cbegin(); it != read.cend(); ++it) {
+            if (it.key().startsWith(languages) && !keep(it.key(), it.value()))
+                return std::nullopt;
+        }
     }
     return entry;
 }

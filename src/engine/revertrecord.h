@@ -51,6 +51,12 @@ public:
     // and its own XMP toolkit name, so both are recorded too.
     static QStringList keysWrittenWith(const QStringList &keys);
 
+    // The entry taken from what the file held when it was read (ExifTool's "-X -n" form,
+    // numbers of the catalogue shown in the user's locale), which spares the save a read. Only
+    // for a file untouched since that read; nullopt when a value cannot be given back that way
+    // (binary data, a read that was not complete).
+    static std::optional<RevertEntry> fromEarlierRead(const QString &path, const QStringList &keys,
+                                                      const QHash<QString, QString> &read);
     // The save's two steps: before the write, the previous values of the keys it changes or
     // removes; after the new file replaced the old, the record, with the tags ExifTool added on
     // its own (in reRead but not in original) to be removed as well. A failure costs only the

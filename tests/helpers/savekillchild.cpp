@@ -6,10 +6,12 @@
 #include "engine/errormessages.h"
 #include "engine/exifbackgroundrunner.h"
 #include "engine/exifrunner.h"
+#include "engine/scratchjournal.h"
 #include "values/usersettings.h"
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 
 #include <cstdio>
 
@@ -44,6 +46,8 @@ int main(int argc, char **argv)
         return 2;
     const QDir folder(QString::fromLocal8Bit(argv[2]));
     UserSettings::setStoreFile(QString::fromLocal8Bit(argv[3]));
+    ScratchJournal::setPath(QFileInfo(QString::fromLocal8Bit(argv[3])).absolutePath() +
+                            QStringLiteral("/scratch-folders"));
     ExifFieldsController::defaultInstance()->initializeConfigurations();
     QList<ExifFileInfoPtr> files;
     for (const QString &name : folder.entryList({QStringLiteral("*.jpg")}, QDir::Files, QDir::Name))
