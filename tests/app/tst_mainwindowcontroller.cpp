@@ -465,6 +465,61 @@ private Q_SLOTS:
         window.finishProcessing({});
     }
 
+    // Files with unsaved edits leave the list only when the user says so; others go at once.
+    void removingEditedFilesAsksFirst_data()
+    {
+        QTest::addColumn<QStringList>("edited"); // of a.jpg, b.jpg, c.jpg; all three selected
+        QTest::addColumn<QString>("question");   // empty: no question
+        QTest::addColumn<QString>("answer");     // "Enter": the default button
+        QTest::addColumn<QStringList>("left");
+        const QStringList all{u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s}, none;
+        const QString one = u"Remove 1 file with unsaved changes from the list?"_s;
+        const QString two = u"Remove 2 files with unsaved changes from the list?"_s;
+        const QString three = u"Remove 3 files with unsaved changes from the list?"_s;
+        const QString remove = u"Remove from List"_s;
+        QTest::newRow("none edited") << none << QString() << QString() << none;
+        QTest::newRow("one edited, removed") << QStringList{u"b.jpg"_s} << one << remove << none;
+        QTest::newRow("two edited, cancelled")
+            << QStringList{u"a.jpg"_s, u"c.jpg"_s} << two << u"Cancel"_s << all;
+        QTest::newRow("Enter keeps them") << QStringList{u"a.jpg"_s} << one << u"Enter"_s << all;
+        // Text typed into a row for the three files counts as their edit.
+        QTest::newRow("typed, not confirmed")
+            << QStringList{u"typed"_s} << three << u"Cancel"_s << all;
+    }
+    void removingEditedFilesAsksFirst()
+    {
+        QFETCH(QStringList, edited);
+        QFETCH(QString, question);
+        QFETCH(QString, answer);
+        MainWindowController &window = controller();
+        QVERIFY(add({image(u"a.jpg"_s), image(u"b.jpg"_s), image(u"c.jpg"_s)}));
+        for (const ExifFileInfoPtr &file : window.files()) {
+            if (edited.contains(QFileInfo(file->fileName()).fileName()))
+                file->setExifValue(Artist, u"Bob"_s);
+        }
+        window.selectRows({0, 1, 2});
+        if (edited.contains(u"typed"_s)) {
+            QLineEdit *edit = textRow(window, Artist)->editor();
+            edit->setFocus();
+            edit->selectAll();
+            QTest::keyClicks(edit, u"Bob"_s);
+        }
+
+        window.menus()->action(MainWindowMenus::Command::RemoveFiles)->trigger();
+        QMessageBox *sheet = visibleBox(window.window());
+        QCOMPARE(sheet ? sheet->text() : QString(), question);
+        if (sheet) {
+            QCOMPARE(sheet->defaultButton()->text(), u"Cancel"_s);
+            if (answer == u"Enter") {
+                QTest::keyClick(sheet, Qt::Key_Return);
+                QTRY_VERIFY(!sheet->isVisible());
+            } else {
+                QVERIFY(clickButton(window.window(), answer));
+            }
+        }
+        QTEST(names(window.files()), "left");
+    }
+
     // Reload reads in the background like an add: the window keeps turning, the rows take the
     // files' new values and lose their edits, and a file ExifTool gets stuck on is reported.
     void reloadReadsInTheBackground()
