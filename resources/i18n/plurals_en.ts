@@ -43,6 +43,23 @@
             <numerusform>Remove all metadata from %n files?</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>Remove %n file(s) with unsaved changes from the list?</source>
+        <translation>
+            <numerusform>Remove %n file with unsaved changes from the list?</numerusform>
+            <numerusform>Remove %n files with unsaved changes from the list?</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MapWindowController</name>
+    <message numerus="yes">
+        <source>Remove the pin from %n file(s)?</source>
+        <translation>
+            <numerusform>Remove the pin from %n file?</numerusform>
+            <numerusform>Remove the pin from %n files?</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PasteMetadataDialog</name>

@@ -379,10 +379,49 @@ void MainWindowController::replaceReloadedFiles(const FileReadQueue::Batch &batc
 
 void MainWindowController::removeFilesClick()
 {
+    // Typed text still in a row is an edit of these files too.
+    m_configController->commitPendingInput();
+    const QList<ExifFileInfoPtr> selected = selectedFiles();
+    QStringList names;
+    int edited = 0;
+    for (const ExifFileInfoPtr &file : selected) {
+        names.append(file->fileName());
+        edited += isExifFileModified(*file) ? 1 : 0;
+    }
+    if (names.isEmpty())
+        return;
+    if (edited == 0) {
+        removeFilesFromList(names);
+        return;
+    }
+    QMessageBox *sheet =
+        makeSheet(QCoreApplication::translate(
+                      "MainWindowController",
+                      "Remove %n file(s) with unsaved changes from the list?", nullptr, edited),
+                  localized(QStringLiteral("Their changes have not been saved and will be lost.")));
+    QPushButton *remove =
+        sheet->addButton(localized(QStringLiteral("Remove from List")), QMessageBox::AcceptRole);
+    QPushButton *cancel = sheet->addButton(QMessageBox::Cancel);
+    // Enter must not throw edits away.
+    sheet->setDefaultButton(cancel);
+    sheet->setEscapeButton(cancel);
+    connect(sheet, &QMessageBox::finished, this, [this, sheet, remove, names] {
+        if (sheet->clickedButton() == remove)
+            removeFilesFromList(names);
+    });
+    sheet->open();
+}
+
+void MainWindowController::removeFilesFromList(const QStringList &names)
+{
+    // By name: rows may have moved while the question was open.
     QList<int> rows;
-    for (const QModelIndex &index : m_filesTable->selectionModel()->selectedRows()) {
-        rows.append(index.row());
-        m_imagesCache->removeImage(m_model->fileAt(index.row())->fileName());
+    for (const QString &name : names) {
+        const int row = m_model->rowOf(name);
+        if (row < 0)
+            continue;
+        rows.append(row);
+        m_imagesCache->removeImage(name);
     }
     // One selection change for the whole removal, not one per row.
     m_filesTable->selectionModel()->clearSelection();

@@ -152,6 +152,7 @@ private:
     void buildWindow();
     void connectCommands();
     void handleSelectionChanged();
+    void removeFilesFromList(const QStringList &names);
     void handleBatchRead(const FileReadQueue::Batch &batch);
     void replaceReloadedFiles(const FileReadQueue::Batch &batch);
     void handleReadingChanged(bool busy);

@@ -79,8 +79,15 @@ void MainWindowController::showConfigurations()
 
 void MainWindowController::showMap()
 {
-    if (!m_mapWindowController)
+    if (!m_mapWindowController) {
         m_mapWindowController = new MapWindowController(m_window.get());
+        // Only the coordinate rows follow the notifications; the altitude and GPS date and time
+        // rows are refreshed by showing the selection again.
+        connect(m_mapWindowController, &MapWindowController::pinsRemoved, this, [this] {
+            m_configController->commitPendingInput();
+            m_configController->setExifFiles(m_currentFiles);
+        });
+    }
     m_mapWindowController->showWindow();
     reloadMapFiles();
 }

@@ -14,6 +14,7 @@
 #include "catalogue/exiffieldscontroller.h"
 #include "catalogue/stringtables.h"
 #include "controls/aperturetheme.h"
+#include "controls/wheelguard.h"
 #include "values/logging.h"
 #include "values/tagsmithexception.h"
 
@@ -175,6 +176,8 @@ void ConfigurationViewController::createUserInterface()
     m_scrollArea->setPalette(palette);
     for (FieldEditor *editor : std::as_const(m_fields))
         editor->setTheme(m_theme);
+    // A wheel turned to scroll the form must not edit the drop-down that passes under it.
+    (new WheelGuard(this))->watch(m_view);
     m_view->setUpdatesEnabled(true);
 }
 

@@ -322,8 +322,13 @@ void TextEditor::controlTextDidChange()
 
 void TextEditor::controlTextDidEndEditing()
 {
-    if (m_textChanged && hasExifFiles())
+    // Return, the focus leaving for the Save button and the save's own commit each end the same
+    // edit: the first writes and announces it, the others find nothing typed since.
+    if (m_textChanged && hasExifFiles()) {
         copyToExifFiles(exifFiles());
+        // Text that is no coordinate was not written: the next end of editing tries again.
+        m_textChanged = m_gpsFailed;
+    }
     if (isCoordinate() && !m_gpsFailed) {
         const QString text = currentText();
         if (const auto location = parseCoordinate(text, field()->dataRepresentation());
@@ -337,11 +342,8 @@ void TextEditor::controlTextDidEndEditing()
 
 void TextEditor::commitPendingInput()
 {
-    if (!m_textChanged || !hasExifFiles())
-        return;
-    controlTextDidEndEditing();
-    // The focus leaving the field later must not write the same text a second time.
-    m_textChanged = false;
+    if (m_textChanged && hasExifFiles())
+        controlTextDidEndEditing();
 }
 
 void TextEditor::receiveFilesUpdateNotification(const ExifFilesUpdate &update)

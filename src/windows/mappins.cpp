@@ -21,6 +21,16 @@ const QStringList &gpsKeys()
 
 } // namespace
 
+const QStringList &MapPins::pinKeys()
+{
+    // An altitude or a GPS time left behind would describe a place the photo no longer has.
+    static const QStringList keys = gpsKeys() + QStringList{QStringLiteral("GPS:GPSAltitude"),
+                                                            QStringLiteral("GPS:GPSAltitudeRef"),
+                                                            QStringLiteral("GPS:GPSDateStamp"),
+                                                            QStringLiteral("GPS:GPSTimeStamp")};
+    return keys;
+}
+
 MapPins::MapPins(QObject *parent)
     : QObject(parent)
 {
@@ -140,17 +150,28 @@ void MapPins::addPin()
     notifyFilesChange(pinned);
 }
 
+QList<ExifFileInfoPtr> MapPins::filesWithPinValues() const
+{
+    QList<ExifFileInfoPtr> files;
+    for (const ExifFileInfoPtr &file : m_files) {
+        if (file && std::any_of(pinKeys().cbegin(), pinKeys().cend(),
+                                [&file](const QString &key) { return file->hasExifValue(key); }))
+            files << file;
+    }
+    return files;
+}
+
 void MapPins::removePin()
 {
-    QList<ExifFileInfoPtr> changed;
-    for (const ExifFileInfoPtr &file : std::as_const(m_files)) {
-        if (!file)
-            continue;
-        for (const QString &key : gpsKeys())
+    const QList<ExifFileInfoPtr> changed = filesWithPinValues();
+    for (const ExifFileInfoPtr &file : changed) {
+        for (const QString &key : pinKeys())
             file->removeExifValue(key);
-        changed << file;
     }
-    notifyFilesChange(changed);
+    if (!changed.isEmpty()) {
+        for (const QString &key : pinKeys())
+            ExifFilesUpdateCenter::instance().post(key, changed, std::nullopt, changed, this);
+    }
     m_annotations.clear();
     Q_EMIT pinsChanged({});
     Q_EMIT buttonsChanged(isAddEnabled(), isRemoveEnabled());

@@ -46,6 +46,10 @@ public:
 
     explicit MapPins(QObject *parent = nullptr);
 
+    // What a pin stands for in a file: its position, with the altitude and GPS date and time that
+    // were taken there. Removing a pin removes them all, in this order.
+    static const QStringList &pinKeys();
+
     static std::optional<MapPin> createPointAnnotation(const ExifFileInfo &file);
     // Left unset for no pins: the map keeps its region.
     static std::optional<MapRegion> regionForPins(const QList<MapPin> &pins);
@@ -64,6 +68,8 @@ public:
     // Where the map is centred now; new pins go there.
     void setCenter(double latitude, double longitude);
     void addPin();
+    // The files removePin changes: those with any of pinKeys().
+    QList<ExifFileInfoPtr> filesWithPinValues() const;
     void removePin();
     // A drag has ended; unknown files are ignored (the pin may have been rebuilt away).
     void movePin(const QString &fileName, double latitude, double longitude);

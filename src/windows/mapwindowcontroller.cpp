@@ -12,6 +12,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QHBoxLayout>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <QWebChannel>
@@ -61,7 +62,7 @@ MapWindowController::MapWindowController(QWidget *parent)
     m_addPinButton = addPinButton;
     m_removePinButton = removePinButton;
     connect(addPinButton, &QPushButton::clicked, m_pins, &MapPins::addPin);
-    connect(removePinButton, &QPushButton::clicked, m_pins, &MapPins::removePin);
+    connect(removePinButton, &QPushButton::clicked, this, &MapWindowController::confirmRemovePin);
 
     // One control of three segments; the theme gives push buttons no checked look of their own.
     auto *segments = new QWidget(this);
@@ -112,6 +113,35 @@ void MapWindowController::setFiles(const QList<ExifFileInfoPtr> &files)
 {
     m_files = files;
     m_pins->setFiles(files);
+}
+
+void MapWindowController::confirmRemovePin()
+{
+    const QList<ExifFileInfoPtr> files = m_pins->filesWithPinValues();
+    if (files.isEmpty())
+        return;
+    auto *sheet = new QMessageBox(this);
+    sheet->setAttribute(Qt::WA_DeleteOnClose);
+    sheet->setWindowModality(Qt::WindowModal);
+    sheet->setIcon(QMessageBox::Warning);
+    sheet->setText(QCoreApplication::translate(
+        "MapWindowController", "Remove the pin from %n file(s)?", nullptr, int(files.size())));
+    sheet->setInformativeText(text("Their GPS position, altitude and GPS date and time are "
+                                   "removed. The files change when you save them."));
+    QPushButton *remove = sheet->addButton(text("Remove Pin"), QMessageBox::AcceptRole);
+    QPushButton *cancel = sheet->addButton(QMessageBox::Cancel);
+    sheet->setDefaultButton(cancel);
+    sheet->setEscapeButton(cancel);
+    connect(sheet, &QMessageBox::finished, this, [this, sheet, remove, files] {
+        if (sheet->clickedButton() != remove)
+            return;
+        // The files shown may have changed meanwhile: only the ones the question named go.
+        if (m_pins->filesWithPinValues() != files)
+            return;
+        m_pins->removePin();
+        Q_EMIT pinsRemoved(files);
+    });
+    sheet->open();
 }
 
 void MapWindowController::showTrack(const QList<TrackPoint> &points, const QList<MapPin> &proposed)

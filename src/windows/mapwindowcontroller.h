@@ -44,6 +44,14 @@ public:
     QAbstractButton *removePinButton() const { return m_removePinButton; }
     QButtonGroup *mapTypeControl() const { return m_mapTypeControl; }
 
+    // What "Remove Pin" does: names how many files lose their position and removes it from them
+    // only when the user agrees (Cancel is the default).
+    void confirmRemovePin();
+
+Q_SIGNALS:
+    // Pins were removed from these files: rows showing their other GPS values must follow.
+    void pinsRemoved(const QList<ExifFileInfoPtr> &files);
+
 private:
     void loadPage();
     void handleButtonsChanged(bool addEnabled, bool removeEnabled);

@@ -5,6 +5,7 @@
 #include "catalogue/stringtables.h"
 #include "editors/configurationviewcontroller.h"
 #include "editors/exiffilesupdate.h"
+#include "editors/texteditor.h"
 #include "engine/exifbackgroundrunner.h"
 #include "engine/exifrunner.h"
 #include "../support/fixtures.h"
@@ -16,13 +17,16 @@
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
 #include <QAction>
+#include <QApplication>
 #include <QDir>
 #include <QDropEvent>
 #include <QFile>
 #include <QGuiApplication>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMimeData>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
@@ -83,6 +87,15 @@ bool clickButton(QWidget *window, const QString &text)
         }
     }
     return false;
+}
+
+TextEditor *textRow(MainWindowController &window, const QString &key)
+{
+    for (FieldEditor *editor : window.configController()->fields()) {
+        if (editor->field()->xmlName() == key)
+            return qobject_cast<TextEditor *>(editor);
+    }
+    return nullptr;
 }
 
 } // namespace
@@ -405,6 +418,106 @@ private Q_SLOTS:
         window.finishProcessing({});
         QVERIFY(!window.isSaving());
         QTRY_VERIFY(!window.progressPanel());
+    }
+
+    // However the save is reached, typed text is written and announced once.
+    void saveCommitsTypedTextOnce_data()
+    {
+        QTest::addColumn<QString>("how");
+        QTest::newRow("Save button clicked") << u"click"_s;
+        QTest::newRow("Return, then Save button") << u"return+click"_s;
+        QTest::newRow("Save command, focus stays") << u"command"_s;
+    }
+    void saveCommitsTypedTextOnce()
+    {
+        QFETCH(QString, how);
+        MainWindowController &window = controller();
+        QVERIFY(QTest::qWaitForWindowActive(window.window()));
+        QVERIFY(add({image(u"typed.jpg"_s)}));
+        window.selectRows({0});
+        TextEditor *row = textRow(window, Artist);
+        QVERIFY(row);
+        QLineEdit *edit = row->editor();
+        edit->setFocus();
+        QTRY_VERIFY(edit->hasFocus());
+        edit->selectAll();
+        QTest::keyClicks(edit, u"Bob"_s);
+
+        QSignalSpy updates(&ExifFilesUpdateCenter::instance(),
+                           &ExifFilesUpdateCenter::exifFilesUpdated);
+        QSignalSpy rowsChanged(window.model(), &QAbstractItemModel::dataChanged);
+        if (how.startsWith(u"return"))
+            QTest::keyClick(edit, Qt::Key_Return);
+        if (how.endsWith(u"click"))
+            QTest::mouseClick(window.processButton(), Qt::LeftButton);
+        else
+            window.menus()->action(MainWindowMenus::Command::Process)->trigger();
+        // The focus leaving the row afterwards ends nothing new.
+        window.filesTable()->setFocus();
+        QApplication::processEvents();
+
+        QCOMPARE(updates.size(), 1);
+        QCOMPARE(updates.first().first().value<ExifFilesUpdate>().newValue.value_or(QString()),
+                 u"Bob"_s);
+        QCOMPARE(rowsChanged.size(), 1);
+        QCOMPARE(m_runner->calls, QStringList{u"save 1 typed.jpg"_s});
+        QCOMPARE(window.files().value(0)->exifValue(Artist), u"Bob"_s);
+        window.finishProcessing({});
+    }
+
+    // Files with unsaved edits leave the list only when the user says so; others go at once.
+    void removingEditedFilesAsksFirst_data()
+    {
+        QTest::addColumn<QStringList>("edited"); // of a.jpg, b.jpg, c.jpg; all three selected
+        QTest::addColumn<QString>("question");   // empty: no question
+        QTest::addColumn<QString>("answer");     // "Enter": the default button
+        QTest::addColumn<QStringList>("left");
+        const QStringList all{u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s}, none;
+        const QString one = u"Remove 1 file with unsaved changes from the list?"_s;
+        const QString two = u"Remove 2 files with unsaved changes from the list?"_s;
+        const QString three = u"Remove 3 files with unsaved changes from the list?"_s;
+        const QString remove = u"Remove from List"_s;
+        QTest::newRow("none edited") << none << QString() << QString() << none;
+        QTest::newRow("one edited, removed") << QStringList{u"b.jpg"_s} << one << remove << none;
+        QTest::newRow("two edited, cancelled")
+            << QStringList{u"a.jpg"_s, u"c.jpg"_s} << two << u"Cancel"_s << all;
+        QTest::newRow("Enter keeps them") << QStringList{u"a.jpg"_s} << one << u"Enter"_s << all;
+        // Text typed into a row for the three files counts as their edit.
+        QTest::newRow("typed, not confirmed")
+            << QStringList{u"typed"_s} << three << u"Cancel"_s << all;
+    }
+    void removingEditedFilesAsksFirst()
+    {
+        QFETCH(QStringList, edited);
+        QFETCH(QString, question);
+        QFETCH(QString, answer);
+        MainWindowController &window = controller();
+        QVERIFY(add({image(u"a.jpg"_s), image(u"b.jpg"_s), image(u"c.jpg"_s)}));
+        for (const ExifFileInfoPtr &file : window.files()) {
+            if (edited.contains(QFileInfo(file->fileName()).fileName()))
+                file->setExifValue(Artist, u"Bob"_s);
+        }
+        window.selectRows({0, 1, 2});
+        if (edited.contains(u"typed"_s)) {
+            QLineEdit *edit = textRow(window, Artist)->editor();
+            edit->setFocus();
+            edit->selectAll();
+            QTest::keyClicks(edit, u"Bob"_s);
+        }
+
+        window.menus()->action(MainWindowMenus::Command::RemoveFiles)->trigger();
+        QMessageBox *sheet = visibleBox(window.window());
+        QCOMPARE(sheet ? sheet->text() : QString(), question);
+        if (sheet) {
+            QCOMPARE(sheet->defaultButton()->text(), u"Cancel"_s);
+            if (answer == u"Enter") {
+                QTest::keyClick(sheet, Qt::Key_Return);
+                QTRY_VERIFY(!sheet->isVisible());
+            } else {
+                QVERIFY(clickButton(window.window(), answer));
+            }
+        }
+        QTEST(names(window.files()), "left");
     }
 
     // Reload reads in the background like an add: the window keeps turning, the rows take the

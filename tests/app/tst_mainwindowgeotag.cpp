@@ -2,10 +2,13 @@
 #include "app/mainwindowcontroller.h"
 #include "app/mainwindowmenus.h"
 #include "catalogue/exiffieldscontroller.h"
+#include "editors/configurationviewcontroller.h"
+#include "editors/texteditor.h"
 #include "editors/exiffilesupdate.h"
 #include "values/usersettings.h"
 #include "windows/fileinfocell.h"
 #include "windows/geotagdialog.h"
+#include "windows/mapwindowcontroller.h"
 
 #include "../support/fixtures.h"
 
@@ -14,6 +17,7 @@
 #include <QDateTimeEdit>
 #include <QGuiApplication>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSpinBox>
@@ -241,6 +245,74 @@ private Q_SLOTS:
         QCOMPARE(Fixtures::readBytes(after), afterBytes);
         // ExifTool gives the coordinates back in its own form; the saved file is not edited.
         QTRY_VERIFY(!modified(1 - afterRow));
+    }
+
+    // Remove Pin names the files it changes, and once agreed to, the next save leaves no
+    // position, altitude or GPS time on disk.
+    void removedPinLeavesNoGpsOnDisk_data()
+    {
+        QTest::addColumn<QString>("answer");
+        QTest::newRow("agreed") << u"Remove Pin"_qs;
+        QTest::newRow("cancelled") << u"Cancel"_qs;
+    }
+    void removedPinLeavesNoGpsOnDisk()
+    {
+        QFETCH(QString, answer);
+        const QString path =
+            m_dir.filePath(u"pinned-%1.jpg"_qs.arg(QLatin1StringView(QTest::currentDataTag())));
+        const QString taken = u"2024:05:02 01:50:00"_qs;
+        QCOMPARE(
+            Fixtures::makeImage(path, {u"-GPSLatitude=48.1"_qs, u"-GPSLatitudeRef=N"_qs,
+                                       u"-GPSLongitude=11.5"_qs, u"-GPSLongitudeRef=E"_qs,
+                                       u"-GPSAltitude=612.5"_qs, u"-GPSAltitudeRef=0"_qs,
+                                       u"-GPSDateStamp=2024:05:01"_qs, u"-GPSTimeStamp=23:50:00"_qs,
+                                       u"-DateTimeOriginal="_qs + taken}),
+            QString());
+        const QStringList before = readBack(path);
+        QCOMPARE(before.size(), 8);
+        QCOMPARE(before.at(4), u"612.5"_qs);
+
+        MainWindowController window(nullptr, nullptr, *m_store);
+        window.window()->show();
+        QVERIFY(window.addFiles({path}) && window.waitForPendingReads());
+        window.selectRows({0});
+        window.menus()->action(MainWindowMenus::Command::ShowMap)->trigger();
+        MapWindowController *map = window.mapWindowController();
+        QVERIFY(map && map->removePinButton()->isEnabled());
+        map->removePinButton()->click();
+        QMessageBox *sheet = nullptr;
+        for (QMessageBox *box : map->findChildren<QMessageBox *>())
+            sheet = box->isVisible() ? box : sheet;
+        QVERIFY(sheet);
+        QCOMPARE(sheet->text(), u"Remove the pin from 1 file?"_qs);
+        QCOMPARE(sheet->defaultButton()->text(), u"Cancel"_qs);
+        QAbstractButton *chosen = nullptr;
+        for (QAbstractButton *button : sheet->buttons())
+            chosen = button->text() == answer ? button : chosen;
+        QVERIFY(chosen);
+        chosen->click();
+
+        const ExifFileInfoPtr file = window.files().value(0);
+        const bool removed = answer == u"Remove Pin";
+        for (const QString &key :
+             {u"GPS:GPSLatitude"_qs, u"GPS:GPSAltitude"_qs, u"GPS:GPSAltitudeRef"_qs,
+              u"GPS:GPSDateStamp"_qs, u"GPS:GPSTimeStamp"_qs})
+            QVERIFY2(file->hasExifValue(key) != removed, qPrintable(key));
+        // The form shows the selection as it now is, not the altitude just removed.
+        TextEditor *altitude = nullptr;
+        for (FieldEditor *editor : window.configController()->fields()) {
+            if (editor->field()->xmlName() == u"GPS:GPSAltitude")
+                altitude = qobject_cast<TextEditor *>(editor);
+        }
+        QVERIFY(altitude);
+        QCOMPARE(altitude->editor()->text().isEmpty(), removed);
+        if (!removed)
+            return;
+
+        window.processFiles();
+        QTRY_VERIFY_WITH_TIMEOUT(!window.isSaving(), 20000);
+        QStringList gone(7, u"-"_qs);
+        QCOMPARE(readBack(path), gone << taken);
     }
 };
 

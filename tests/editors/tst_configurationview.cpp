@@ -4,17 +4,22 @@
 #include "editors/configurationviewcontroller.h"
 #include "editors/dateeditor.h"
 #include "editors/dateoffseteditor.h"
+#include "editors/enumeditor.h"
 #include "editors/groupeditor.h"
 #include "editors/sectioneditor.h"
 #include "editors/texteditor.h"
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScrollArea>
+#include <QScrollBar>
+#include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QWheelEvent>
 
 using namespace EditorFixtures;
 
@@ -239,6 +244,73 @@ private Q_SLOTS:
         // Back to A: its own values, not the text last shown.
         form->setExifFiles(a);
         QCOMPARE(row->editor()->text(), kept);
+    }
+
+    // The wheel scrolls the form over a control; only a control the user focused takes the step.
+    void wheelEditsOnlyAFocusedControl_data()
+    {
+        QTest::addColumn<QString>("control");
+        QTest::addColumn<bool>("focused");
+        QTest::newRow("drop-down passed over") << u"drop-down"_qs << false;
+        QTest::newRow("drop-down focused") << u"drop-down"_qs << true;
+        // Added after the form was built, as popups and late rows are.
+        QTest::newRow("spin box passed over") << u"spin box"_qs << false;
+        QTest::newRow("spin box focused") << u"spin box"_qs << true;
+    }
+    void wheelEditsOnlyAFocusedControl()
+    {
+        QFETCH(QString, control);
+        QFETCH(bool, focused);
+
+        // The real catalogue: a form tall enough to scroll, with "Light Source" near its top.
+        ExifFieldsController catalogue;
+        catalogue.initializeConfigurations();
+        ConfigurationViewController form(nullptr, &catalogue);
+        form.scrollArea()->resize(500, 300);
+        form.createUserInterface();
+        form.scrollArea()->show();
+        QVERIFY(QTest::qWaitForWindowActive(form.scrollArea()));
+        const QString key = u"ExifIFD:LightSource"_qs;
+        const QList<ExifFileInfoPtr> files = makeFiles(key, {u"1"_qs, u"1"_qs});
+        form.setExifFiles(files);
+
+        QWidget *target = nullptr;
+        std::function<int()> value;
+        if (control == u"drop-down") {
+            auto it = std::find_if(form.fields().cbegin(), form.fields().cend(),
+                                   [&key](auto *e) { return e->field()->xmlName() == key; });
+            QVERIFY(it != form.fields().cend());
+            QComboBox *combo = qobject_cast<EnumEditor *>(*it)->popupButton();
+            target = combo;
+            value = [combo] { return combo->currentIndex(); };
+        } else {
+            auto *spin = new QSpinBox(form.view());
+            spin->setGeometry(200, 400, 80, 22);
+            spin->setValue(5);
+            spin->show();
+            target = spin;
+            value = [spin] { return spin->value(); };
+        }
+        form.scrollArea()->ensureWidgetVisible(target);
+        if (focused) {
+            target->setFocus(Qt::MouseFocusReason);
+            QTRY_VERIFY(target->hasFocus());
+        }
+        QScrollBar *bar = form.scrollArea()->verticalScrollBar();
+        const int scrolledBefore = bar->value();
+        const int valueBefore = value();
+        auto updates = updateSpy();
+
+        const QPointF inside(10, 10);
+        QWheelEvent wheel(inside, target->mapToGlobal(inside), QPoint(), QPoint(0, -120),
+                          Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(target, &wheel);
+
+        QCOMPARE(value() != valueBefore, focused);
+        QCOMPARE(bar->value() > scrolledBefore, !focused);
+        const bool editsFiles = focused && control == u"drop-down";
+        QCOMPARE(updates.size(), editsFiles ? 1 : 0);
+        QCOMPARE(currentValues(files, key) != (QStringList{u"1"_qs, u"1"_qs}), editsFiles);
     }
 
     void copyingReportsWhetherAnythingChanged()

@@ -137,22 +137,43 @@ private Q_SLOTS:
         QVERIFY(log.isEmpty());
     }
 
-    void removePinClearsAllFourKeysFromEveryFile()
+    // A removed pin takes the altitude and GPS time taken there with it; a file with none of
+    // them is not touched.
+    void removePinTakesAltitudeAndGpsTimeWithIt()
     {
         const auto pinned = file(u"a.jpg"_qs, u"20,E,10,N"_qs);
-        const auto unpinned = file(u"b.jpg"_qs, u",,5,n"_qs);
+        TagDictionary tags = pinned->exifData();
+        tags.insert(u"GPS:GPSAltitude"_qs, u"612.5"_qs);
+        tags.insert(u"GPS:GPSAltitudeRef"_qs, u"0"_qs);
+        tags.insert(u"GPS:GPSDateStamp"_qs, u"2024:05:01"_qs);
+        tags.insert(u"GPS:GPSTimeStamp"_qs, u"23:50:00"_qs);
+        pinned->setReadData(tags);
+        const auto halfPinned = file(u"b.jpg"_qs, u",,5,n"_qs);
+        const auto timeOnly = file(u"c.jpg"_qs);
+        timeOnly->setReadData({{u"IFD0:Make"_qs, u"Canon"_qs}, {u"GPS:GPSTimeStamp"_qs, u"1"_qs}});
+        const auto bare = file(u"d.jpg"_qs);
         MapPins pins;
-        pins.setFiles({pinned, unpinned});
+        pins.setFiles({pinned, halfPinned, timeOnly, bare});
+        const Files changed{pinned, halfPinned, timeOnly};
+        QCOMPARE(pins.filesWithPinValues(), changed);
 
         UpdateLog log;
         pins.removePin();
-        for (const ExifFileInfoPtr &info : {pinned, unpinned}) {
-            QCOMPARE(gpsValues(*info), u",,,"_qs);
-            QCOMPARE(info->exifData().size(), 1);
+        for (const ExifFileInfoPtr &info : {pinned, halfPinned, timeOnly, bare})
+            QCOMPARE(info->exifData(), (TagDictionary{{u"IFD0:Make"_qs, u"Canon"_qs}}));
+        const QStringList removed =
+            FourKeys + QStringList{u"GPS:GPSAltitude"_qs, u"GPS:GPSAltitudeRef"_qs,
+                                   u"GPS:GPSDateStamp"_qs, u"GPS:GPSTimeStamp"_qs};
+        QCOMPARE(log.keys(), removed.join(u','));
+        for (qsizetype i = 0; i < log.size(); ++i) {
+            QCOMPARE(log.update(i).changedFiles, changed);
+            QVERIFY(!log.update(i).newValue);
         }
-        QCOMPARE(log.keys(), FourKeys.join(u','));
-        QCOMPARE(log.update(0).changedFiles, (Files{pinned, unpinned}));
         QVERIFY(!pins.isRemoveEnabled() && pins.isAddEnabled());
+
+        log.clear();
+        pins.removePin();
+        QVERIFY(log.isEmpty());
     }
 
     void dragWritesSixDecimalsAndPostsInOrder_data()
