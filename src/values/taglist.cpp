@@ -5,7 +5,7 @@ QStringList splitStringsItems(const QString &text)
     QStringList items;
     QSet<QString> seen;
     auto take = [&](const QString &item) {
-        if (!seen.contains(item)) {
+        if (!item.trimmed().isEmpty() && !seen.contains(item)) {
             seen.insert(item);
             items.append(item);
         }
@@ -24,8 +24,7 @@ QStringList splitStringsItems(const QString &text)
             item.append(c);
         }
     }
-    if (!item.isEmpty())
-        take(item);
+    take(item);
     return items;
 }
 
