@@ -45,6 +45,17 @@ QString joinStringsValue(const QStringList &items)
     return text;
 }
 
+QString withStringsItemsAdded(const QString &list, const QStringList &added)
+{
+    QStringList items = splitStringsItems(list);
+    const qsizetype before = items.size();
+    for (const QString &item : added) {
+        if (!item.trimmed().isEmpty() && !items.contains(item))
+            items.append(item);
+    }
+    return items.size() == before ? list : joinStringsValue(items);
+}
+
 QSet<QString> splitMultiEnumValue(const QString &text)
 {
     QSet<QString> values;

@@ -17,5 +17,9 @@ QSet<QString> splitStringsValue(const QString &text);
 // The inverse of splitStringsItems for items that are not blank.
 QString joinStringsValue(const QStringList &items);
 
+// The list with the given items appended where it lacks them; the list itself, untouched (even
+// when null), when it has them all.
+QString withStringsItemsAdded(const QString &list, const QStringList &added);
+
 // The values of a multi-enum field: pieces between whitespace or line breaks, empty ones dropped.
 QSet<QString> splitMultiEnumValue(const QString &text);
