@@ -331,7 +331,8 @@ private Q_SLOTS:
 
         m_store->saveConfiguration(
             std::make_shared<ExifConfiguration>(m_store->findUnusedNewIdentifier(), u"0"_s));
-        QCOMPARE(presetTitles(), (QStringList{u"0"_s, u"a"_s, u"b"_s, u"c"_s}));
+        QCOMPARE(presetTitles(), (QStringList{u"0"_s, u"a (removes 1 tag)"_s,
+                                              u"b (removes 1 tag)"_s, u"c (removes 1 tag)"_s}));
     }
 
     void removeAllMetadata_data()
