@@ -98,4 +98,14 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>PresetsWindowController</name>
+    <message numerus="yes">
+        <source>%1 (removes %n tag(s))</source>
+        <translation>
+            <numerusform>%1 (removes %n tag)</numerusform>
+            <numerusform>%1 (removes %n tags)</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

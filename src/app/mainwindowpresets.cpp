@@ -35,7 +35,7 @@ void MainWindowController::updateConfigurations()
     // Each goes in at position 1, so the menu ends up in ascending order.
     for (int i = 0; i < presets.size(); ++i) {
         m_configIds.append(presets.at(i)->identifier());
-        auto *item = new QAction(presets.at(i)->name(), menu);
+        auto *item = new QAction(PresetsWindowController::menuTitle(*presets.at(i)), menu);
         item->setData(i);
         const QList<QAction *> actions = menu->actions();
         menu->insertAction(actions.size() > 1 ? actions.at(1) : nullptr, item);

@@ -99,9 +99,16 @@ void TokenField::setReadOnly(bool readOnly)
     m_input->setReadOnly(readOnly);
 }
 
+void TokenField::setPlaceholderAlwaysShown(bool on)
+{
+    m_placeholderAlwaysShown = on;
+    updatePlaceholder();
+}
+
 void TokenField::updatePlaceholder()
 {
-    m_input->setPlaceholderText(m_tokens.isEmpty() ? m_placeholder : QString());
+    const bool shown = m_tokens.isEmpty() || m_placeholderAlwaysShown;
+    m_input->setPlaceholderText(shown ? m_placeholder : QString());
 }
 
 void TokenField::onInputEdited(const QString &text)

@@ -29,6 +29,8 @@ public:
 
     void setPlaceholderText(const QString &text);
     QString placeholderText() const;
+    // Whether the placeholder stays after the tokens instead of only standing for none.
+    void setPlaceholderAlwaysShown(bool on);
     void setReadOnly(bool readOnly);
     bool isReadOnly() const { return m_readOnly; }
 
@@ -57,5 +59,6 @@ private:
     QList<QLabel *> m_chips;
     QLineEdit *m_input = nullptr;
     QString m_placeholder;
+    bool m_placeholderAlwaysShown = false;
     bool m_readOnly = false;
 };

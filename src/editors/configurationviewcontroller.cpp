@@ -308,8 +308,10 @@ void ConfigurationViewController::setExifConfiguration(const ExifConfiguration *
         setEnabled(false);
         return;
     }
-    for (FieldEditor *editor : std::as_const(m_fields))
+    for (FieldEditor *editor : std::as_const(m_fields)) {
         editor->setExifConfiguration(configuration);
+        editor->updateRemovalHint();
+    }
 }
 
 bool ConfigurationViewController::copyToConfiguration(ExifConfiguration &configuration)

@@ -271,8 +271,38 @@ bool FieldEditor::isModified() const
     return modified;
 }
 
+QLabel *FieldEditor::removalHint() const
+{
+    return m_removalHint;
+}
+
+void FieldEditor::updateRemovalHint()
+{
+    if (!m_removalHint)
+        return;
+    bool removes = false;
+    if (isRemoveButtonChecked()) {
+        // What the row would store is the one answer every kind of row gives alike.
+        ExifConfiguration scratch;
+        copyToConfiguration(scratch);
+        removes = scratch.removedValues().contains(m_field->xmlName());
+    }
+    m_removalHint->setVisible(removes && m_label && !m_label->isHidden());
+    if (removes)
+        m_removalHint->raise();
+}
+
+void FieldEditor::placeRemovalHint()
+{
+    if (!m_removalHint || !m_removeButton)
+        return;
+    const int width = m_removalHint->sizeHint().width();
+    m_removalHint->setGeometry(m_removeButton->x() - width - 4, m_top + 2, width, LabelHeight);
+}
+
 void FieldEditor::updateModifiedLabel()
 {
+    updateRemovalHint();
     if (!m_boldFontOnChange || !m_label)
         return;
     const bool bold = isModified();
@@ -305,7 +335,18 @@ int FieldEditor::createEditor(QWidget *parent, int top)
         m_removeButton->setGeometry(width - RemoveButtonSize - 5, top, RemoveButtonSize,
                                     RemoveButtonSize);
         m_removeButton->setProperty("theme", m_theme);
+        m_removeButton->setToolTip(tr("Ticked, the preset sets this field to the value "
+                                      "given; ticked and left empty, it removes the tag from "
+                                      "the files."));
         m_removeButton->show();
+        m_removalHint = new QLabel(tr("Remove from the files"), parent);
+        m_removalHint->setObjectName(u"removalHint"_qs);
+        m_removalHint->setStyleSheet(u"QLabel#removalHint { color: rgb(255, 170, 90); "
+                                     "font-style: italic; }"_qs);
+        m_removalHint->setAttribute(Qt::WA_TransparentForMouseEvents);
+        m_removalHint->hide();
+        placeRemovalHint();
+        connect(m_removeButton, &QCheckBox::toggled, this, &FieldEditor::updateRemovalHint);
     }
     parent->installEventFilter(this);
     return top + std::max({MinimumRowHeight, labelHeight, contentHeight});
@@ -335,6 +376,8 @@ int FieldEditor::showEditor(int top)
         m_removeButton->move(m_removeButton->x(), top);
         m_removeButton->show();
     }
+    placeRemovalHint();
+    updateRemovalHint();
     if (m_content) {
         m_content->move(m_content->x(), top + m_contentOffset);
         m_content->show();
@@ -348,6 +391,8 @@ int FieldEditor::hideEditor(int top)
         m_label->hide();
     if (m_removeButton)
         m_removeButton->hide();
+    if (m_removalHint)
+        m_removalHint->hide();
     if (m_content)
         m_content->hide();
     return top;
@@ -462,6 +507,7 @@ void FieldEditor::layoutToParentWidth(int width)
     }
     if (m_removeButton)
         m_removeButton->move(width - RemoveButtonSize - 5, m_removeButton->y());
+    placeRemovalHint();
 }
 
 bool FieldEditor::isFieldEnabledForFiles(const QList<ExifFileInfoPtr> &files) const

@@ -98,7 +98,11 @@ public:
     QSet<QString> gatherExifFilesOriginalValues(const QList<ExifFileInfoPtr> &files) const;
 
     virtual bool isModified() const;
+    // Also refreshes the preset row's removal note.
     void updateModifiedLabel();
+    // A preset row that is ticked and empty removes the tag from the files; the row says so.
+    void updateRemovalHint();
+    QLabel *removalHint() const;
 
     // Builds the row in parent at top; returns the top of the next row.
     int createEditor(QWidget *parent, int top);
@@ -158,11 +162,13 @@ protected:
 
 private:
     void layoutToParentWidth(int width);
+    void placeRemovalHint();
 
     QPointer<QLabel> m_label;
     bool m_boldFontOnChange = false;
     bool m_showRemoveButton = false;
     QPointer<QCheckBox> m_removeButton;
+    QPointer<QLabel> m_removalHint;
     ExifFieldPtr m_field;
     int m_top = 0;
     double m_maxLabelWidth = 0;

@@ -5,8 +5,14 @@
 #include "controls/tokenfield.h"
 #include "values/taglist.h"
 
+#include <QAction>
 #include <QCheckBox>
+#include <QContextMenuEvent>
+#include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
+
+#include <memory>
 
 namespace {
 
@@ -16,7 +22,10 @@ constexpr int FieldHeight = 80;
 
 StringsEditor::StringsEditor(ExifFieldPtr field, QObject *parent)
     : FieldEditor(std::move(field), parent)
+    , m_replaceAction(new QAction(tr("Replace in All Files"), this))
 {
+    m_replaceAction->setEnabled(false);
+    connect(m_replaceAction, &QAction::triggered, this, &StringsEditor::onReplaceInAllFiles);
 }
 
 StringsEditor::~StringsEditor() = default;
@@ -35,6 +44,13 @@ int StringsEditor::createEditorContent(QWidget *parent, QRect frame)
     m_editor->setPalette(palette);
     m_editor->setReadOnly(!hasExifFiles());
     connect(m_editor, &TokenField::textEdited, this, &StringsEditor::controlTextDidChange);
+    m_editor->setContextMenuPolicy(Qt::ActionsContextMenu);
+    m_editor->addAction(m_replaceAction);
+    m_editor->lineEdit()->installEventFilter(this);
+    if (QLabel *rowLabel = label()) {
+        rowLabel->setContextMenuPolicy(Qt::ActionsContextMenu);
+        rowLabel->addAction(m_replaceAction);
+    }
     setContentControl(m_editor);
     m_editor->show();
     stretchWithRow(m_editor);
@@ -60,6 +76,7 @@ void StringsEditor::clearEditor()
 {
     FieldEditor::clearEditor();
     m_textChanged = false;
+    setAddsToEachFile(false);
     if (m_editor) {
         m_editor->clear();
         m_editor->setPlaceholderText(QString());
@@ -77,6 +94,7 @@ void StringsEditor::setExifFiles(const QList<ExifFileInfoPtr> &files)
     m_editor->setReadOnly(false);
     m_editor->setEnabled(isFieldEnabledForFiles(files));
     const QSet<QString> values = gatherExifFilesValues(files);
+    setAddsToEachFile(values.size() >= 2);
     if (values.size() < 2) {
         m_editor->setPlaceholderText(QString());
         m_editor->setText(values.isEmpty() ? QString() : *values.cbegin());
@@ -87,8 +105,29 @@ void StringsEditor::setExifFiles(const QList<ExifFileInfoPtr> &files)
     updateModifiedLabel();
 }
 
+void StringsEditor::setAddsToEachFile(bool on)
+{
+    m_addsToEachFile = on;
+    m_ownLists.clear();
+    m_replaceAction->setEnabled(on);
+    if (m_editor) {
+        // "new, Multiple values": the typed items join what each file has.
+        m_editor->setPlaceholderAlwaysShown(on);
+        m_editor->setToolTip(on ? tr("Items typed here are added to each file's own list. To "
+                                     "give every file this one list, choose Replace in All "
+                                     "Files from the context menu.")
+                                : QString());
+    }
+}
+
 void StringsEditor::controlTextDidChange()
 {
+    // Taken at the first typed item rather than with the selection, which must stay cheap.
+    if (m_addsToEachFile && !m_textChanged) {
+        const QString &key = field()->xmlName();
+        for (const ExifFileInfoPtr &file : exifFiles())
+            m_ownLists.insert(file.get(), file->exifValue(key));
+    }
     m_textChanged = true;
     // Checked first: an unchecked row would put the originals back instead of the typed list.
     setRemoveButtonChecked(true);
@@ -98,6 +137,20 @@ void StringsEditor::controlTextDidChange()
     sendChangeNotification(text.isEmpty() ? std::nullopt : std::optional<QString>(text));
 }
 
+void StringsEditor::onReplaceInAllFiles()
+{
+    if (!m_addsToEachFile)
+        return;
+    setAddsToEachFile(false);
+    if (m_editor) {
+        m_editor->setPlaceholderText(tr("One list for all files"));
+        m_editor->setToolTip(tr("Every selected file gets this list in place of its own."));
+    }
+    // Items typed so far now make up every file's whole list.
+    if (m_textChanged)
+        controlTextDidChange();
+}
+
 void StringsEditor::updateExifFileValue(const ExifFileInfoPtr &file)
 {
     if (showRemoveButton() && !isRemoveButtonChecked()) {
@@ -105,13 +158,34 @@ void StringsEditor::updateExifFileValue(const ExifFileInfoPtr &file)
         return;
     }
     // Untouched, a multiple-values row shows no tokens: writing that would wipe every file.
-    if (!m_textChanged)
+    if (!m_textChanged || !m_editor)
         return;
-    const QString text = m_editor ? m_editor->text().trimmed() : QString();
-    if (text.isEmpty())
-        file->removeExifValue(field()->xmlName());
+    const QString &key = field()->xmlName();
+    QString text;
+    if (m_addsToEachFile) {
+        const auto own = m_ownLists.constFind(file.get());
+        text = withStringsItemsAdded(own != m_ownLists.cend() ? *own : file->exifValue(key),
+                                     m_editor->tokens());
+    } else {
+        text = m_editor->text().trimmed();
+    }
+    if (text.isNull() || (!m_addsToEachFile && text.isEmpty()))
+        file->removeExifValue(key);
     else
-        file->setExifValue(field()->xmlName(), text);
+        file->setExifValue(key, text);
+}
+
+bool StringsEditor::eventFilter(QObject *watched, QEvent *event)
+{
+    // The input's own menu (cut, copy, paste) with the row's choice under it.
+    if (m_editor && watched == m_editor->lineEdit() && event->type() == QEvent::ContextMenu) {
+        std::unique_ptr<QMenu> menu(m_editor->lineEdit()->createStandardContextMenu());
+        menu->addSeparator();
+        menu->addAction(m_replaceAction);
+        menu->exec(static_cast<QContextMenuEvent *>(event)->globalPos());
+        return true;
+    }
+    return FieldEditor::eventFilter(watched, event);
 }
 
 void StringsEditor::setExifConfiguration(const ExifConfiguration *configuration)
@@ -122,6 +196,7 @@ void StringsEditor::setExifConfiguration(const ExifConfiguration *configuration)
         return;
     }
     m_textChanged = false;
+    setAddsToEachFile(false);
     m_editor->setPlaceholderText(QString());
     const QString &key = field()->xmlName();
     if (configuration->removedValues().contains(key)) {

@@ -318,6 +318,7 @@ bool TextEditor::copyToExifFiles(const QList<ExifFileInfoPtr> &files)
 void TextEditor::controlTextDidChange()
 {
     m_textChanged = true;
+    updateRemovalHint();
 }
 
 void TextEditor::controlTextDidEndEditing()

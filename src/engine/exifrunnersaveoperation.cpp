@@ -70,6 +70,13 @@ QString plainNumberText(const QString &text)
     return text;
 }
 
+bool isListWithoutItems(const QString &key, const QString &value)
+{
+    return representationOf(ExifFieldsController::defaultInstance()->field(key)) ==
+               FieldDataRepresentation::Strings &&
+           splitStringsItems(value).isEmpty();
+}
+
 bool numbersMatch(double a, double b, qint64 decimals)
 {
     const double tolerance = decimals >= 0 ? 0.5 * std::pow(10.0, -double(decimals)) + 1e-9
@@ -151,6 +158,11 @@ void ExifRunnerSaveOperation::postProcessInMainThread()
         for (auto it = written->cbegin(); it != written->cend(); ++it) {
             const QString &value = it.value();
             const auto found = data->constFind(it.key());
+            if (isListWithoutItems(it.key(), value) && found == data->cend() &&
+                efi()->exifValue(it.key()) == value) {
+                efi()->removeExifValue(it.key());
+                continue;
+            }
             const bool isShift = isDateRepresentation(representationOf(
                                      ExifFieldsController::defaultInstance()->field(it.key()))) &&
                                  isDateOffsetText(value);
@@ -264,7 +276,11 @@ QStringList ExifRunnerSaveOperation::gatherExifToolArgumentsToChange(const TagDi
                 value.contains(u'+') ? QStringLiteral("+=") : QStringLiteral("-=");
             arguments.append(u'-' + key + shift + u'\'' + value.mid(1) + u'\'');
         } else if (representation == FieldDataRepresentation::Strings) {
-            for (const QString &item : splitStringsItems(value))
+            const QStringList items = splitStringsItems(value);
+            // Only separators and blanks: a list without items, which is no list at all.
+            if (items.isEmpty())
+                arguments.append(u'-' + key + u'=');
+            for (const QString &item : items)
                 arguments.append(u'-' + key + u'=' + item);
         } else {
             arguments.append(u'-' + writtenForm(key) + u'=' + value);
@@ -325,7 +341,7 @@ bool ExifRunnerSaveOperation::readsBackAsWritten(const QString &key, const QStri
                                                  const TagDictionary &written) const
 {
     const auto found = written.constFind(key);
-    if (value.isEmpty())
+    if (value.isEmpty() || isListWithoutItems(key, value))
         return found == written.cend();
     if (found == written.cend())
         return false;

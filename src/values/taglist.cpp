@@ -5,7 +5,7 @@ QStringList splitStringsItems(const QString &text)
     QStringList items;
     QSet<QString> seen;
     auto take = [&](const QString &item) {
-        if (!seen.contains(item)) {
+        if (!item.trimmed().isEmpty() && !seen.contains(item)) {
             seen.insert(item);
             items.append(item);
         }
@@ -24,8 +24,7 @@ QStringList splitStringsItems(const QString &text)
             item.append(c);
         }
     }
-    if (!item.isEmpty())
-        take(item);
+    take(item);
     return items;
 }
 
@@ -44,6 +43,17 @@ QString joinStringsValue(const QStringList &items)
         text.append(QString(items.at(i)).replace(u',', QStringLiteral("\\,")));
     }
     return text;
+}
+
+QString withStringsItemsAdded(const QString &list, const QStringList &added)
+{
+    QStringList items = splitStringsItems(list);
+    const qsizetype before = items.size();
+    for (const QString &item : added) {
+        if (!item.trimmed().isEmpty() && !items.contains(item))
+            items.append(item);
+    }
+    return items.size() == before ? list : joinStringsValue(items);
 }
 
 QSet<QString> splitMultiEnumValue(const QString &text)

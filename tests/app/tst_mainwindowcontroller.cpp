@@ -320,7 +320,8 @@ private Q_SLOTS:
                 titles.append(action->text());
             return titles;
         };
-        QCOMPARE(presetTitles(), (QStringList{u"a"_s, u"b"_s, u"c"_s}));
+        QCOMPARE(presetTitles(), (QStringList{u"a (removes 1 tag)"_s, u"b (removes 1 tag)"_s,
+                                              u"c (removes 1 tag)"_s}));
 
         const QStringList tags{u"-Artist=Ann"_s, u"-Software=Editor"_s};
         QVERIFY(add({image(u"one.jpg"_s, tags), image(u"two.jpg"_s, tags)}));
@@ -343,7 +344,8 @@ private Q_SLOTS:
 
         m_store->saveConfiguration(
             std::make_shared<ExifConfiguration>(m_store->findUnusedNewIdentifier(), u"0"_s));
-        QCOMPARE(presetTitles(), (QStringList{u"0"_s, u"a"_s, u"b"_s, u"c"_s}));
+        QCOMPARE(presetTitles(), (QStringList{u"0"_s, u"a (removes 1 tag)"_s,
+                                              u"b (removes 1 tag)"_s, u"c (removes 1 tag)"_s}));
     }
 
     void removeAllMetadata_data()

@@ -6,6 +6,7 @@
 #include "editors/stringseditor.h"
 #include "values/taglist.h"
 
+#include <QAction>
 #include <QCheckBox>
 #include <QLabel>
 #include <QtTest>
@@ -66,6 +67,71 @@ private Q_SLOTS:
         QCOMPARE(shownTokens(field), before + added);
         for (const auto &file : files)
             QCOMPARE(splitStringsItems(file->exifValue(Keywords)), before + added);
+    }
+
+    // Over files whose lists differ, typed items join each file's own list.
+    void typingOverDifferingListsAdds_data()
+    {
+        QTest::addColumn<QString>("typed"); // \n is a press of Return, \b of Backspace
+        QTest::addColumn<QStringList>("after");
+        QTest::addColumn<bool>("modified");
+
+        QTest::newRow("one added")
+            << u"new\n"_qs << QStringList{u"a,b,new"_qs, u"c,new"_qs, u"new"_qs} << true;
+        QTest::newRow("already in one list")
+            << u"c\n"_qs << QStringList{u"a,b,c"_qs, u"c"_qs, u"c"_qs} << true;
+        QTest::newRow("comma inside the item")
+            << u"Doe\\, Jane,"_qs
+            << QStringList{u"a,b,Doe\\, Jane"_qs, u"c,Doe\\, Jane"_qs, u"Doe\\, Jane"_qs} << true;
+        QTest::newRow("added, then taken back")
+            << u"new\n\b"_qs << QStringList{u"a,b"_qs, u"c"_qs, u"<absent>"_qs} << false;
+    }
+
+    void typingOverDifferingListsAdds()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QStringList, after);
+        QFETCH(bool, modified);
+
+        Row<StringsEditor> row(makeField(Keywords, FieldDataRepresentation::Strings));
+        const auto files = makeFiles(Keywords, {u"a,b"_qs, u"c"_qs, QString()});
+        row.editor.setExifFiles(files);
+        QVERIFY(row.editor.addsToEachFile());
+        QLineEdit *edit = row.editor.editor()->lineEdit();
+        edit->setFocus();
+        for (const QChar c : typed) {
+            if (c == u'\n')
+                QTest::keyClick(edit, Qt::Key_Return);
+            else if (c == u'\b')
+                QTest::keyClick(edit, Qt::Key_Backspace);
+            else
+                QTest::sendKeyEvent(QTest::Click, edit, Qt::Key_unknown, QString(c),
+                                    Qt::NoModifier);
+        }
+        QCOMPARE(currentValues(files, Keywords), after);
+        QCOMPARE(row.editor.isModified(), modified);
+    }
+
+    void replaceInAllFilesGivesEveryFileTheTypedList()
+    {
+        Row<StringsEditor> row(makeField(Keywords, FieldDataRepresentation::Strings));
+        const auto files = makeFiles(Keywords, {u"a,b"_qs, u"c"_qs});
+        row.editor.setExifFiles(files);
+        QVERIFY(row.editor.replaceInAllFilesAction()->isEnabled());
+        QLineEdit *edit = row.editor.editor()->lineEdit();
+        edit->setFocus();
+        QTest::keyClicks(edit, u"x,"_qs);
+        QCOMPARE(currentValues(files, Keywords), (QStringList{u"a,b,x"_qs, u"c,x"_qs}));
+
+        row.editor.replaceInAllFilesAction()->trigger();
+        QVERIFY(!row.editor.addsToEachFile());
+        QCOMPARE(currentValues(files, Keywords), QStringList(2, u"x"_qs));
+        QTest::keyClicks(edit, u"y,"_qs);
+        QCOMPARE(currentValues(files, Keywords), QStringList(2, u"x,y"_qs));
+
+        // Files with one list in common have nothing to replace.
+        row.editor.setExifFiles(files);
+        QVERIFY(!row.editor.replaceInAllFilesAction()->isEnabled());
     }
 
     void backspaceRemovesLastTokenFromEveryFile()

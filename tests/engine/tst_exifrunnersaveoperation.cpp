@@ -72,15 +72,35 @@ private Q_SLOTS:
                      .contains(u"CodedCharacterSet"_qs));
     }
 
+    void changeArguments_data()
+    {
+        QTest::addColumn<TagDictionary>("changes");
+        QTest::addColumn<QStringList>("arguments"); // sorted
+
+        const QString k = u"IPTC:Keywords"_qs;
+        QTest::newRow("shift, list, empty text")
+            << TagDictionary{{u"IPTC:DateCreated"_qs, u"-1:0:0"_qs},
+                             {k, u"a,b,a"_qs},
+                             {u"IFD0:Artist"_qs, {}}}
+            << QStringList{u"-IFD0:Artist="_qs, u"-IPTC:DateCreated-='1:0:0'"_qs,
+                           u"-IPTC:Keywords=a"_qs, u"-IPTC:Keywords=b"_qs};
+        // An empty assignment among the items would delete the items before it.
+        QTest::newRow("empty item") << TagDictionary{{k, u"x,,y"_qs}}
+                                    << QStringList{u"-IPTC:Keywords=x"_qs, u"-IPTC:Keywords=y"_qs};
+        QTest::newRow("trailing comma")
+            << TagDictionary{{k, u"x,"_qs}} << QStringList{u"-IPTC:Keywords=x"_qs};
+        QTest::newRow("blank item") << TagDictionary{{k, u"x, ,y"_qs}}
+                                    << QStringList{u"-IPTC:Keywords=x"_qs, u"-IPTC:Keywords=y"_qs};
+        QTest::newRow("only separators")
+            << TagDictionary{{k, u", ,"_qs}} << QStringList{u"-IPTC:Keywords="_qs};
+    }
+
     void changeArguments()
     {
-        QStringList arguments = ExifRunnerSaveOperation::gatherExifToolArgumentsToChange(
-            {{u"IPTC:DateCreated"_qs, u"-1:0:0"_qs},
-             {u"IPTC:Keywords"_qs, u"a,b,a"_qs},
-             {u"IFD0:Artist"_qs, {}}});
+        QFETCH(TagDictionary, changes);
+        QStringList arguments = ExifRunnerSaveOperation::gatherExifToolArgumentsToChange(changes);
         arguments.sort();
-        QCOMPARE(arguments, QStringList({u"-IFD0:Artist="_qs, u"-IPTC:DateCreated-='1:0:0'"_qs,
-                                         u"-IPTC:Keywords=a"_qs, u"-IPTC:Keywords=b"_qs}));
+        QTEST(arguments, "arguments");
     }
 
     void fixedArgumentsFollowTheForceSettings()

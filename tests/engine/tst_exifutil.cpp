@@ -57,7 +57,8 @@ private Q_SLOTS:
         row("fraction rounding", R::Fraction, u"0.33333"_qs, u"0.3333"_qs, true);
         row("fraction change", R::Fraction, u"0.3334"_qs, u"0.3332"_qs, false);
         row("strings order, duplicates", R::Strings, u"x,y,x"_qs, u"y,x"_qs, true);
-        row("strings empty item", R::Strings, u"x,,y"_qs, u"x,y"_qs, false);
+        row("strings empty item", R::Strings, u"x,,y"_qs, u"x,y"_qs, true);
+        row("strings blank item", R::Strings, u"x, "_qs, u"x"_qs, true);
         row("strings escaped comma", R::Strings, u"x\\,y"_qs, u"x,y"_qs, false);
         row("strings unicode", R::Strings, u"Łódź,東京,Smith\\, John"_qs,
             u"Smith\\, John,東京,Łódź"_qs, true);

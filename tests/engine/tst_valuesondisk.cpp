@@ -9,6 +9,7 @@
 #include "../support/runlistener.h"
 
 #include <QDir>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLocale>
@@ -232,6 +233,47 @@ private Q_SLOTS:
         if (fixture.size() > 1)
             QCOMPARE(tags[key + u"-fr-CA"_qs].toString(), u"Français"_qs);
         QVERIFY(!isExifFileModified(*file));
+    }
+
+    // Blank items of a list never reach ExifTool as an empty assignment, which would delete
+    // the items before it.
+    void emptyListItemsAreDropped_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QStringList>("onDisk");
+        const QString iptc = u"IPTC:Keywords"_qs;
+        const QString xmp = u"XMP-dc:Subject"_qs;
+        QTest::newRow("IPTC empty item") << iptc << u"x,,y"_qs << QStringList{u"x"_qs, u"y"_qs};
+        QTest::newRow("IPTC trailing comma") << iptc << u"x,"_qs << QStringList{u"x"_qs};
+        QTest::newRow("XMP empty item") << xmp << u"x,,y"_qs << QStringList{u"x"_qs, u"y"_qs};
+        QTest::newRow("XMP blank item") << xmp << u"x, ,y, "_qs << QStringList{u"x"_qs, u"y"_qs};
+        QTest::newRow("only separators") << xmp << u",,"_qs << QStringList();
+    }
+
+    void emptyListItemsAreDropped()
+    {
+        QFETCH(QString, key);
+        QFETCH(QString, typed);
+        QFETCH(QStringList, onDisk);
+        const QString path =
+            m_dir.filePath(u"list-"_qs + QString::fromLatin1(QTest::currentDataTag()) + u".jpg");
+        QCOMPARE(Fixtures::makeImage(path, {u"-"_qs + key + u"=old"_qs}), QString());
+        const ExifFileInfoPtr file = load(path);
+        file->setExifValue(key, typed);
+        const QStringList messages = save({file})->messages(path);
+        QVERIFY2(messages.isEmpty(), qPrintable(messages.join(u'\n')));
+        const QJsonValue value = tagsOf(path).value(key);
+        QStringList items;
+        if (value.isArray()) {
+            for (const QJsonValue &item : value.toArray())
+                items.append(item.toString());
+        } else if (!value.isUndefined()) {
+            items.append(value.toString());
+        }
+        QCOMPARE(items, onDisk);
+        const QStringList stillEdited = ExifUtil::changedFieldsArray(*file);
+        QVERIFY2(stillEdited.isEmpty(), qPrintable(stillEdited.join(u' ')));
     }
 
 private:

@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QStandardPaths>
 #include <QTableView>
@@ -122,6 +123,59 @@ private Q_SLOTS:
                                          {TitleKey, u"Über, \"quoted\" & <tagged>"_qs}}));
         QCOMPARE(stored->removedValues(), QSet<QString>{u"IFD0:Copyright"_qs});
         QCOMPARE(*stored, *m_store->loadConfiguration(first->identifier()));
+    }
+
+    void menuTitleCountsRemovedTags_data()
+    {
+        QTest::addColumn<QStringList>("removed");
+        QTest::addColumn<QString>("title");
+        QTest::newRow("none") << QStringList() << u"Studio"_qs;
+        QTest::newRow("one") << QStringList{ArtistKey} << u"Studio (removes 1 tag)"_qs;
+        QTest::newRow("two") << QStringList{u"IFD0:Make"_qs, u"IFD0:Model"_qs}
+                             << u"Studio (removes 2 tags)"_qs;
+    }
+    void menuTitleCountsRemovedTags()
+    {
+        QFETCH(QStringList, removed);
+        ExifConfiguration preset(u"configuration-1"_qs, u"Studio"_qs);
+        preset.changedValues().insert(TitleKey, u"kept"_qs);
+        for (const QString &key : removed)
+            preset.removedValues().insert(key);
+        QTEST(PresetsWindowController::menuTitle(preset), "title");
+    }
+
+    // A ticked row left empty removes the tag when the preset is applied, and says so.
+    void tickedEmptyRowsSayTheyRemove()
+    {
+        const ExifConfigurationPtr preset = addPreset(u"Strip camera"_qs);
+        preset->removedValues().insert(u"IFD0:Make"_qs);
+        preset->changedValues().insert(ArtistKey, u"Ann"_qs);
+        m_store->saveConfiguration(preset);
+        PresetsWindowController window(nullptr, *m_store);
+        window.show();
+        const auto hintShown = [&window](const QString &key) {
+            TextEditor *row = textRow(window, key);
+            return row && row->removalHint() && row->removalHint()->isVisible();
+        };
+        QVERIFY(hintShown(u"IFD0:Make"_qs));
+        QCOMPARE(textRow(window, u"IFD0:Make"_qs)->removalHint()->text(),
+                 u"Remove from the files"_qs);
+        QVERIFY(!hintShown(ArtistKey));
+        QVERIFY(!hintShown(TitleKey));
+
+        // Typing a value turns the removal into an assignment; emptying it back, into a removal.
+        QLineEdit *make = textRow(window, u"IFD0:Make"_qs)->editor();
+        make->setFocus();
+        QTest::keyClicks(make, u"Canon"_qs);
+        QVERIFY(!hintShown(u"IFD0:Make"_qs));
+        make->selectAll();
+        QTest::keyClick(make, Qt::Key_Backspace);
+        QVERIFY(hintShown(u"IFD0:Make"_qs));
+        // Unticked, the row leaves the tag alone.
+        textRow(window, u"IFD0:Make"_qs)->removeButton()->setChecked(false);
+        QVERIFY(!hintShown(u"IFD0:Make"_qs));
+        textRow(window, TitleKey)->removeButton()->setChecked(true);
+        QVERIFY(hintShown(TitleKey));
     }
 
     void presetsAreListedByNameIgnoringCaseAndCountingNumbers()

@@ -1,4 +1,8 @@
+#include "../editors/editorfixtures.h"
+
 #include "catalogue/exiffieldscontroller.h"
+#include "controls/tokenfield.h"
+#include "editors/stringseditor.h"
 #include "windows/reviewchangesmodel.h"
 #include "windows/reviewchangeswindowcontroller.h"
 
@@ -92,6 +96,24 @@ private Q_SLOTS:
         model.setFiles({file});
         QCOMPARE(rowsOf(model), rows);
         QCOMPARE(model.fileCount(), rows.isEmpty() ? 0 : 1);
+    }
+
+    // A keyword typed over files with different lists: each file's row shows its own result.
+    void addedKeywordShowsEachFilesList()
+    {
+        const QList<ExifFileInfoPtr> files{makeFile(u"/photos/a.jpg"_qs, {{Keywords, u"a,b"_qs}}),
+                                           makeFile(u"/photos/b.jpg"_qs, {{Keywords, u"c"_qs}}),
+                                           makeFile(u"/photos/c.jpg"_qs, {{Keywords, u"new"_qs}})};
+        EditorFixtures::Row<StringsEditor> row(
+            ExifFieldsController::defaultInstance()->field(Keywords));
+        row.editor.setExifFiles(files);
+        EditorFixtures::typeAndCommit(row.editor.editor()->lineEdit(), u"new"_qs);
+
+        ReviewChangesModel model;
+        QAbstractItemModelTester tester(&model);
+        model.setFiles(files);
+        QCOMPARE(rowsOf(model), (QStringList{u"a.jpg | IPTC:Keywords | a,b | a,b,new"_qs,
+                                             u"b.jpg | IPTC:Keywords | c | c,new"_qs}));
     }
 
     void filtersAndSave()

@@ -120,6 +120,14 @@ void PresetsWindowController::showWindow()
     activateWindow();
 }
 
+QString PresetsWindowController::menuTitle(const ExifConfiguration &preset)
+{
+    const int removals = int(preset.removedValues().size());
+    if (removals == 0)
+        return preset.name();
+    return tr("%1 (removes %n tag(s))", nullptr, removals).arg(preset.name());
+}
+
 void PresetsWindowController::updateSkin()
 {
     setAutoFillBackground(true);

@@ -24,6 +24,8 @@ public:
 
     // Brings the window to the front.
     void showWindow();
+    // The preset's name as menus show it, saying how many tags it removes.
+    static QString menuTitle(const ExifConfiguration &preset);
 
     void reloadConfigurations();
     void selectFirstPreset();
