@@ -121,7 +121,7 @@ void MainWindowController::connectCommands()
     on(C::Process, &MainWindowController::processFiles);
     on(C::Reload, &MainWindowController::reloadSelectedFiles);
     on(C::RemoveFiles, &MainWindowController::removeFilesClick);
-    on(C::ClearFiles, &MainWindowController::clearAllFiles);
+    on(C::ClearFiles, &MainWindowController::clearFilesClick);
     on(C::RemoveAllMetadata, &MainWindowController::removeAllMetadata);
     on(C::RemoveMakerNotes, &MainWindowController::removeMakerNotes);
     on(C::ShowConfigurations, &MainWindowController::showConfigurations);
@@ -379,19 +379,28 @@ void MainWindowController::replaceReloadedFiles(const FileReadQueue::Batch &batc
 
 void MainWindowController::removeFilesClick()
 {
+    QStringList names;
+    for (const ExifFileInfoPtr &file : selectedFiles())
+        names.append(file->fileName());
+    if (!names.isEmpty())
+        dropFilesAsking(selectedFiles(), [this, names] { removeFilesFromList(names); });
+}
+
+void MainWindowController::clearFilesClick()
+{
+    dropFilesAsking(files(), [this] { clearAllFiles(); });
+}
+
+void MainWindowController::dropFilesAsking(const QList<ExifFileInfoPtr> &dropped,
+                                           std::function<void()> drop)
+{
     // Typed text still in a row is an edit of these files too.
     m_configController->commitPendingInput();
-    const QList<ExifFileInfoPtr> selected = selectedFiles();
-    QStringList names;
     int edited = 0;
-    for (const ExifFileInfoPtr &file : selected) {
-        names.append(file->fileName());
+    for (const ExifFileInfoPtr &file : dropped)
         edited += isExifFileModified(*file) ? 1 : 0;
-    }
-    if (names.isEmpty())
-        return;
     if (edited == 0) {
-        removeFilesFromList(names);
+        drop();
         return;
     }
     QMessageBox *sheet =
@@ -405,9 +414,9 @@ void MainWindowController::removeFilesClick()
     // Enter must not throw edits away.
     sheet->setDefaultButton(cancel);
     sheet->setEscapeButton(cancel);
-    connect(sheet, &QMessageBox::finished, this, [this, sheet, remove, names] {
+    connect(sheet, &QMessageBox::finished, this, [sheet, remove, drop = std::move(drop)] {
         if (sheet->clickedButton() == remove)
-            removeFilesFromList(names);
+            drop();
     });
     sheet->open();
 }

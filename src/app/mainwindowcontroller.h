@@ -96,6 +96,8 @@ public:
     void removeMakerNotes();
     void reloadSelectedFiles();
     void removeFilesClick();
+    // Clear List: asks first, like a removal, when any file has unsaved edits.
+    void clearFilesClick();
     void clearAllFiles();
     void showConfigurations();
     void showMap();
@@ -153,6 +155,9 @@ private:
     void connectCommands();
     void handleSelectionChanged();
     void removeFilesFromList(const QStringList &names);
+    // Runs drop at once when none of the files has unsaved edits, otherwise after the user
+    // agreed to lose them.
+    void dropFilesAsking(const QList<ExifFileInfoPtr> &dropped, std::function<void()> drop);
     void handleBatchRead(const FileReadQueue::Batch &batch);
     void replaceReloadedFiles(const FileReadQueue::Batch &batch);
     void handleReadingChanged(bool busy);

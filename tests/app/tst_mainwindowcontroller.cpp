@@ -470,6 +470,7 @@ private Q_SLOTS:
     // Files with unsaved edits leave the list only when the user says so; others go at once.
     void removingEditedFilesAsksFirst_data()
     {
+        QTest::addColumn<QString>("command");    // "remove" the selection, or "clear" the list
         QTest::addColumn<QStringList>("edited"); // of a.jpg, b.jpg, c.jpg; all three selected
         QTest::addColumn<QString>("question");   // empty: no question
         QTest::addColumn<QString>("answer");     // "Enter": the default button
@@ -479,17 +480,22 @@ private Q_SLOTS:
         const QString two = u"Remove 2 files with unsaved changes from the list?"_s;
         const QString three = u"Remove 3 files with unsaved changes from the list?"_s;
         const QString remove = u"Remove from List"_s;
-        QTest::newRow("none edited") << none << QString() << QString() << none;
-        QTest::newRow("one edited, removed") << QStringList{u"b.jpg"_s} << one << remove << none;
-        QTest::newRow("two edited, cancelled")
-            << QStringList{u"a.jpg"_s, u"c.jpg"_s} << two << u"Cancel"_s << all;
-        QTest::newRow("Enter keeps them") << QStringList{u"a.jpg"_s} << one << u"Enter"_s << all;
-        // Text typed into a row for the three files counts as their edit.
-        QTest::newRow("typed, not confirmed")
-            << QStringList{u"typed"_s} << three << u"Cancel"_s << all;
+        for (const QString &command : {u"remove"_s, u"clear"_s}) {
+            const auto row = [&command](const char *name) -> QTestData & {
+                return QTest::addRow("%s: %s", qPrintable(command), name) << command;
+            };
+            row("none edited") << none << QString() << QString() << none;
+            row("one edited, removed") << QStringList{u"b.jpg"_s} << one << remove << none;
+            row("two edited, cancelled")
+                << QStringList{u"a.jpg"_s, u"c.jpg"_s} << two << u"Cancel"_s << all;
+            row("Enter keeps them") << QStringList{u"a.jpg"_s} << one << u"Enter"_s << all;
+            // Text typed into a row for the three files counts as their edit.
+            row("typed, not confirmed") << QStringList{u"typed"_s} << three << u"Cancel"_s << all;
+        }
     }
     void removingEditedFilesAsksFirst()
     {
+        QFETCH(QString, command);
         QFETCH(QStringList, edited);
         QFETCH(QString, question);
         QFETCH(QString, answer);
@@ -507,7 +513,10 @@ private Q_SLOTS:
             QTest::keyClicks(edit, u"Bob"_s);
         }
 
-        window.menus()->action(MainWindowMenus::Command::RemoveFiles)->trigger();
+        window.menus()
+            ->action(command == u"clear" ? MainWindowMenus::Command::ClearFiles
+                                         : MainWindowMenus::Command::RemoveFiles)
+            ->trigger();
         QMessageBox *sheet = visibleBox(window.window());
         QCOMPARE(sheet ? sheet->text() : QString(), question);
         if (sheet) {
