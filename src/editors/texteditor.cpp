@@ -106,10 +106,15 @@ int TextEditor::createEditorContent(QWidget *parent, QRect frame)
     }
     if (field()->dataType() == FieldDataType::LangAlt) {
         m_otherLanguages = new QLabel(m_editor);
-        m_otherLanguages->setFont(ApertureTheme::labelFont());
-        m_otherLanguages->setEnabled(false);
+        QFont font = m_editor->font();
+        font.setItalic(true);
+        m_otherLanguages->setFont(font);
+        // In the field's own text colour, so it reads as well as the value beside it.
+        m_otherLanguages->setForegroundRole(QPalette::Text);
+        m_otherLanguages->setAlignment(Qt::AlignVCenter | Qt::AlignRight);
         auto *layout = new QHBoxLayout(m_editor);
         layout->setContentsMargins(0, 0, 6, 0);
+        layout->setSpacing(0);
         layout->addStretch();
         layout->addWidget(m_otherLanguages);
         m_otherLanguages->hide();
