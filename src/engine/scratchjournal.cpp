@@ -85,7 +85,8 @@ void ScratchJournal::enter(const QString &folder)
 int ScratchJournal::cleanUp()
 {
     const QString file = path();
-    QMutexLocker locker(&mutex);
+    // The folders are looked at unlocked: one on a network share that does not answer must not
+    // hold up a save elsewhere.
     int removed = 0;
     QStringList kept;
     for (const QString &folder : readJournal(file)) {
@@ -95,6 +96,7 @@ int ScratchJournal::cleanUp()
         if (found.inUse > 0 && !kept.contains(folder))
             kept.append(folder);
     }
+    QMutexLocker locker(&mutex);
     for (const QString &folder : std::as_const(entered)) {
         if (!kept.contains(folder))
             kept.append(folder);
