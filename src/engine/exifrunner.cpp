@@ -12,6 +12,8 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QMutex>
+#include <QMutexLocker>
 #include <QSet>
 
 #include <atomic>
@@ -262,13 +264,28 @@ QString ExifRunner::formatNumberFromExifTool(const QString &value, const ExifFie
 TagDictionary ExifRunner::preformatValues(const TagDictionary &values, StringPool *pool)
 {
     const ExifFieldsController *catalogue = ExifFieldsController::defaultInstance();
-    const auto shared = [pool](const QString &text) { return pool ? pool->intern(text) : text; };
+    // Without a pool (one file read back after its save), tag names still share the copy every
+    // other record of the run holds, and values drop the spare room the parser left: thousands
+    // of files saved at once would otherwise each hold their own.
+    const auto sharedKey = [pool](const QString &key) {
+        if (pool)
+            return pool->intern(key);
+        static QMutex mutex;
+        static StringPool names;
+        QMutexLocker locker(&mutex);
+        return names.intern(key);
+    };
+    const auto sharedValue = [pool](const QString &text) {
+        if (pool)
+            return pool->intern(text);
+        return text.capacity() > text.size() ? QString(text.constData(), text.size()) : text;
+    };
     TagDictionary formatted;
     formatted.reserve(values.size());
     for (auto it = values.cbegin(); it != values.cend(); ++it) {
         const ExifFieldPtr field = catalogue->field(it.key());
-        formatted.insert(shared(it.key()),
-                         shared(field ? formatValue(it.value(), *field) : it.value()));
+        formatted.insert(sharedKey(it.key()),
+                         sharedValue(field ? formatValue(it.value(), *field) : it.value()));
     }
     filterLeicaLensData(formatted);
     return formatted;
