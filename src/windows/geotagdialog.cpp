@@ -78,7 +78,8 @@ GeotagDialog::GeotagDialog(const QList<ExifFileInfoPtr> &files, QWidget *parent)
             m_zoneCombo->addItem(QString::fromLatin1(id));
     }
     m_zoneCombo->setCurrentIndex(-1);
-    m_zoneCombo->lineEdit()->setPlaceholderText(text("Choose the zone the camera's clock was set to"));
+    m_zoneCombo->lineEdit()->setPlaceholderText(
+        text("Choose the zone the camera's clock was set to"));
     m_zoneCombo->completer()->setFilterMode(Qt::MatchContains);
     m_zoneCombo->completer()->setCompletionMode(QCompleter::PopupCompletion);
     for (const ExifFileInfoPtr &file : std::as_const(m_files))
