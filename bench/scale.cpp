@@ -14,6 +14,10 @@
 #include "app/filelistmodel.h"
 #include "app/filelistview.h"
 #include "app/filereadqueue.h"
+#include "app/auxiliarywindows.h"
+#include "app/fileoperations.h"
+#include "app/filelistpresenter.h"
+#include "app/mainwindow.h"
 #include "app/mainwindowcontroller.h"
 #include "catalogue/exiffieldscontroller.h"
 #include "editors/configurationviewcontroller.h"
@@ -347,14 +351,14 @@ int main(int argc, char *argv[])
     const qint64 rssBefore = residentKiB();
 
     timer.restart();
-    controller.addFiles(paths);
-    if (!controller.waitForPendingReads(3600 * 1000) || controller.files().size() != count) {
+    controller.fileList()->addFiles(paths);
+    if (!controller.fileList()->waitForPendingReads(3600 * 1000) || controller.fileList()->files().size() != count) {
         std::printf("the main window read %lld of %d files\n",
-                    static_cast<long long>(controller.files().size()), count);
+                    static_cast<long long>(controller.fileList()->files().size()), count);
         return 1;
     }
     const double ours = timer.nsecsElapsed() / 1e6;
-    const qsizetype tags = controller.files().first()->exifData().size();
+    const qsizetype tags = controller.fileList()->files().first()->exifData().size();
     std::printf("main window read (chunked) of all files: %.0f ms, %lld tags in the first file\n",
                 ours, static_cast<long long>(tags));
     if (bareRead)
@@ -375,18 +379,18 @@ int main(int argc, char *argv[])
     form.setExifFiles({});
     QApplication::processEvents();
     timer.restart();
-    form.setExifFiles(controller.files());
+    form.setExifFiles(controller.fileList()->files());
     QApplication::processEvents();
     std::printf("setExifFiles with all files: %.0f ms\n", timer.nsecsElapsed() / 1e6);
 
     // As the user sees it: Select All in the list until the form is filled and painted.
-    QItemSelectionModel &selection = *controller.filesTable()->selectionModel();
+    QItemSelectionModel &selection = *controller.fileList()->view()->selectionModel();
     double slowestSelect = 0;
     for (int round = 0; round < 3; ++round) {
         selection.clearSelection();
         QApplication::processEvents();
         timer.restart();
-        controller.filesTable()->selectAll();
+        controller.fileList()->view()->selectAll();
         controller.window()->repaint();
         QApplication::processEvents();
         slowestSelect = std::max(slowestSelect, timer.nsecsElapsed() / 1e6);
@@ -400,7 +404,7 @@ int main(int argc, char *argv[])
         std::printf("no caption row in the form\n");
         return 1;
     }
-    FileListModel &model = *controller.model();
+    FileListModel &model = *controller.fileList()->model();
     const auto allModified = [&model] {
         for (int r = 0; r < model.rowCount(); ++r) {
             if (!model.data(model.index(r), FileInfoCell::ModifiedRole).toBool())
@@ -478,7 +482,7 @@ int main(int argc, char *argv[])
                 peakKiB = std::max(peakKiB, residentKiB());
         });
         timer.restart();
-        runner.saveFiles(controller.files(), 1);
+        runner.saveFiles(controller.fileList()->files(), 1);
         sinceTick.start();
         ticker.start(5);
         listener.loop.exec();

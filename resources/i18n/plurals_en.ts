@@ -21,7 +21,7 @@
     </message>
 </context>
 <context>
-    <name>MainWindowController</name>
+    <name>FileOperations</name>
     <message numerus="yes">
         <source>All metadata cannot be removed from the %n selected file(s) without making them unreadable (camera raw files need their tags).</source>
         <translation>
@@ -43,6 +43,9 @@
             <numerusform>Remove all metadata from %n files?</numerusform>
         </translation>
     </message>
+</context>
+<context>
+    <name>FileListPresenter</name>
     <message numerus="yes">
         <source>Remove %n file(s) with unsaved changes from the list?</source>
         <translation>

@@ -106,8 +106,8 @@ bool TagsmithAppDelegate::openFile(const QString &path)
 
 TagsmithAppDelegate::TerminateReply TagsmithAppDelegate::applicationShouldTerminate()
 {
-    if (m_mainWindowController && m_mainWindowController->hasDiretyFiles()) {
-        m_mainWindowController->setSaveStatus(1);
+    if (m_mainWindowController && m_mainWindowController->hasModifiedFiles()) {
+        m_mainWindowController->quitRequested();
         m_mainWindowController->window()->close();
         return TerminateReply::TerminateLater;
     }

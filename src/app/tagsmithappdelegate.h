@@ -16,15 +16,15 @@ class QWidget;
 
 // What the application shell needs from the main window; MainWindowController implements it,
 // tests a stand-in.
-class AppMainWindow
+class AppMainWindow : public QObject
 {
+    Q_OBJECT
+
 public:
-    virtual ~AppMainWindow() = default;
     virtual QWidget *window() = 0;
-    // Spelt so to match the main window controller's own name for it.
-    virtual bool hasDiretyFiles() const = 0;
-    // 1 tells the main window that a quit waits for its close question.
-    virtual void setSaveStatus(int status) = 0;
+    virtual bool hasModifiedFiles() const = 0;
+    // A quit waits for the window's close question, which ends it.
+    virtual void quitRequested() = 0;
     virtual bool openFile(const QString &path) = 0;
     // Several paths handed over at once (the command line): one add, so one note lists every
     // path that was not added, with those turned away before (rejected).

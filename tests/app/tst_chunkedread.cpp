@@ -2,6 +2,10 @@
 #include "app/filelistview.h"
 #include "app/filereadqueue.h"
 #include "app/mainwindow.h"
+#include "app/auxiliarywindows.h"
+#include "app/fileoperations.h"
+#include "app/filelistpresenter.h"
+#include "app/mainwindow.h"
 #include "app/mainwindowcontroller.h"
 #include "catalogue/exiffieldscontroller.h"
 #include "catalogue/exifsettings.h"
@@ -207,26 +211,26 @@ private Q_SLOTS:
         auto *window = qobject_cast<MainWindow *>(controller.window());
         QVERIFY(window);
         window->show();
-        controller.readQueue()->setChunkSize(3);
+        controller.fileList()->readQueue()->setChunkSize(3);
         bool barShown = false;
-        connect(controller.readQueue(), &FileReadQueue::progressChanged, window,
+        connect(controller.fileList()->readQueue(), &FileReadQueue::progressChanged, window,
                 [&](int read, int) {
                     barShown = barShown || window->readingBar()->isVisible();
                     if (read >= 4 && window->readingBar()->isVisible())
                         window->cancelReadingButton()->click();
                 });
-        QVERIFY(controller.addFiles(m_paths));
-        QVERIFY(controller.waitForPendingReads());
+        QVERIFY(controller.fileList()->addFiles(m_paths));
+        QVERIFY(controller.fileList()->waitForPendingReads());
         QVERIFY(barShown);
         QVERIFY(!window->readingBar()->isVisible());
-        const qsizetype kept = controller.files().size();
+        const qsizetype kept = controller.fileList()->files().size();
         QVERIFY2(kept == 3 || kept == 6, qPrintable(QString::number(kept)));
-        QCOMPARE(names(controller.files()), names(records(m_paths.mid(0, kept))));
-        QCOMPARE(names(controller.selectedFiles()), names(records(m_paths.mid(0, kept))));
-        for (const ExifFileInfoPtr &file : controller.files())
+        QCOMPARE(names(controller.fileList()->files()), names(records(m_paths.mid(0, kept))));
+        QCOMPARE(names(controller.fileList()->selectedFiles()), names(records(m_paths.mid(0, kept))));
+        for (const ExifFileInfoPtr &file : controller.fileList()->files())
             QVERIFY(file->isValid());
         // The files not read can be added again.
-        QVERIFY(!controller.hasFileInList(m_paths.last()));
+        QVERIFY(!controller.fileList()->hasFileInList(m_paths.last()));
     }
 };
 

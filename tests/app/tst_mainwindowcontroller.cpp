@@ -1,6 +1,11 @@
 #include "app/filelistmodel.h"
 #include "app/filelistview.h"
+#include "app/auxiliarywindows.h"
+#include "app/fileoperations.h"
+#include "app/filelistpresenter.h"
+#include "app/mainwindow.h"
 #include "app/mainwindowcontroller.h"
+#include "app/mainwindowmenus.h"
 #include "catalogue/exiffieldscontroller.h"
 #include "catalogue/stringtables.h"
 #include "editors/configurationviewcontroller.h"
@@ -12,6 +17,7 @@
 #include "values/usersettings.h"
 #include "windows/addfilesnote.h"
 #include "windows/fileinfocell.h"
+#include "windows/resultswindowcontroller.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemModelTester>
@@ -130,7 +136,7 @@ class TestMainWindowController : public QObject
 
     bool add(const QStringList &paths)
     {
-        return m_controller->addFiles(paths) && m_controller->waitForPendingReads();
+        return m_controller->fileList()->addFiles(paths) && m_controller->fileList()->waitForPendingReads();
     }
 
 private Q_SLOTS:
@@ -158,23 +164,25 @@ private Q_SLOTS:
     {
         QTest::addColumn<bool>("quit");
         QTest::addColumn<QString>("answer");
-        QTest::addColumn<bool>("saveFails");
+        QTest::addColumn<QString>("failureAnswer");
         QTest::addColumn<bool>("closed");
         QTest::addColumn<QList<bool>>("replies");
         QTest::addColumn<int>("status");
         const QString none, save = u"Save"_s, cancel = u"Cancel"_s, dontSave = u"Don't Save"_s;
         // clang-format off
-        QTest::newRow("clean close") << false << none << false << true << QList<bool>{} << 0;
-        QTest::newRow("clean quit") << true << none << false << true << QList<bool>{true} << 1;
-        QTest::newRow("don't save, close") << false << dontSave << false << true << QList<bool>{} << 0;
-        QTest::newRow("don't save, quit") << true << dontSave << false << false << QList<bool>{true} << 1;
-        QTest::newRow("cancel, close") << false << cancel << false << false << QList<bool>{} << 0;
-        QTest::newRow("cancel, quit") << true << cancel << false << false << QList<bool>{false} << 0;
-        QTest::newRow("save, close") << false << save << false << true << QList<bool>{} << 0;
-        QTest::newRow("save, quit") << true << save << false << false << QList<bool>{true} << 3;
-        // "Don't Exit" has always exited: the kept quirk of the failed-save alert.
-        QTest::newRow("save fails, close") << false << save << true << true << QList<bool>{} << 0;
-        QTest::newRow("save fails, quit") << true << save << true << false << QList<bool>{true} << 3;
+        QTest::newRow("clean close") << false << none << none << true << QList<bool>{} << 0;
+        QTest::newRow("clean quit") << true << none << none << true << QList<bool>{true} << 1;
+        QTest::newRow("don't save, close") << false << dontSave << none << true << QList<bool>{} << 0;
+        QTest::newRow("don't save, quit") << true << dontSave << none << false << QList<bool>{true} << 1;
+        QTest::newRow("cancel, close") << false << cancel << none << false << QList<bool>{} << 0;
+        QTest::newRow("cancel, quit") << true << cancel << none << false << QList<bool>{false} << 0;
+        QTest::newRow("save, close") << false << save << none << true << QList<bool>{} << 0;
+        QTest::newRow("save, quit") << true << save << none << false << QList<bool>{true} << 3;
+        // After a failed save "Don't Exit" keeps the window and its edits; "Exit" goes on.
+        QTest::newRow("save fails, close, don't exit") << false << save << u"Don't Exit"_s << false << QList<bool>{} << 0;
+        QTest::newRow("save fails, quit, don't exit") << true << save << u"Don't Exit"_s << false << QList<bool>{false} << 0;
+        QTest::newRow("save fails, close, exit") << false << save << u"Exit"_s << true << QList<bool>{} << 0;
+        QTest::newRow("save fails, quit, exit") << true << save << u"Exit"_s << false << QList<bool>{true} << 3;
         // clang-format on
     }
 
@@ -183,15 +191,16 @@ private Q_SLOTS:
         QFETCH(bool, quit);
         QFETCH(QString, answer);
         const bool modified = !answer.isEmpty();
-        QFETCH(bool, saveFails);
+        QFETCH(QString, failureAnswer);
+        const bool saveFails = !failureAnswer.isEmpty();
 
         MainWindowController &window = controller();
         const QString path = image(u"close.jpg"_s);
         QVERIFY(add({path}));
         if (modified)
-            window.files().value(0)->setExifValue(Artist, u"Bob"_s);
+            window.fileList()->files().value(0)->setExifValue(Artist, u"Bob"_s);
         if (quit)
-            window.setSaveStatus(MainWindowController::QuitWaiting);
+            window.quitRequested();
 
         window.window()->close();
         QCOMPARE(visibleBox(window.window()) != nullptr, modified);
@@ -199,18 +208,24 @@ private Q_SLOTS:
             QVERIFY(clickButton(window.window(), answer));
             if (answer == u"Save"_s) {
                 QCOMPARE(m_runner->calls, QStringList{u"save 1 close.jpg"_s});
-                QVERIFY(window.isSaving());
+                QVERIFY(window.operations()->isSaving());
                 auto messages = std::make_shared<ErrorMessages>(path);
                 if (saveFails)
                     messages->addError(u"Error: disk full"_s);
                 else
                     messages->addWarning(u"Warning: minor"_s);
-                window.finishProcessing({{path, messages}});
+                window.operations()->finishProcessing({{path, messages}});
                 if (saveFails)
-                    QVERIFY(clickButton(window.window(), u"Don't Exit"_s));
+                    QVERIFY(clickButton(window.window(), failureAnswer));
             }
         }
         QTEST(!window.window()->isVisible(), "closed");
+        if (failureAnswer == u"Don't Exit"_s) {
+            // The edit is still there to be saved again, and the reason is on screen.
+            QVERIFY(window.hasModifiedFiles() && !window.operations()->progressPanel());
+            ResultsWindowController *results = window.auxiliaryWindows()->resultsWindowController();
+            QVERIFY(results && results->isVisible());
+        }
         QTEST(m_replies, "replies");
         QTEST(window.saveStatus(), "status");
     }
@@ -220,16 +235,16 @@ private Q_SLOTS:
     {
         MainWindowController &window = controller();
         QVERIFY(add({image(u"busy.jpg"_s)}));
-        const ExifFileInfoPtr file = window.files().value(0);
+        const ExifFileInfoPtr file = window.fileList()->files().value(0);
         file->setExifValue(Artist, u"Bob"_s);
-        window.processFiles();
-        QVERIFY(window.isSaving());
-        window.setSaveStatus(MainWindowController::QuitWaiting);
+        window.operations()->processFiles();
+        QVERIFY(window.operations()->isSaving());
+        window.quitRequested();
         window.window()->close();
         QVERIFY(window.window()->isVisible() && !visibleBox(window.window()));
         file->setReadData(file->exifData()); // what a successful save leaves
-        window.finishProcessing({});
-        QVERIFY(!window.isSaving() && !window.window()->isVisible());
+        window.operations()->finishProcessing({});
+        QVERIFY(!window.operations()->isSaving() && !window.window()->isVisible());
         QCOMPARE(m_replies, QList<bool>{true});
     }
 
@@ -242,10 +257,10 @@ private Q_SLOTS:
         QDropEvent drop(QPointF(20, 20), Qt::CopyAction, &dropped, Qt::LeftButton, Qt::NoModifier);
         QDragEnterEvent enter(QPoint(20, 20), Qt::CopyAction, &dropped, Qt::LeftButton,
                               Qt::NoModifier);
-        QCoreApplication::sendEvent(window.filesTable()->viewport(), &enter);
-        QCoreApplication::sendEvent(window.filesTable()->viewport(), &drop);
-        QVERIFY(enter.isAccepted() && drop.isAccepted() && window.waitForPendingReads());
-        QCOMPARE(names(window.files()), QStringList{u"first.jpg"_s});
+        QCoreApplication::sendEvent(window.fileList()->view()->viewport(), &enter);
+        QCoreApplication::sendEvent(window.fileList()->view()->viewport(), &drop);
+        QVERIFY(enter.isAccepted() && drop.isAccepted() && window.fileList()->waitForPendingReads());
+        QCOMPARE(names(window.fileList()->files()), QStringList{u"first.jpg"_s});
         QVERIFY(!image(u"shoot/a.jpg"_s).isEmpty() && !image(u"shoot/deeper/B.JPG"_s).isEmpty());
         QVERIFY(!image(u"shoot/c.png"_s, {}).isEmpty());
         QFile notes(m_dir.filePath(u"shoot/notes.txt"_s));
@@ -253,20 +268,20 @@ private Q_SLOTS:
         notes.close();
 
         QVERIFY(add({m_dir.filePath(u"shoot"_s)}));
-        const QStringList rows = names(window.files()), added = rows.mid(1);
+        const QStringList rows = names(window.fileList()->files()), added = rows.mid(1);
         QStringList sorted = added;
         sorted.sort();
         QCOMPARE(rows.first(), u"first.jpg"_s);
         QCOMPARE(sorted, (QStringList{u"B.JPG"_s, u"a.jpg"_s, u"c.png"_s}));
-        QCOMPARE(names(window.selectedFiles()), added);
+        QCOMPARE(names(window.fileList()->selectedFiles()), added);
         QCOMPARE(names(window.configController()->exifFiles()), added);
-        const QList<FileRejection> rejected = window.addFilesNote()->rejections();
+        const QList<FileRejection> rejected = window.fileList()->addFilesNote()->rejections();
         QCOMPARE(rejected.size(), 1);
         QCOMPARE(rejected.first().reason, FileRejection::Reason::Unsupported);
 
-        QVERIFY(!window.addFiles({first}) && window.waitForPendingReads());
-        QCOMPARE(window.files().size(), 4);
-        QCOMPARE(window.addFilesNote()->rejections().value(0).reason,
+        QVERIFY(!window.fileList()->addFiles({first}) && window.fileList()->waitForPendingReads());
+        QCOMPARE(window.fileList()->files().size(), 4);
+        QCOMPARE(window.fileList()->addFilesNote()->rejections().value(0).reason,
                  FileRejection::Reason::AlreadyInList);
     }
 
@@ -283,24 +298,24 @@ private Q_SLOTS:
         const QString current = QDir::currentPath();
         QVERIFY(QDir::setCurrent(QFileInfo(photo).path()));
         const bool isAdded =
-            window.addFiles({u"a.jpg"_s, u"../d/./a.jpg"_s}) && window.waitForPendingReads();
+            window.fileList()->addFiles({u"a.jpg"_s, u"../d/./a.jpg"_s}) && window.fileList()->waitForPendingReads();
         const QString here = QDir::currentPath();
         QVERIFY(QDir::setCurrent(current));
         QVERIFY(isAdded);
-        QCOMPARE(window.files().size(), 1);
-        QCOMPARE(window.files().first()->fileName(), here + u"/a.jpg"_s);
-        QVERIFY(window.files().first()->originalExifData().contains(Artist));
+        QCOMPARE(window.fileList()->files().size(), 1);
+        QCOMPARE(window.fileList()->files().first()->fileName(), here + u"/a.jpg"_s);
+        QVERIFY(window.fileList()->files().first()->originalExifData().contains(Artist));
         QCOMPARE(
-            window.addFilesNote()->detailLines(),
+            window.fileList()->addFilesNote()->detailLines(),
             QStringList{here + u"/../d/./a.jpg \u2014 the same file as "_s + here + u"/a.jpg"_s});
 
         const QString names = QFileInfo(here).path();
-        QVERIFY(!window.addFiles({names + u"/link/a.jpg"_s, names + u"/hard.jpg"_s}));
-        QVERIFY(window.waitForPendingReads());
-        QCOMPARE(window.files().size(), 1);
+        QVERIFY(!window.fileList()->addFiles({names + u"/link/a.jpg"_s, names + u"/hard.jpg"_s}));
+        QVERIFY(window.fileList()->waitForPendingReads());
+        QCOMPARE(window.fileList()->files().size(), 1);
         const QString inList =
             u" \u2014 the same file as "_s + here + u"/a.jpg, already in the list"_s;
-        QCOMPARE(window.addFilesNote()->detailLines(),
+        QCOMPARE(window.fileList()->addFilesNote()->detailLines(),
                  QStringList({names + u"/link/a.jpg"_s + inList, names + u"/hard.jpg"_s + inList}));
     }
 
@@ -325,15 +340,15 @@ private Q_SLOTS:
 
         const QStringList tags{u"-Artist=Ann"_s, u"-Software=Editor"_s};
         QVERIFY(add({image(u"one.jpg"_s, tags), image(u"two.jpg"_s, tags)}));
-        window.selectRows({1});
+        window.fileList()->selectRows({1});
         window.menus()->configsMenu()->actions().at(1)->trigger();
 
-        const ExifFileInfoPtr one = window.files().at(0), two = window.files().at(1);
+        const ExifFileInfoPtr one = window.fileList()->files().at(0), two = window.fileList()->files().at(1);
         QCOMPARE(two->exifValue(Artist), u"Preset a"_s);
         QVERIFY(!two->hasExifValue(u"IFD0:Software"_s));
         QCOMPARE(one->exifValue(Artist), u"Ann"_s);
         const auto modified = [&window](int row) {
-            return window.model()->index(row).data(FileInfoCell::ModifiedRole).toBool();
+            return window.fileList()->model()->index(row).data(FileInfoCell::ModifiedRole).toBool();
         };
         QVERIFY(!modified(0) && modified(1) && window.window()->isWindowModified());
 
@@ -401,7 +416,7 @@ private Q_SLOTS:
         }
         QVERIFY(add(paths));
 
-        window.removeAllMetadata();
+        window.operations()->removeAllMetadata();
         QMessageBox *sheet = visibleBox(window.window());
         QVERIFY(sheet);
         QTEST(sheet->text(), "text");
@@ -416,10 +431,10 @@ private Q_SLOTS:
         QTEST(m_runner->calls, "calls");
         if (m_runner->calls.isEmpty())
             return;
-        QVERIFY(window.isSaving() && window.progressPanel());
-        window.finishProcessing({});
-        QVERIFY(!window.isSaving());
-        QTRY_VERIFY(!window.progressPanel());
+        QVERIFY(window.operations()->isSaving() && window.operations()->progressPanel());
+        window.operations()->finishProcessing({});
+        QVERIFY(!window.operations()->isSaving());
+        QTRY_VERIFY(!window.operations()->progressPanel());
     }
 
     // However the save is reached, typed text is written and announced once.
@@ -436,7 +451,7 @@ private Q_SLOTS:
         MainWindowController &window = controller();
         QVERIFY(QTest::qWaitForWindowActive(window.window()));
         QVERIFY(add({image(u"typed.jpg"_s)}));
-        window.selectRows({0});
+        window.fileList()->selectRows({0});
         TextEditor *row = textRow(window, Artist);
         QVERIFY(row);
         QLineEdit *edit = row->editor();
@@ -447,15 +462,15 @@ private Q_SLOTS:
 
         QSignalSpy updates(&ExifFilesUpdateCenter::instance(),
                            &ExifFilesUpdateCenter::exifFilesUpdated);
-        QSignalSpy rowsChanged(window.model(), &QAbstractItemModel::dataChanged);
+        QSignalSpy rowsChanged(window.fileList()->model(), &QAbstractItemModel::dataChanged);
         if (how.startsWith(u"return"))
             QTest::keyClick(edit, Qt::Key_Return);
         if (how.endsWith(u"click"))
-            QTest::mouseClick(window.processButton(), Qt::LeftButton);
+            QTest::mouseClick(static_cast<MainWindow *>(window.window())->processButton(), Qt::LeftButton);
         else
             window.menus()->action(MainWindowMenus::Command::Process)->trigger();
         // The focus leaving the row afterwards ends nothing new.
-        window.filesTable()->setFocus();
+        window.fileList()->view()->setFocus();
         QApplication::processEvents();
 
         QCOMPARE(updates.size(), 1);
@@ -463,8 +478,8 @@ private Q_SLOTS:
                  u"Bob"_s);
         QCOMPARE(rowsChanged.size(), 1);
         QCOMPARE(m_runner->calls, QStringList{u"save 1 typed.jpg"_s});
-        QCOMPARE(window.files().value(0)->exifValue(Artist), u"Bob"_s);
-        window.finishProcessing({});
+        QCOMPARE(window.fileList()->files().value(0)->exifValue(Artist), u"Bob"_s);
+        window.operations()->finishProcessing({});
     }
 
     // Files with unsaved edits leave the list only when the user says so; others go at once.
@@ -501,11 +516,11 @@ private Q_SLOTS:
         QFETCH(QString, answer);
         MainWindowController &window = controller();
         QVERIFY(add({image(u"a.jpg"_s), image(u"b.jpg"_s), image(u"c.jpg"_s)}));
-        for (const ExifFileInfoPtr &file : window.files()) {
+        for (const ExifFileInfoPtr &file : window.fileList()->files()) {
             if (edited.contains(QFileInfo(file->fileName()).fileName()))
                 file->setExifValue(Artist, u"Bob"_s);
         }
-        window.selectRows({0, 1, 2});
+        window.fileList()->selectRows({0, 1, 2});
         if (edited.contains(u"typed"_s)) {
             QLineEdit *edit = textRow(window, Artist)->editor();
             edit->setFocus();
@@ -528,7 +543,7 @@ private Q_SLOTS:
                 QVERIFY(clickButton(window.window(), answer));
             }
         }
-        QTEST(names(window.files()), "left");
+        QTEST(names(window.fileList()->files()), "left");
     }
 
     // Reload reads in the background like an add: the window keeps turning, the rows take the
@@ -538,8 +553,8 @@ private Q_SLOTS:
         MainWindowController &window = controller();
         const QString a = image(u"reload/a.jpg"_s), b = image(u"reload/b.jpg"_s);
         QVERIFY(add({a, b}));
-        window.selectRows({0, 1});
-        window.selectedFiles().first()->setExifValue(u"IFD0:Artist"_s, u"Typed"_s);
+        window.fileList()->selectRows({0, 1});
+        window.fileList()->selectedFiles().first()->setExifValue(u"IFD0:Artist"_s, u"Typed"_s);
         QVERIFY(Fixtures::runExifTool({u"-overwrite_original"_s, u"-Artist=Outside"_s, a}).ok());
         QVERIFY(QFile::remove(b));
         QCOMPARE(::mkfifo(QFile::encodeName(b).constData(), 0644), 0);
@@ -550,16 +565,16 @@ private Q_SLOTS:
         QTimer ticker;
         connect(&ticker, &QTimer::timeout, this, [&ticks] { ++ticks; });
         ticker.start(20);
-        window.reloadSelectedFiles();
-        QVERIFY(window.readQueue()->isBusy());
-        QVERIFY(window.waitForPendingReads());
-        const QStringList note = window.addFilesNote()->detailLines();
+        window.fileList()->reloadSelectedFiles();
+        QVERIFY(window.fileList()->readQueue()->isBusy());
+        QVERIFY(window.fileList()->waitForPendingReads());
+        const QStringList note = window.fileList()->addFilesNote()->detailLines();
         ExifRunner::setReadTimeout(limit);
 
         QVERIFY2(ticks > 30, qPrintable(QString::number(ticks))); // not frozen for 2 s
-        QCOMPARE(window.files().size(), 1);
-        QCOMPARE(window.selectedFiles().size(), 1);
-        QCOMPARE(window.selectedFiles().first()->exifValue(u"IFD0:Artist"_s), u"Outside"_s);
+        QCOMPARE(window.fileList()->files().size(), 1);
+        QCOMPARE(window.fileList()->selectedFiles().size(), 1);
+        QCOMPARE(window.fileList()->selectedFiles().first()->exifValue(u"IFD0:Artist"_s), u"Outside"_s);
         QVERIFY(!window.window()->isWindowModified());
         QCOMPARE(note, QStringList{b + u" \u2014 reading it took longer than 2 seconds"_s});
     }

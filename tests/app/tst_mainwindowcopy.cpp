@@ -1,5 +1,9 @@
 #include "app/filelistmodel.h"
 #include "app/mainwindow.h"
+#include "app/auxiliarywindows.h"
+#include "app/fileoperations.h"
+#include "app/filelistpresenter.h"
+#include "app/mainwindow.h"
 #include "app/mainwindowcontroller.h"
 #include "app/mainwindowmenus.h"
 #include "catalogue/exiffieldscontroller.h"
@@ -69,17 +73,17 @@ private Q_SLOTS:
 
         MainWindowController window(nullptr, nullptr, *m_store);
         window.window()->show();
-        QVERIFY(window.addFiles({source, jpeg, raw}) && window.waitForPendingReads());
-        const QList<int> others{window.model()->rowOf(jpeg), window.model()->rowOf(raw)};
-        QCOMPARE(window.model()->index(others[1]).data(FileInfoCell::SidecarRole).toString(),
+        QVERIFY(window.fileList()->addFiles({source, jpeg, raw}) && window.fileList()->waitForPendingReads());
+        const QList<int> others{window.fileList()->model()->rowOf(jpeg), window.fileList()->model()->rowOf(raw)};
+        QCOMPARE(window.fileList()->model()->index(others[1]).data(FileInfoCell::SidecarRole).toString(),
                  u"raw.xmp"_qs);
 
         QAction *copy = window.menus()->action(MainWindowMenus::Command::CopyMetadata);
         QAction *paste = window.menus()->action(MainWindowMenus::Command::PasteMetadata);
-        window.selectRows({window.model()->rowOf(source)});
+        window.fileList()->selectRows({window.fileList()->model()->rowOf(source)});
         QVERIFY(copy->isEnabled() && !paste->isEnabled());
         copy->trigger();
-        window.selectRows(others);
+        window.fileList()->selectRows(others);
         QVERIFY(paste->isEnabled() && !copy->isEnabled());
         paste->trigger();
 
@@ -92,19 +96,19 @@ private Q_SLOTS:
         dialog->accept();
         QCOMPARE(PasteMetadataDialog::lastSelection().sections, chosen.sections);
         for (int row : std::as_const(others))
-            QVERIFY(window.model()->index(row).data(FileInfoCell::ModifiedRole).toBool());
+            QVERIFY(window.fileList()->model()->index(row).data(FileInfoCell::ModifiedRole).toBool());
         // Nothing reaches the disk before a save.
         QCOMPARE(tagOf(jpeg, u"IPTC:Headline"_qs), QString());
 
-        window.processFiles();
-        QTRY_VERIFY_WITH_TIMEOUT(!window.isSaving(), 15000);
+        window.operations()->processFiles();
+        QTRY_VERIFY_WITH_TIMEOUT(!window.operations()->isSaving(), 15000);
         QCOMPARE(tagOf(jpeg, u"IPTC:Headline"_qs), u"Boats"_qs);
         QCOMPARE(tagOf(jpeg, u"XMP-photoshop:City"_qs), u"Lisbon"_qs);
         QCOMPARE(tagOf(jpeg, u"IFD0:Artist"_qs), QString());
         QCOMPARE(tagOf(raw, u"IPTC:Headline"_qs), u"Boats"_qs);
         QCOMPARE(tagOf(sidecar, u"XMP-photoshop:City"_qs), u"Lisbon"_qs);
         for (int row = 0; row < 3; ++row)
-            QVERIFY(!window.model()->index(row).data(FileInfoCell::ModifiedRole).toBool());
+            QVERIFY(!window.fileList()->model()->index(row).data(FileInfoCell::ModifiedRole).toBool());
     }
 };
 

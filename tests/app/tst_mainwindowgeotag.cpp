@@ -1,4 +1,8 @@
 #include "app/filelistmodel.h"
+#include "app/auxiliarywindows.h"
+#include "app/fileoperations.h"
+#include "app/filelistpresenter.h"
+#include "app/mainwindow.h"
 #include "app/mainwindowcontroller.h"
 #include "app/mainwindowmenus.h"
 #include "catalogue/exiffieldscontroller.h"
@@ -193,8 +197,8 @@ private Q_SLOTS:
 
         MainWindowController window(nullptr, nullptr, *m_store);
         window.window()->show();
-        QVERIFY(window.addFiles({inside, after}) && window.waitForPendingReads());
-        window.selectRows({0, 1});
+        QVERIFY(window.fileList()->addFiles({inside, after}) && window.fileList()->waitForPendingReads());
+        window.fileList()->selectRows({0, 1});
         QAction *geotag = window.menus()->action(MainWindowMenus::Command::GeotagFromTrackLog);
         QVERIFY(geotag->isEnabled());
         geotag->trigger();
@@ -204,7 +208,7 @@ private Q_SLOTS:
 
         dialog->setGpxFiles({gpx});
         dialog->zoneCombo()->setCurrentText(u"UTC+02:00"_qs);
-        const int afterRow = window.files().at(0)->fileName() == after ? 0 : 1;
+        const int afterRow = window.fileList()->files().at(0)->fileName() == after ? 0 : 1;
         QCOMPARE(dialog->resultsList()->topLevelItem(afterRow)->text(2),
                  u"not matched: after the track"_qs);
         QVERIFY(dialog->applyButton()->isEnabled());
@@ -223,14 +227,14 @@ private Q_SLOTS:
                                     u"GPS:GPSAltitude"_qs, u"GPS:GPSAltitudeRef"_qs,
                                     u"GPS:GPSDateStamp"_qs, u"GPS:GPSTimeStamp"_qs}));
         const auto modified = [&window](int row) {
-            return window.model()->index(row).data(FileInfoCell::ModifiedRole).toBool();
+            return window.fileList()->model()->index(row).data(FileInfoCell::ModifiedRole).toBool();
         };
         QVERIFY(modified(1 - afterRow) && !modified(afterRow));
         // Nothing reaches the disk before a save.
         QCOMPARE(readBack(inside).at(0), u"-"_qs);
 
-        window.processFiles();
-        QTRY_VERIFY_WITH_TIMEOUT(!window.isSaving(), 20000);
+        window.operations()->processFiles();
+        QTRY_VERIFY_WITH_TIMEOUT(!window.operations()->isSaving(), 20000);
         const QStringList written = readBack(inside);
         const QStringList expected = readBack(reference);
         QCOMPARE(written.size(), 8);
@@ -274,10 +278,10 @@ private Q_SLOTS:
 
         MainWindowController window(nullptr, nullptr, *m_store);
         window.window()->show();
-        QVERIFY(window.addFiles({path}) && window.waitForPendingReads());
-        window.selectRows({0});
+        QVERIFY(window.fileList()->addFiles({path}) && window.fileList()->waitForPendingReads());
+        window.fileList()->selectRows({0});
         window.menus()->action(MainWindowMenus::Command::ShowMap)->trigger();
-        MapWindowController *map = window.mapWindowController();
+        MapWindowController *map = window.auxiliaryWindows()->mapWindowController();
         QVERIFY(map && map->removePinButton()->isEnabled());
         map->removePinButton()->click();
         QMessageBox *sheet = nullptr;
@@ -292,7 +296,7 @@ private Q_SLOTS:
         QVERIFY(chosen);
         chosen->click();
 
-        const ExifFileInfoPtr file = window.files().value(0);
+        const ExifFileInfoPtr file = window.fileList()->files().value(0);
         const bool removed = answer == u"Remove Pin";
         for (const QString &key :
              {u"GPS:GPSLatitude"_qs, u"GPS:GPSAltitude"_qs, u"GPS:GPSAltitudeRef"_qs,
@@ -309,8 +313,8 @@ private Q_SLOTS:
         if (!removed)
             return;
 
-        window.processFiles();
-        QTRY_VERIFY_WITH_TIMEOUT(!window.isSaving(), 20000);
+        window.operations()->processFiles();
+        QTRY_VERIFY_WITH_TIMEOUT(!window.operations()->isSaving(), 20000);
         QStringList gone(7, u"-"_qs);
         QCOMPARE(readBack(path), gone << taken);
     }

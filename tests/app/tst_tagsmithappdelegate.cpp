@@ -24,8 +24,8 @@ class FakeMainWindow : public AppMainWindow
 {
 public:
     QWidget *window() override { return &widget; }
-    bool hasDiretyFiles() const override { return dirty; }
-    void setSaveStatus(int status) override { saveStatus = status; }
+    bool hasModifiedFiles() const override { return dirty; }
+    void quitRequested() override { saveStatus = 1; }
     bool openFile(const QString &path) override
     {
         openedFiles.append(path);

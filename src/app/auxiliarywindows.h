@@ -1,0 +1,59 @@
+#pragma once
+
+#include "app/commandstate.h"
+#include "engine/exifoperationstatus.h"
+
+#include <QHash>
+#include <QObject>
+#include <QPointer>
+
+class ExifSettings;
+class FileListPresenter;
+class MainWindow;
+class MainWindowMenus;
+class MapWindowController;
+class PresetsWindowController;
+class PreviewPanel;
+class ResultsWindowController;
+class ReviewChangesWindowController;
+
+// The windows beside the main one: presets, map, results, review of changes and the preview
+// of the selected file. Each is made on first use.
+class AuxiliaryWindows : public QObject
+{
+    Q_OBJECT
+
+public:
+    AuxiliaryWindows(MainWindow *window, MainWindowMenus *menus, FileListPresenter *list,
+                     ExifSettings &store, QObject *parent);
+
+    void showConfigurations();
+    void showMap();
+    void showHideResultsWindow();
+    void showHideQuickLook();
+    void reviewChanges();
+    void displayErrors(const QHash<QString, ErrorMessagesPtr> &results);
+    // The selection changed: the map and the preview show it.
+    void followSelection();
+    void updateEnablement(const CommandState &state);
+
+    MapWindowController *mapWindowController() const;
+    ResultsWindowController *resultsWindowController() const;
+    PresetsWindowController *presetsWindowController() const;
+
+Q_SIGNALS:
+    // Save from the review window.
+    void saveRequested();
+
+private:
+    MainWindow *m_window;
+    MainWindowMenus *m_menus;
+    FileListPresenter *m_list;
+    ExifSettings &m_store;
+    bool m_saving = false;
+    QPointer<MapWindowController> m_map;
+    QPointer<ResultsWindowController> m_results;
+    QPointer<PresetsWindowController> m_presets;
+    QPointer<ReviewChangesWindowController> m_review;
+    QPointer<PreviewPanel> m_preview;
+};

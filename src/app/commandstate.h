@@ -1,0 +1,16 @@
+#pragma once
+
+#include "engine/exiffileinfo.h"
+
+#include <QList>
+
+// What the enablement of the window's commands depends on; each part of the window decides
+// its own commands from it.
+struct CommandState
+{
+    bool saving = false;
+    bool hasFiles = false;
+    // Some file in the list has unsaved edits.
+    bool hasModifiedFiles = false;
+    QList<ExifFileInfoPtr> selected;
+};

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "app/commandstate.h"
+
+#include <QObject>
+#include <QPointer>
+
+#include <memory>
+
+class FileListPresenter;
+class MainWindow;
+class MainWindowMenus;
+class MetadataClipboard;
+class PasteMetadataDialog;
+struct MetadataSelection;
+
+// Copy Metadata and Paste Metadata: one file's values copied, then pasted into the selection
+// as pending edits.
+class CopyPasteCommands : public QObject
+{
+    Q_OBJECT
+
+public:
+    CopyPasteCommands(MainWindow *window, MainWindowMenus *menus, FileListPresenter *list,
+                      QObject *parent);
+    ~CopyPasteCommands() override;
+
+    void copyMetadata();
+    void pasteMetadata();
+    bool hasCopiedMetadata() const;
+    void updateEnablement(const CommandState &state);
+
+Q_SIGNALS:
+    // The clipboard or the files' values changed.
+    void changed();
+
+private:
+    void pasteSelection(const MetadataSelection &selection);
+
+    MainWindow *m_window;
+    MainWindowMenus *m_menus;
+    FileListPresenter *m_list;
+    std::unique_ptr<MetadataClipboard> m_clipboard;
+    QPointer<PasteMetadataDialog> m_pasteDialog;
+};

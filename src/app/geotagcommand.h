@@ -1,0 +1,36 @@
+#pragma once
+
+#include "app/commandstate.h"
+
+#include <QObject>
+#include <QPointer>
+
+class AuxiliaryWindows;
+class FileListPresenter;
+class GeotagDialog;
+class MainWindow;
+class MainWindowMenus;
+
+// Geotag from Track Log: the dialog over the selected files, its preview on the map.
+class GeotagCommand : public QObject
+{
+    Q_OBJECT
+
+public:
+    GeotagCommand(MainWindow *window, MainWindowMenus *menus, FileListPresenter *list,
+                  AuxiliaryWindows *windows, QObject *parent);
+
+    void geotagFromTrackLog();
+    void updateEnablement(const CommandState &state);
+
+Q_SIGNALS:
+    // Positions were written into the files' pending edits.
+    void changed();
+
+private:
+    MainWindow *m_window;
+    MainWindowMenus *m_menus;
+    FileListPresenter *m_list;
+    AuxiliaryWindows *m_windows;
+    QPointer<GeotagDialog> m_dialog;
+};

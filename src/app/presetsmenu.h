@@ -1,0 +1,39 @@
+#pragma once
+
+#include "app/commandstate.h"
+#include "catalogue/exifsettings.h"
+
+#include <QObject>
+#include <QStringList>
+
+class FileListPresenter;
+class MainWindowMenus;
+
+// The Presets menu: one item per stored preset, in name order, each applied to the selected
+// files as pending edits.
+class PresetsMenu : public QObject, public ExifSettingsListener
+{
+    Q_OBJECT
+
+public:
+    PresetsMenu(MainWindowMenus *menus, FileListPresenter *list, ExifSettings &store,
+                QObject *parent);
+    ~PresetsMenu() override;
+
+    // ExifSettingsListener
+    void updateConfigurations() override;
+    const QStringList &configIds() const { return m_configIds; }
+    void handleConfigurationClick(int tag);
+    void applyConfiguration(const ExifConfiguration &configuration);
+    void updateEnablement(const CommandState &state);
+
+Q_SIGNALS:
+    // The menu or the files' values changed.
+    void changed();
+
+private:
+    MainWindowMenus *m_menus;
+    FileListPresenter *m_list;
+    ExifSettings &m_store;
+    QStringList m_configIds;
+};

@@ -1,0 +1,21 @@
+#include "app/windowsheets.h"
+
+#include "catalogue/stringtables.h"
+
+#include <QMessageBox>
+
+QString localized(const QString &key)
+{
+    return StringTables::instance().localizedString(key);
+}
+
+QMessageBox *makeSheet(QWidget *window, const QString &text, const QString &informativeText)
+{
+    auto *sheet = new QMessageBox(window);
+    sheet->setAttribute(Qt::WA_DeleteOnClose);
+    sheet->setWindowModality(Qt::WindowModal);
+    sheet->setIcon(QMessageBox::Warning);
+    sheet->setText(text);
+    sheet->setInformativeText(informativeText);
+    return sheet;
+}
