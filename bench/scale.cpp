@@ -11,9 +11,9 @@
 // number, caption, title and identifiers by overwriting a placeholder of the same length in the
 // copied bytes, so no two records are alike without running ExifTool per file.
 
-#include "app/filelistmodel.h"
+#include "engine/filelistmodel.h"
 #include "app/filelistview.h"
-#include "app/filereadqueue.h"
+#include "engine/filereadqueue.h"
 #include "app/auxiliarywindows.h"
 #include "app/fileoperations.h"
 #include "app/filelistpresenter.h"

@@ -5,7 +5,7 @@
 #include "app/mainwindow.h"
 #include "app/mainwindowmenus.h"
 #include "app/previewpanel.h"
-#include "catalogue/ui/presetswindowcontroller.h"
+#include "windows/presetswindowcontroller.h"
 #include "windows/mapwindowcontroller.h"
 #include "windows/resultswindowcontroller.h"
 #include "windows/reviewchangeswindowcontroller.h"

@@ -1,6 +1,6 @@
 #include "app/filelistpresenter.h"
 
-#include "app/filelistmodel.h"
+#include "engine/filelistmodel.h"
 #include "app/filelistview.h"
 #include "app/mainwindow.h"
 #include "app/mainwindowmenus.h"

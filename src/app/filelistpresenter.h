@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/commandstate.h"
-#include "app/filereadqueue.h"
+#include "engine/filereadqueue.h"
 
 #include <QObject>
 #include <QStringList>

@@ -2,7 +2,7 @@
 
 #include "app/filelistpresenter.h"
 #include "app/mainwindowmenus.h"
-#include "catalogue/ui/presetswindowcontroller.h"
+#include "windows/presetswindowcontroller.h"
 #include "engine/presetbatch.h"
 
 #include <QAction>

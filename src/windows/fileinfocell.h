@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/filelistmodel.h"
 #include "windows/quicklookimagecache.h"
 
 #include <QPointer>
@@ -14,17 +15,8 @@ class QAbstractItemView;
 class FileInfoCell : public QStyledItemDelegate, public QuickLookImageCacheListener
 {
 public:
-    // What the model gives for each row. The title is the display text, else the file's name;
-    // the subtitle is the folder of the path unless given.
-    enum Role {
-        PathRole = Qt::UserRole + 400,
-        SubtitleRole,
-        ErrorTextRole,
-        HasErrorRole,
-        ModifiedRole,
-        // The name of the XMP sidecar read with the file, shown after its name; empty if none.
-        SidecarRole,
-    };
+    // The roles it reads: those of the file list.
+    using enum FileListModel::Role;
 
     struct Frames
     {

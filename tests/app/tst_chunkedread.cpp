@@ -1,6 +1,6 @@
-#include "app/filelistmodel.h"
+#include "engine/filelistmodel.h"
 #include "app/filelistview.h"
-#include "app/filereadqueue.h"
+#include "engine/filereadqueue.h"
 #include "app/mainwindow.h"
 #include "app/auxiliarywindows.h"
 #include "app/fileoperations.h"

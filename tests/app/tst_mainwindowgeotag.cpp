@@ -1,4 +1,4 @@
-#include "app/filelistmodel.h"
+#include "engine/filelistmodel.h"
 #include "app/auxiliarywindows.h"
 #include "app/fileoperations.h"
 #include "app/filelistpresenter.h"

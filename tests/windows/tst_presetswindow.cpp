@@ -1,6 +1,6 @@
 #include "catalogue/exiffieldscontroller.h"
 #include "catalogue/exifsettings.h"
-#include "catalogue/ui/presetswindowcontroller.h"
+#include "windows/presetswindowcontroller.h"
 #include "editors/configurationviewcontroller.h"
 #include "editors/texteditor.h"
 #include "values/usersettings.h"

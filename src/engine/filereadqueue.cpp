@@ -1,9 +1,12 @@
-#include "app/filereadqueue.h"
+#include "engine/filereadqueue.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QThread>
-#include <QtConcurrent/QtConcurrentRun>
+#include <QPromise>
+#include <QThreadPool>
+
+#include <memory>
 
 FileReadQueue::FileReadQueue(QObject *parent)
     : QObject(parent)
@@ -81,12 +84,16 @@ void FileReadQueue::startChunk()
     m_isChunkRunning = true;
     // The records go to the pool thread by shared pointer; the main thread does not look at
     // them until the chunk comes back. A runner per read: it is not reentrant.
-    m_watcher.setFuture(QtConcurrent::run([chunk, progress = &m_chunkProgress] {
+    auto promise = std::make_shared<QPromise<ExifReadResult>>();
+    m_watcher.setFuture(promise->future());
+    promise->start();
+    QThreadPool::globalInstance()->start([promise, chunk, progress = &m_chunkProgress] {
         ExifRunner runner;
         runner.setRecordsReadHandler(
             [progress](qsizetype records) { progress->storeRelaxed(qint32(records)); });
-        return runner.loadExifInformations(chunk);
-    }));
+        promise->addResult(runner.loadExifInformations(chunk));
+        promise->finish();
+    });
 }
 
 void FileReadQueue::handleFinished()

@@ -10,13 +10,25 @@
 #include <utility>
 
 // The main window's files, one row each, in list order. Exposes what the list's cell draws
-// through FileInfoCell's roles; the modified flag is asked of the change model on every read,
+// through its roles; the modified flag is asked of the change model on every read,
 // so a row never shows a stale mark.
 class FileListModel : public QAbstractListModel
 {
     Q_OBJECT
 
 public:
+    // The title is the display text, else the file's name; the subtitle is the folder of the
+    // path unless given.
+    enum Role {
+        PathRole = Qt::UserRole + 400,
+        SubtitleRole,
+        ErrorTextRole,
+        HasErrorRole,
+        ModifiedRole,
+        // The name of the XMP sidecar read with the file, shown after its name; empty if none.
+        SidecarRole,
+    };
+
     explicit FileListModel(QObject *parent = nullptr);
 
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;

@@ -1,8 +1,7 @@
-#include "app/filelistmodel.h"
+#include "engine/filelistmodel.h"
 
 #include "catalogue/stringtables.h"
 #include "engine/exifutil.h"
-#include "windows/fileinfocell.h"
 
 #include <QFileInfo>
 
@@ -34,17 +33,17 @@ QVariant FileListModel::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
     case Qt::ToolTipRole:
         return role == Qt::DisplayRole ? QFileInfo(file.fileName()).fileName() : file.fileName();
-    case FileInfoCell::PathRole:
+    case PathRole:
         return file.fileName();
-    case FileInfoCell::SubtitleRole:
+    case SubtitleRole:
         return QFileInfo(file.fileName()).path();
-    case FileInfoCell::HasErrorRole:
+    case HasErrorRole:
         return file.hasError();
-    case FileInfoCell::ErrorTextRole:
+    case ErrorTextRole:
         return file.hasError() ? errorText() : QString();
-    case FileInfoCell::ModifiedRole:
+    case ModifiedRole:
         return isExifFileModified(file);
-    case FileInfoCell::SidecarRole:
+    case SidecarRole:
         return QFileInfo(file.sidecarPath()).fileName();
     default:
         return {};

@@ -1,4 +1,4 @@
-#include "catalogue/ui/presetslistmodel.h"
+#include "windows/presetslistmodel.h"
 
 #include "catalogue/exifsettings.h"
 

@@ -1,6 +1,6 @@
-#include "catalogue/ui/presetswindowcontroller.h"
+#include "windows/presetswindowcontroller.h"
 
-#include "catalogue/ui/presetslistmodel.h"
+#include "windows/presetslistmodel.h"
 
 #include "catalogue/stringtables.h"
 #include "controls/aperturetheme.h"
