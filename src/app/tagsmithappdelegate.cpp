@@ -1,8 +1,9 @@
 #include "app/tagsmithappdelegate.h"
 
 #include "app/commandline.h"
-#include "app/mainwindowcontroller.h"
-#include "app/preferenceswindowcontroller.h"
+#include "windows/mainwindowcontroller.h"
+#include "windows/mainwindowmenus.h"
+#include "windows/preferenceswindowcontroller.h"
 #include "catalogue/exifsettings.h"
 #include "catalogue/exiffieldscontroller.h"
 #include "controls/aperturetheme.h"
@@ -10,6 +11,7 @@
 #include "values/debugmode.h"
 #include "values/logging.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QDesktopServices>
 #include <QDir>
@@ -96,7 +98,20 @@ void TagsmithAppDelegate::applicationWillFinishLaunching(const QList<QByteArray>
 
 std::unique_ptr<AppMainWindow> TagsmithAppDelegate::createMainWindow()
 {
-    return std::make_unique<MainWindowController>(this);
+    auto window = std::make_unique<MainWindowController>(nullptr, ExifSettings::instance(), m_debug);
+    window->setTerminateReply(
+        [this](bool terminate) { replyToApplicationShouldTerminate(terminate); });
+    // The application's own commands, in the window's menus.
+    using C = MainWindowMenus::Command;
+    const auto on = [this, &window](C command, void (TagsmithAppDelegate::*handler)()) {
+        connect(window->menus()->action(command), &QAction::triggered, this, handler);
+    };
+    on(C::Preferences, &TagsmithAppDelegate::showPreferences);
+    on(C::Quit, &TagsmithAppDelegate::requestQuit);
+    on(C::Help, &TagsmithAppDelegate::showHelp);
+    on(C::Support, &TagsmithAppDelegate::openSupportPage);
+    on(C::WebSite, &TagsmithAppDelegate::openWebSite);
+    return window;
 }
 
 bool TagsmithAppDelegate::openFile(const QString &path)

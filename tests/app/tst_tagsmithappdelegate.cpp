@@ -1,4 +1,4 @@
-#include "app/preferenceswindowcontroller.h"
+#include "windows/preferenceswindowcontroller.h"
 #include "app/tagsmithappdelegate.h"
 #include "catalogue/exifsettings.h"
 #include "values/debugmode.h"

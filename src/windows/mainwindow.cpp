@@ -1,6 +1,6 @@
-#include "app/mainwindow.h"
+#include "windows/mainwindow.h"
 
-#include "app/filelistview.h"
+#include "windows/filelistview.h"
 #include "catalogue/stringtables.h"
 #include "controls/aperturetheme.h"
 #include "controls/indeterminateprogressindicatorcell.h"

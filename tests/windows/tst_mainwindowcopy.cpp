@@ -1,11 +1,11 @@
 #include "engine/filelistmodel.h"
-#include "app/mainwindow.h"
-#include "app/auxiliarywindows.h"
-#include "app/fileoperations.h"
-#include "app/filelistpresenter.h"
-#include "app/mainwindow.h"
-#include "app/mainwindowcontroller.h"
-#include "app/mainwindowmenus.h"
+#include "windows/mainwindow.h"
+#include "windows/auxiliarywindows.h"
+#include "windows/fileoperations.h"
+#include "windows/filelistpresenter.h"
+#include "windows/mainwindow.h"
+#include "windows/mainwindowcontroller.h"
+#include "windows/mainwindowmenus.h"
 #include "catalogue/exiffieldscontroller.h"
 #include "values/usersettings.h"
 #include "windows/fileinfocell.h"
@@ -71,7 +71,7 @@ private Q_SLOTS:
         QVERIFY(QFile::rename(raw + u".tif"_qs, raw));
         QVERIFY(Fixtures::runExifTool({u"-XMP-photoshop:City=Porto"_qs, sidecar}).ok());
 
-        MainWindowController window(nullptr, nullptr, *m_store);
+        MainWindowController window(nullptr, *m_store);
         window.window()->show();
         QVERIFY(window.fileList()->addFiles({source, jpeg, raw}) && window.fileList()->waitForPendingReads());
         const QList<int> others{window.fileList()->model()->rowOf(jpeg), window.fileList()->model()->rowOf(raw)};

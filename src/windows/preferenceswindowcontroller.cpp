@@ -1,4 +1,4 @@
-#include "app/preferenceswindowcontroller.h"
+#include "windows/preferenceswindowcontroller.h"
 
 #include "catalogue/stringtables.h"
 #include "values/usersettings.h"

@@ -1,7 +1,7 @@
-#include "app/presetsmenu.h"
+#include "windows/presetsmenu.h"
 
-#include "app/filelistpresenter.h"
-#include "app/mainwindowmenus.h"
+#include "windows/filelistpresenter.h"
+#include "windows/mainwindowmenus.h"
 #include "windows/presetswindowcontroller.h"
 #include "engine/presetbatch.h"
 

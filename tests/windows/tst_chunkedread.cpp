@@ -1,12 +1,12 @@
 #include "engine/filelistmodel.h"
-#include "app/filelistview.h"
+#include "windows/filelistview.h"
 #include "engine/filereadqueue.h"
-#include "app/mainwindow.h"
-#include "app/auxiliarywindows.h"
-#include "app/fileoperations.h"
-#include "app/filelistpresenter.h"
-#include "app/mainwindow.h"
-#include "app/mainwindowcontroller.h"
+#include "windows/mainwindow.h"
+#include "windows/auxiliarywindows.h"
+#include "windows/fileoperations.h"
+#include "windows/filelistpresenter.h"
+#include "windows/mainwindow.h"
+#include "windows/mainwindowcontroller.h"
 #include "catalogue/exiffieldscontroller.h"
 #include "catalogue/exifsettings.h"
 #include "engine/exifreportparser.h"
@@ -207,7 +207,7 @@ private Q_SLOTS:
     void windowCancelAddsWhatWasRead()
     {
         ExifSettings store;
-        MainWindowController controller(nullptr, nullptr, store);
+        MainWindowController controller(nullptr, store);
         auto *window = qobject_cast<MainWindow *>(controller.window());
         QVERIFY(window);
         window->show();

@@ -1,4 +1,4 @@
-#include "app/previewpanel.h"
+#include "windows/previewpanel.h"
 
 #include "catalogue/stringtables.h"
 #include "windows/thumbnailmaker.h"

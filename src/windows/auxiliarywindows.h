@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/commandstate.h"
+#include "windows/commandstate.h"
 #include "engine/exifoperationstatus.h"
 
 #include <QHash>

@@ -1,14 +1,14 @@
-#include "app/mainwindowcontroller.h"
+#include "windows/mainwindowcontroller.h"
 
-#include "app/auxiliarywindows.h"
-#include "app/copypastecommands.h"
-#include "app/fileoperations.h"
-#include "app/filelistpresenter.h"
-#include "app/geotagcommand.h"
-#include "app/mainwindow.h"
-#include "app/mainwindowmenus.h"
-#include "app/presetsmenu.h"
-#include "app/windowsheets.h"
+#include "windows/auxiliarywindows.h"
+#include "windows/copypastecommands.h"
+#include "windows/fileoperations.h"
+#include "windows/filelistpresenter.h"
+#include "windows/geotagcommand.h"
+#include "windows/mainwindow.h"
+#include "windows/mainwindowmenus.h"
+#include "windows/presetsmenu.h"
+#include "windows/windowsheets.h"
 #include "editors/configurationviewcontroller.h"
 #include "editors/exiffilesupdate.h"
 #include "engine/exifbackgroundrunner.h"
@@ -23,17 +23,11 @@
 
 #include <algorithm>
 
-MainWindowController::MainWindowController(TagsmithAppDelegate *delegate,
-                                           std::unique_ptr<ExifBackgroundRunner> runner,
+MainWindowController::MainWindowController(std::unique_ptr<ExifBackgroundRunner> runner,
                                            ExifSettings &store, bool debug)
-    : m_delegate(delegate)
-    , m_debug(debug || (delegate && delegate->debug()))
+    : m_debug(debug)
     , m_runner(runner ? std::move(runner) : std::make_unique<ExifBackgroundRunner>())
 {
-    m_terminateReply = [this](bool terminate) {
-        if (m_delegate)
-            m_delegate->replyToApplicationShouldTerminate(terminate);
-    };
     buildParts(store);
 }
 
@@ -84,17 +78,6 @@ void MainWindowController::buildParts(ExifSettings &store)
     connect(&ExifFilesUpdateCenter::instance(), &ExifFilesUpdateCenter::exifFilesUpdated, m_list,
             &FileListPresenter::handleExifFilesUpdate);
 
-    if (m_delegate) {
-        using C = MainWindowMenus::Command;
-        const auto on = [this](C command, void (TagsmithAppDelegate::*handler)()) {
-            connect(m_menus->action(command), &QAction::triggered, m_delegate, handler);
-        };
-        on(C::Preferences, &TagsmithAppDelegate::showPreferences);
-        on(C::Quit, &TagsmithAppDelegate::requestQuit);
-        on(C::Help, &TagsmithAppDelegate::showHelp);
-        on(C::Support, &TagsmithAppDelegate::openSupportPage);
-        on(C::WebSite, &TagsmithAppDelegate::openWebSite);
-    }
     recheckUIEnablement();
 }
 

@@ -1,4 +1,4 @@
-#include "app/filelistview.h"
+#include "windows/filelistview.h"
 
 #include <QDragEnterEvent>
 #include <QDropEvent>

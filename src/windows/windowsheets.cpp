@@ -1,4 +1,4 @@
-#include "app/windowsheets.h"
+#include "windows/windowsheets.h"
 
 #include "catalogue/stringtables.h"
 

@@ -1,4 +1,4 @@
-#include "app/mainwindowmenus.h"
+#include "windows/mainwindowmenus.h"
 
 #include "catalogue/stringtables.h"
 

@@ -1,8 +1,8 @@
-#include "app/copypastecommands.h"
+#include "windows/copypastecommands.h"
 
-#include "app/filelistpresenter.h"
-#include "app/mainwindow.h"
-#include "app/mainwindowmenus.h"
+#include "windows/filelistpresenter.h"
+#include "windows/mainwindow.h"
+#include "windows/mainwindowmenus.h"
 #include "editors/configurationviewcontroller.h"
 #include "editors/exiffilesupdate.h"
 #include "engine/metadataclipboard.h"

@@ -1,10 +1,10 @@
 #include "engine/filelistmodel.h"
-#include "app/auxiliarywindows.h"
-#include "app/fileoperations.h"
-#include "app/filelistpresenter.h"
-#include "app/mainwindow.h"
-#include "app/mainwindowcontroller.h"
-#include "app/mainwindowmenus.h"
+#include "windows/auxiliarywindows.h"
+#include "windows/fileoperations.h"
+#include "windows/filelistpresenter.h"
+#include "windows/mainwindow.h"
+#include "windows/mainwindowcontroller.h"
+#include "windows/mainwindowmenus.h"
 #include "catalogue/exiffieldscontroller.h"
 #include "editors/configurationviewcontroller.h"
 #include "editors/texteditor.h"
@@ -195,7 +195,7 @@ private Q_SLOTS:
                                        u"-Geotime<${DateTimeOriginal}+02:00"_qs, reference})
                     .ok());
 
-        MainWindowController window(nullptr, nullptr, *m_store);
+        MainWindowController window(nullptr, *m_store);
         window.window()->show();
         QVERIFY(window.fileList()->addFiles({inside, after}) && window.fileList()->waitForPendingReads());
         window.fileList()->selectRows({0, 1});
@@ -276,7 +276,7 @@ private Q_SLOTS:
         QCOMPARE(before.size(), 8);
         QCOMPARE(before.at(4), u"612.5"_qs);
 
-        MainWindowController window(nullptr, nullptr, *m_store);
+        MainWindowController window(nullptr, *m_store);
         window.window()->show();
         QVERIFY(window.fileList()->addFiles({path}) && window.fileList()->waitForPendingReads());
         window.fileList()->selectRows({0});

@@ -1,9 +1,9 @@
-#include "app/geotagcommand.h"
+#include "windows/geotagcommand.h"
 
-#include "app/auxiliarywindows.h"
-#include "app/filelistpresenter.h"
-#include "app/mainwindow.h"
-#include "app/mainwindowmenus.h"
+#include "windows/auxiliarywindows.h"
+#include "windows/filelistpresenter.h"
+#include "windows/mainwindow.h"
+#include "windows/mainwindowmenus.h"
 #include "windows/geotagdialog.h"
 #include "windows/mapwindowcontroller.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/tagsmithappdelegate.h"
+#include "windows/appmainwindow.h"
 #include "catalogue/exifsettings.h"
 #include "engine/closeflow.h"
 #include "engine/exifbackgroundrunner.h"
@@ -31,8 +31,7 @@ class MainWindowController : public AppMainWindow
 
 public:
     // A null runner makes the real one; tests pass a stand-in.
-    explicit MainWindowController(TagsmithAppDelegate *delegate = nullptr,
-                                  std::unique_ptr<ExifBackgroundRunner> runner = nullptr,
+    explicit MainWindowController(std::unique_ptr<ExifBackgroundRunner> runner = nullptr,
                                   ExifSettings &store = ExifSettings::instance(),
                                   bool debug = false);
     ~MainWindowController() override;
@@ -45,7 +44,7 @@ public:
     bool openFiles(const QStringList &paths, const QList<FileRejection> &rejected = {}) override;
 
     int saveStatus() const { return int(m_close.status()); }
-    // What "let the application terminate" and "cancel the quit" do; the delegate by default.
+    // What "let the application terminate" and "cancel the quit" do; nothing by default.
     void setTerminateReply(std::function<void(bool)> reply) { m_terminateReply = std::move(reply); }
 
     FileListPresenter *fileList() const { return m_list; }
@@ -71,7 +70,6 @@ private:
     void closeWindowNow();
     void reply(bool terminate);
 
-    TagsmithAppDelegate *m_delegate;
     bool m_debug;
     std::unique_ptr<ExifBackgroundRunner> m_runner;
     std::unique_ptr<MainWindow> m_window;

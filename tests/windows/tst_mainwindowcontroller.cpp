@@ -1,11 +1,11 @@
 #include "engine/filelistmodel.h"
-#include "app/filelistview.h"
-#include "app/auxiliarywindows.h"
-#include "app/fileoperations.h"
-#include "app/filelistpresenter.h"
-#include "app/mainwindow.h"
-#include "app/mainwindowcontroller.h"
-#include "app/mainwindowmenus.h"
+#include "windows/filelistview.h"
+#include "windows/auxiliarywindows.h"
+#include "windows/fileoperations.h"
+#include "windows/filelistpresenter.h"
+#include "windows/mainwindow.h"
+#include "windows/mainwindowcontroller.h"
+#include "windows/mainwindowmenus.h"
 #include "catalogue/exiffieldscontroller.h"
 #include "catalogue/stringtables.h"
 #include "editors/configurationviewcontroller.h"
@@ -121,7 +121,7 @@ class TestMainWindowController : public QObject
     {
         auto runner = std::make_unique<FakeRunner>();
         m_runner = runner.get();
-        m_controller = std::make_unique<MainWindowController>(nullptr, std::move(runner), *m_store);
+        m_controller = std::make_unique<MainWindowController>(std::move(runner), *m_store);
         m_controller->setTerminateReply([this](bool terminate) { m_replies.append(terminate); });
         m_controller->window()->show();
         return *m_controller;
