@@ -103,14 +103,11 @@ std::unique_ptr<AppMainWindow> TagsmithAppDelegate::createMainWindow()
         [this](bool terminate) { replyToApplicationShouldTerminate(terminate); });
     // The application's own commands, in the window's menus.
     using C = MainWindowMenus::Command;
-    const auto on = [this, &window](C command, void (TagsmithAppDelegate::*handler)()) {
-        connect(window->menus()->action(command), &QAction::triggered, this, handler);
-    };
-    on(C::Preferences, &TagsmithAppDelegate::showPreferences);
-    on(C::Quit, &TagsmithAppDelegate::requestQuit);
-    on(C::Help, &TagsmithAppDelegate::showHelp);
-    on(C::Support, &TagsmithAppDelegate::openSupportPage);
-    on(C::WebSite, &TagsmithAppDelegate::openWebSite);
+    window->menus()->onTriggered(C::Preferences, this, &TagsmithAppDelegate::showPreferences);
+    window->menus()->onTriggered(C::Quit, this, &TagsmithAppDelegate::requestQuit);
+    window->menus()->onTriggered(C::Help, this, &TagsmithAppDelegate::showHelp);
+    window->menus()->onTriggered(C::Support, this, &TagsmithAppDelegate::openSupportPage);
+    window->menus()->onTriggered(C::WebSite, this, &TagsmithAppDelegate::openWebSite);
     return window;
 }
 

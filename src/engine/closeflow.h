@@ -44,7 +44,6 @@ public:
     };
 
     Status status() const { return m_status; }
-    void setStatus(Status status) { m_status = status; }
     // The application wants to quit; the window's close question decides.
     void quitRequested() { m_status = Status::QuitWaiting; }
 

@@ -22,14 +22,11 @@ AuxiliaryWindows::AuxiliaryWindows(MainWindow *window, MainWindowMenus *menus,
     , m_store(store)
 {
     using C = MainWindowMenus::Command;
-    const auto on = [this](QAction *action, void (AuxiliaryWindows::*handler)()) {
-        connect(action, &QAction::triggered, this, handler);
-    };
-    on(m_menus->action(C::ShowConfigurations), &AuxiliaryWindows::showConfigurations);
-    on(m_menus->action(C::ShowMap), &AuxiliaryWindows::showMap);
-    on(m_menus->action(C::ShowResults), &AuxiliaryWindows::showHideResultsWindow);
-    on(m_menus->action(C::QuickLook), &AuxiliaryWindows::showHideQuickLook);
-    on(m_menus->action(C::ReviewChanges), &AuxiliaryWindows::reviewChanges);
+    m_menus->onTriggered(C::ShowConfigurations, this, &AuxiliaryWindows::showConfigurations);
+    m_menus->onTriggered(C::ShowMap, this, &AuxiliaryWindows::showMap);
+    m_menus->onTriggered(C::ShowResults, this, &AuxiliaryWindows::showHideResultsWindow);
+    m_menus->onTriggered(C::QuickLook, this, &AuxiliaryWindows::showHideQuickLook);
+    m_menus->onTriggered(C::ReviewChanges, this, &AuxiliaryWindows::reviewChanges);
     connect(m_window->reviewButton(), &QPushButton::clicked, this,
             &AuxiliaryWindows::reviewChanges);
     connect(m_window->filesTable(), &FileListView::showHideQuickLookRequested, this,

@@ -18,10 +18,8 @@ CopyPasteCommands::CopyPasteCommands(MainWindow *window, MainWindowMenus *menus,
     , m_list(list)
 {
     using C = MainWindowMenus::Command;
-    connect(m_menus->action(C::CopyMetadata), &QAction::triggered, this,
-            &CopyPasteCommands::copyMetadata);
-    connect(m_menus->action(C::PasteMetadata), &QAction::triggered, this,
-            &CopyPasteCommands::pasteMetadata);
+    m_menus->onTriggered(C::CopyMetadata, this, &CopyPasteCommands::copyMetadata);
+    m_menus->onTriggered(C::PasteMetadata, this, &CopyPasteCommands::pasteMetadata);
 }
 
 CopyPasteCommands::~CopyPasteCommands() = default;

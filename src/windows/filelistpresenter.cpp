@@ -53,13 +53,10 @@ FileListPresenter::FileListPresenter(MainWindow *window, MainWindowMenus *menus,
             [this](const QStringList &paths) { addFiles(paths); });
 
     using C = MainWindowMenus::Command;
-    connect(m_menus->action(C::Open), &QAction::triggered, this, &FileListPresenter::openDocument);
-    connect(m_menus->action(C::Reload), &QAction::triggered, this,
-            &FileListPresenter::reloadSelectedFiles);
-    connect(m_menus->action(C::RemoveFiles), &QAction::triggered, this,
-            &FileListPresenter::removeFilesClick);
-    connect(m_menus->action(C::ClearFiles), &QAction::triggered, this,
-            &FileListPresenter::clearFilesClick);
+    m_menus->onTriggered(C::Open, this, &FileListPresenter::openDocument);
+    m_menus->onTriggered(C::Reload, this, &FileListPresenter::reloadSelectedFiles);
+    m_menus->onTriggered(C::RemoveFiles, this, &FileListPresenter::removeFilesClick);
+    m_menus->onTriggered(C::ClearFiles, this, &FileListPresenter::clearFilesClick);
     connect(m_menus->action(C::SelectAll), &QAction::triggered, table,
             &QAbstractItemView::selectAll);
     connect(m_window->addButton(), &QPushButton::clicked, this, &FileListPresenter::openDocument);

@@ -32,13 +32,10 @@ FileOperations::FileOperations(MainWindow *window, MainWindowMenus *menus,
     , m_runner(runner)
 {
     using C = MainWindowMenus::Command;
-    const auto on = [this](QAction *action, void (FileOperations::*handler)()) {
-        connect(action, &QAction::triggered, this, handler);
-    };
-    on(m_menus->action(C::Process), &FileOperations::processFiles);
-    on(m_menus->action(C::RemoveAllMetadata), &FileOperations::removeAllMetadata);
-    on(m_menus->action(C::RemoveMakerNotes), &FileOperations::removeMakerNotes);
-    on(m_menus->action(C::RevertLastSave), &FileOperations::revertLastSave);
+    m_menus->onTriggered(C::Process, this, &FileOperations::processFiles);
+    m_menus->onTriggered(C::RemoveAllMetadata, this, &FileOperations::removeAllMetadata);
+    m_menus->onTriggered(C::RemoveMakerNotes, this, &FileOperations::removeMakerNotes);
+    m_menus->onTriggered(C::RevertLastSave, this, &FileOperations::revertLastSave);
     connect(m_window->processButton(), &QPushButton::clicked, this,
             &FileOperations::processFiles);
 }

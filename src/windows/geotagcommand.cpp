@@ -17,8 +17,8 @@ GeotagCommand::GeotagCommand(MainWindow *window, MainWindowMenus *menus, FileLis
     , m_list(list)
     , m_windows(windows)
 {
-    connect(m_menus->action(MainWindowMenus::Command::GeotagFromTrackLog), &QAction::triggered,
-            this, &GeotagCommand::geotagFromTrackLog);
+    m_menus->onTriggered(MainWindowMenus::Command::GeotagFromTrackLog, this,
+                         &GeotagCommand::geotagFromTrackLog);
 }
 
 void GeotagCommand::geotagFromTrackLog()

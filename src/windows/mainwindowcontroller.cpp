@@ -131,18 +131,56 @@ void MainWindowController::reply(bool terminate)
 
 bool MainWindowController::windowShouldClose()
 {
-    switch (m_close.closeRequested(m_operations->isSaving(), hasModifiedFiles(), m_closeSheet)) {
-    case CloseFlow::Step::Allow:
+    return takeStep(
+        m_close.closeRequested(m_operations->isSaving(), hasModifiedFiles(), m_closeSheet));
+}
+
+bool MainWindowController::takeStep(CloseFlow::Step step,
+                                    const QHash<QString, ErrorMessagesPtr> &results)
+{
+    using S = CloseFlow::Step;
+    switch (step) {
+    case S::Allow:
         return true;
-    case CloseFlow::Step::AllowAndQuit:
+    case S::AllowAndQuit:
         reply(true);
         return true;
-    case CloseFlow::Step::Ask:
+    case S::Refuse:
+    case S::Nothing:
+        return false;
+    case S::Ask:
         askToSave();
         return false;
-    default:
+    case S::Quit:
+        reply(true);
+        return false;
+    case S::CancelQuit:
+        reply(false);
+        return false;
+    case S::DropAndClose:
+        m_list->clearAllFiles();
+        m_window->close();
+        return false;
+    case S::StartSave:
+        m_operations->processFiles();
+        return false;
+    case S::Close:
+        m_window->close();
+        return false;
+    case S::AskAfterFailure:
+        askAfterFailedSave(results);
+        return false;
+    case S::Finish:
+    case S::FinishAndClose:
+    case S::FinishAndCancelQuit:
+        finishBatch(results);
+        if (step == S::FinishAndClose)
+            m_window->close();
+        else if (step == S::FinishAndCancelQuit)
+            reply(false);
         return false;
     }
+    return false;
 }
 
 void MainWindowController::askToSave()
@@ -162,38 +200,11 @@ void MainWindowController::askToSave()
     QMessageBox *sheet = m_closeSheet;
     connect(sheet, &QMessageBox::finished, this, [this, sheet, save, dontSave] {
         const QAbstractButton *clicked = sheet->clickedButton();
-        handleCloseAnswer(clicked == save       ? CloseFlow::Answer::Save
-                          : clicked == dontSave ? CloseFlow::Answer::DontSave
-                                                : CloseFlow::Answer::Cancel);
+        takeStep(m_close.answered(clicked == save       ? CloseFlow::Answer::Save
+                                  : clicked == dontSave ? CloseFlow::Answer::DontSave
+                                                        : CloseFlow::Answer::Cancel));
     });
     m_closeSheet->open();
-}
-
-void MainWindowController::handleCloseAnswer(CloseFlow::Answer answer)
-{
-    switch (m_close.answered(answer)) {
-    case CloseFlow::Step::Quit:
-        reply(true);
-        return;
-    case CloseFlow::Step::CancelQuit:
-        reply(false);
-        return;
-    case CloseFlow::Step::DropAndClose:
-        m_list->clearAllFiles();
-        closeWindowNow();
-        return;
-    case CloseFlow::Step::StartSave:
-        m_operations->processFiles();
-        return;
-    default:
-        return;
-    }
-}
-
-void MainWindowController::closeWindowNow()
-{
-    m_close.setStatus(CloseFlow::Status::MayClose);
-    m_window->close();
 }
 
 void MainWindowController::handleBatchFinished(const QHash<QString, ErrorMessagesPtr> &results)
@@ -201,24 +212,7 @@ void MainWindowController::handleBatchFinished(const QHash<QString, ErrorMessage
     const bool failed =
         std::any_of(results.cbegin(), results.cend(),
                     [](const ErrorMessagesPtr &m) { return m && m->errorsCount(); });
-    switch (m_close.saveFinished(failed)) {
-    case CloseFlow::Step::Close:
-        closeWindowNow();
-        return;
-    case CloseFlow::Step::Quit:
-        reply(true);
-        return;
-    case CloseFlow::Step::AskAfterFailure:
-        askAfterFailedSave(results);
-        return;
-    case CloseFlow::Step::FinishAndClose:
-        finishBatch(results);
-        m_window->close();
-        return;
-    default:
-        finishBatch(results);
-        return;
-    }
+    takeStep(m_close.saveFinished(failed), results);
 }
 
 void MainWindowController::askAfterFailedSave(const QHash<QString, ErrorMessagesPtr> &results)
@@ -236,21 +230,7 @@ void MainWindowController::askAfterFailedSave(const QHash<QString, ErrorMessages
     connect(alert, &QMessageBox::finished, this, [this, alert, dontExit, results] {
         const auto answer = alert->clickedButton() == dontExit ? CloseFlow::FailureAnswer::DontExit
                                                                : CloseFlow::FailureAnswer::Exit;
-        switch (m_close.failureAnswered(answer)) {
-        case CloseFlow::Step::Close:
-            closeWindowNow();
-            return;
-        case CloseFlow::Step::Quit:
-            reply(true);
-            return;
-        case CloseFlow::Step::FinishAndCancelQuit:
-            finishBatch(results);
-            reply(false);
-            return;
-        default:
-            finishBatch(results);
-            return;
-        }
+        takeStep(m_close.failureAnswered(answer), results);
     });
     alert->open();
 }

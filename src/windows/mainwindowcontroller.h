@@ -62,12 +62,12 @@ private:
     void buildParts(ExifSettings &store);
     bool windowShouldClose();
     void askToSave();
-    void handleCloseAnswer(CloseFlow::Answer answer);
+    // Does what the close flow decided; true when the window may close now.
+    bool takeStep(CloseFlow::Step step, const QHash<QString, ErrorMessagesPtr> &results = {});
     void handleBatchFinished(const QHash<QString, ErrorMessagesPtr> &results);
     void askAfterFailedSave(const QHash<QString, ErrorMessagesPtr> &results);
     // The end of a batch when no close waits on it.
     void finishBatch(const QHash<QString, ErrorMessagesPtr> &results);
-    void closeWindowNow();
     void reply(bool terminate);
 
     bool m_debug;

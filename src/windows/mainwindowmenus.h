@@ -1,9 +1,9 @@
 #pragma once
 
+#include <QAction>
 #include <QHash>
 #include <QObject>
 
-class QAction;
 class QMenu;
 class QMenuBar;
 
@@ -45,6 +45,12 @@ public:
     MainWindowMenus(QMenuBar *menuBar, QObject *parent = nullptr);
 
     QAction *action(Command command) const { return m_actions.value(command); }
+    // Runs receiver's handler when the command is chosen.
+    template <typename T>
+    void onTriggered(Command command, T *receiver, void (T::*handler)()) const
+    {
+        connect(action(command), &QAction::triggered, receiver, handler);
+    }
     QMenu *configsMenu() const { return m_configsMenu; }
 
 
