@@ -5,7 +5,6 @@
 #include "values/tagsmithexception.h"
 #include "values/usersettings.h"
 
-#include <QSettings>
 #include <QXmlStreamReader>
 
 #include <algorithm>
@@ -46,12 +45,11 @@ ExifSettings &ExifSettings::instance()
 
 void ExifSettings::initializeSettings()
 {
-    const auto store = UserSettings::openStore();
-    const QString names = storedText(store->value(SettingsNamesKey));
+    const QString names = storedText(UserSettings::value(SettingsNamesKey));
     if (names.isEmpty())
         return;
     for (const QString &identifier : names.split(u',')) {
-        const QString document = storedText(store->value(identifier));
+        const QString document = storedText(UserSettings::value(identifier));
         if (document.isEmpty())
             continue;
         if (ExifConfigurationPtr configuration = loadConfigurationFromXml(document))

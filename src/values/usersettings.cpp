@@ -7,10 +7,39 @@
 #include <QSettings>
 #include <QStringList>
 
+#include <memory>
+
 namespace {
 
-QMutex storeFileMutex;
-QString storeFilePath;
+// One QSettings for the process: QSettings is reentrant, not thread-safe, so every use holds
+// the mutex.
+struct Store
+{
+    QMutex mutex;
+    QString path;
+    std::unique_ptr<QSettings> settings;
+};
+
+Store &store()
+{
+    static Store shared;
+    return shared;
+}
+
+QSettings &openedLocked(Store &s)
+{
+    if (!s.settings) {
+        s.settings = s.path.isEmpty()
+                         ? std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope,
+                                                       QStringLiteral("Tagsmith"),
+                                                       QStringLiteral("Tagsmith"))
+                         : std::make_unique<QSettings>(s.path, QSettings::IniFormat);
+        // A change would otherwise post the store a request to write itself, handled later on
+        // whichever thread opened it, outside the mutex; changes are written at once instead.
+        s.settings->moveToThread(nullptr);
+    }
+    return *s.settings;
+}
 
 UserSettings::FileDate toFileDate(int value)
 {
@@ -28,23 +57,17 @@ UserSettings::FileDate toFileDate(int value)
 
 void UserSettings::setStoreFile(const QString &path)
 {
-    QMutexLocker lock(&storeFileMutex);
-    storeFilePath = path;
+    Store &s = store();
+    QMutexLocker lock(&s.mutex);
+    s.settings.reset();
+    s.path = path;
 }
 
 QString UserSettings::storeFile()
 {
-    QMutexLocker lock(&storeFileMutex);
-    return storeFilePath;
-}
-
-std::unique_ptr<QSettings> UserSettings::openStore()
-{
-    const QString path = storeFile();
-    if (!path.isEmpty())
-        return std::make_unique<QSettings>(path, QSettings::IniFormat);
-    return std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope,
-                                       QStringLiteral("Tagsmith"), QStringLiteral("Tagsmith"));
+    Store &s = store();
+    QMutexLocker lock(&s.mutex);
+    return s.path;
 }
 
 QVariant UserSettings::defaultValue(const QString &key)
@@ -59,17 +82,28 @@ QVariant UserSettings::defaultValue(const QString &key)
 
 QVariant UserSettings::value(const QString &key)
 {
-    return openStore()->value(key, defaultValue(key));
+    const QVariant fallback = defaultValue(key);
+    Store &s = store();
+    QMutexLocker lock(&s.mutex);
+    return openedLocked(s).value(key, fallback);
 }
 
 void UserSettings::setValue(const QString &key, const QVariant &value)
 {
-    openStore()->setValue(key, value);
+    Store &s = store();
+    QMutexLocker lock(&s.mutex);
+    QSettings &settings = openedLocked(s);
+    settings.setValue(key, value);
+    settings.sync();
 }
 
 void UserSettings::remove(const QString &key)
 {
-    openStore()->remove(key);
+    Store &s = store();
+    QMutexLocker lock(&s.mutex);
+    QSettings &settings = openedLocked(s);
+    settings.remove(key);
+    settings.sync();
 }
 
 int UserSettings::intValue(const QString &key)

@@ -3,13 +3,10 @@
 #include <QString>
 #include <QVariant>
 
-#include <memory>
-
-class QSettings;
-
 // The per-user settings store (organisation and application "Tagsmith") with the program's
-// registered defaults. Every call opens its own QSettings, so the engine may read the save
-// options from its background thread while the preferences window writes them.
+// registered defaults. The store is read once and kept; every call may come from any thread
+// (the engine reads the save options on its background thread while the preferences window
+// writes them), and every change is on disk before the call returns.
 class UserSettings
 {
 public:
@@ -38,11 +35,10 @@ public:
     };
     enum class FileDate { FromMetadata = 0, KeepPrevious = 1, LeaveAsWritten = 2 };
 
-    // Sends every later store to this INI file instead of the user's (tests); empty restores
-    // the user's store.
+    // Sends every later call to this INI file instead of the user's (tests); empty restores
+    // the user's store. The file is read again at the next call, even when it is the same.
     static void setStoreFile(const QString &path);
     static QString storeFile();
-    static std::unique_ptr<QSettings> openStore();
 
     static QVariant defaultValue(const QString &key);
     // The stored value, or the registered default when the user never set one.

@@ -74,7 +74,6 @@ private Q_SLOTS:
     {
         UserSettings::setStoreFile(m_dir.filePath(u"store-%1.ini"_s.arg(++m_storeNumber)));
     }
-    void cleanupTestCase() { UserSettings::setStoreFile(QString()); }
 
     void hasArgument_data()
     {
@@ -98,13 +97,11 @@ private Q_SLOTS:
 
     void startUpLoadsPresetsAndHandsOverFiles()
     {
-        const auto store = UserSettings::openStore();
-        store->setValue(u"settings-names"_s, u"configuration-4"_s);
-        store->setValue(u"configuration-4"_s,
-                        u"<configuration name=\"Rome\" identifier=\"configuration-4\">"
-                        "<field-modification name=\"IPTC:City\">Roma</field-modification>"
-                        "</configuration>"_s);
-        store->sync();
+        UserSettings::setValue(u"settings-names"_s, u"configuration-4"_s);
+        UserSettings::setValue(u"configuration-4"_s,
+                               u"<configuration name=\"Rome\" identifier=\"configuration-4\">"
+                               "<field-modification name=\"IPTC:City\">Roma</field-modification>"
+                               "</configuration>"_s);
 
         TagsmithAppDelegate delegate;
         FakeMainWindow *fake =
@@ -182,7 +179,10 @@ private Q_SLOTS:
         QCOMPARE(window.findChild<QComboBox *>(UserSettings::FileModifyDate)->currentData().toInt(),
                  2);
         // Showing them is no reason to rewrite what the user stored.
-        QCOMPARE(UserSettings::openStore()->value(UserSettings::FileModifyDate).toInt(), 9);
+        QCOMPARE(QSettings(UserSettings::storeFile(), QSettings::IniFormat)
+                     .value(UserSettings::FileModifyDate)
+                     .toInt(),
+                 9);
     }
 
     void preferencesShowTheExifToolVersion_data()

@@ -36,7 +36,9 @@ ExifConfigurationPtr preset(const char *identifier, const QString &name = u"P"_s
 
 QString storedNames()
 {
-    return UserSettings::openStore()->value(ExifSettings::SettingsNamesKey).toString();
+    return QSettings(UserSettings::storeFile(), QSettings::IniFormat)
+        .value(ExifSettings::SettingsNamesKey)
+        .toString();
 }
 
 } // namespace
@@ -54,7 +56,6 @@ private Q_SLOTS:
     {
         UserSettings::setStoreFile(m_dir.filePath(u"store-%1.ini"_s.arg(++m_storeNumber)));
     }
-    void cleanupTestCase() { UserSettings::setStoreFile(QString()); }
 
     // A preset may hold anything a user can type; none may be lost or altered by the store.
     void presetSurvivesReopeningTheStore_data()
@@ -101,13 +102,13 @@ private Q_SLOTS:
         store.saveConfiguration(holiday);
         store.saveConfiguration(preset("configuration-0", u"Bare"_s));
 
-        const auto settings = UserSettings::openStore();
-        QCOMPARE(settings->value(u"configuration-3"_s).toString(),
+        const QSettings settings(UserSettings::storeFile(), QSettings::IniFormat);
+        QCOMPARE(settings.value(u"configuration-3"_s).toString(),
                  u"\n<configuration name=\"Holiday\" identifier=\"configuration-3\">"
                  "\n <field-modification name=\"IPTC:City\">Rome</field-modification>"
                  "\n <field-remove name=\"GPS:GPSLatitude\"/>"
                  "\n</configuration>"_s);
-        QCOMPARE(settings->value(u"configuration-0"_s).toString(),
+        QCOMPARE(settings.value(u"configuration-0"_s).toString(),
                  u"\n<configuration name=\"Bare\" identifier=\"configuration-0\"/>"_s);
         QCOMPARE(storedNames(), u"configuration-0,configuration-3"_s);
     }
@@ -115,15 +116,13 @@ private Q_SLOTS:
     void damagedOrMissingEntriesSpareTheOthers()
     {
         // The listed identifier is the key, whatever the document says.
-        {
-            const auto raw = UserSettings::openStore();
-            raw->setValue(ExifSettings::SettingsNamesKey,
-                          u"configuration-0,configuration-1,configuration-2,configuration-7"_s);
-            raw->setValue(u"configuration-0"_s,
-                          u"<configuration name=\"A\" identifier=\"other\"/>"_s);
-            raw->setValue(u"configuration-1"_s, u"<configuration name=\"B\"><x>a<b</x>"_s);
-            raw->setValue(u"configuration-2"_s, u"<configuration name=\"C\"/>"_s);
-        }
+        UserSettings::setValue(
+            ExifSettings::SettingsNamesKey,
+            u"configuration-0,configuration-1,configuration-2,configuration-7"_s);
+        UserSettings::setValue(u"configuration-0"_s,
+                               u"<configuration name=\"A\" identifier=\"other\"/>"_s);
+        UserSettings::setValue(u"configuration-1"_s, u"<configuration name=\"B\"><x>a<b</x>"_s);
+        UserSettings::setValue(u"configuration-2"_s, u"<configuration name=\"C\"/>"_s);
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"^Preset document unreadable"_s));
         QTest::ignoreMessage(
             QtWarningMsg, QRegularExpression(u"Skipping the unreadable preset.*configuration-1"_s));
@@ -144,7 +143,8 @@ private Q_SLOTS:
             store.saveConfiguration(preset(qPrintable(store.findUnusedNewIdentifier())));
         store.removeConfigurationIdentifier(u"configuration-1"_s);
         QCOMPARE(store.findUnusedNewIdentifier(), u"configuration-1"_s);
-        QVERIFY(!UserSettings::openStore()->contains(u"configuration-1"_s));
+        QVERIFY(!QSettings(UserSettings::storeFile(), QSettings::IniFormat)
+                     .contains(u"configuration-1"_s));
         QCOMPARE(storedNames(), u"configuration-0,configuration-2"_s);
     }
 
