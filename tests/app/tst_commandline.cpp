@@ -134,6 +134,8 @@ private Q_SLOTS:
         QTemporaryDir dir;
         QVERIFY(dir.isValid());
         const QString configHome = dir.filePath(u"config"_s);
+        // The preset goes to the store the started program will read.
+        const QString ownStore = UserSettings::storeFile();
         UserSettings::setStoreFile(configHome + u"/Tagsmith/Tagsmith.ini"_s);
         {
             ExifSettings store;
@@ -144,7 +146,7 @@ private Q_SLOTS:
             preset->removedValues().insert(u"IFD0:ImageDescription"_s);
             store.saveConfiguration(preset);
         }
-        UserSettings::setStoreFile(QString());
+        UserSettings::setStoreFile(ownStore);
 
         const QString photos = dir.filePath(u"photos"_s);
         QVERIFY(QDir().mkpath(photos));

@@ -148,6 +148,8 @@ private Q_SLOTS:
     {
         QTemporaryDir dir;
         const QString configHome = dir.filePath(u"config"_s);
+        // The preset goes to the store the started program will read.
+        const QString ownStore = UserSettings::storeFile();
         UserSettings::setStoreFile(configHome + u"/Tagsmith/Tagsmith.ini"_s);
         {
             ExifSettings store;
@@ -157,7 +159,7 @@ private Q_SLOTS:
             preset->changedValues().insert(u"IFD0:Artist"_s, u"Jane Doe"_s);
             store.saveConfiguration(preset);
         }
-        UserSettings::setStoreFile(QString());
+        UserSettings::setStoreFile(ownStore);
         const QString photo = dir.filePath(u"a.jpg"_s);
         QCOMPARE(Fixtures::makeImage(photo), QString());
 

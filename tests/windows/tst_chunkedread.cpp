@@ -89,7 +89,6 @@ private Q_SLOTS:
         m_paths.insert(4, set.tiff);
         m_paths.append(set.png);
     }
-    void cleanupTestCase() { UserSettings::setStoreFile(QString()); }
 
     void chunksGiveTheRecordsOfOneRun_data()
     {

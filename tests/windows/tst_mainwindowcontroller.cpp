@@ -158,7 +158,6 @@ private Q_SLOTS:
         m_controller.reset();
         m_store.reset();
     }
-    void cleanupTestCase() { UserSettings::setStoreFile(QString()); }
 
     void closeAnswers_data()
     {

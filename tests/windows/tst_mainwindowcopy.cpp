@@ -48,11 +48,7 @@ private Q_SLOTS:
         m_store = std::make_unique<ExifSettings>();
         ExifFieldsController::defaultInstance()->initializeConfigurations();
     }
-    void cleanupTestCase()
-    {
-        m_store.reset();
-        UserSettings::setStoreFile(QString());
-    }
+    void cleanupTestCase() { m_store.reset(); }
 
     // From the menu commands to the bytes on disk: a raw file's share of the paste goes to its
     // sidecar, a JPEG's into the file, and the dialog remembers the choice.

@@ -67,11 +67,7 @@ private Q_SLOTS:
         m_store = std::make_unique<ExifSettings>();
         ExifFieldsController::defaultInstance()->initializeConfigurations();
     }
-    void cleanupTestCase()
-    {
-        m_store.reset();
-        UserSettings::setStoreFile(QString());
-    }
+    void cleanupTestCase() { m_store.reset(); }
 
     void clockCorrection_data()
     {

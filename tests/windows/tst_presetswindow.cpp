@@ -82,7 +82,6 @@ private Q_SLOTS:
         UserSettings::setStoreFile(m_dir.filePath(u"store-%1.ini"_qs.arg(++m_storeNumber)));
         m_store = std::make_unique<ExifSettings>();
     }
-    void cleanupTestCase() { UserSettings::setStoreFile(QString()); }
 
     // However the user leaves a preset, what they typed is in the settings store.
     void leavingAPresetStoresIt_data()
