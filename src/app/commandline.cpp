@@ -7,6 +7,7 @@
 #include "engine/exiftoolversion.h"
 #include "engine/presetbatch.h"
 #include "values/debugmode.h"
+#include "values/trcontext.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -16,10 +17,7 @@
 
 namespace {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("CommandLine", text);
-}
+constexpr TrContext tr{"CommandLine"};
 
 const QString ApplyPresetOption = QStringLiteral("--apply-preset");
 

@@ -256,3 +256,13 @@ QString StringTables::localizedString(const QString &key, const QString &table,
         return *text;
     return defaultValue.isNull() ? key : defaultValue;
 }
+
+QString localized(const QString &key)
+{
+    return StringTables::instance().localizedString(key);
+}
+
+QString localized(const char *key)
+{
+    return localized(QString::fromUtf8(key));
+}

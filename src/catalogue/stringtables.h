@@ -38,3 +38,9 @@ private:
     // table -> key -> text
     QHash<QString, QHash<QString, QString>> m_tables;
 };
+
+// The default table's ("Localizable") text for a key, the key itself when there is none: how
+// windows and editors find their texts.
+QString localized(const QString &key);
+// The same for a UTF-8 key.
+QString localized(const char *key);

@@ -51,11 +51,6 @@ bool fitsMaker(const FieldEditor *editor, const std::optional<QString> &maker)
     return fieldMaker.isEmpty() || (maker && fieldMaker == *maker);
 }
 
-QString localized(const QString &key)
-{
-    return StringTables::instance().localizedString(key);
-}
-
 } // namespace
 
 ConfigurationViewController::ConfigurationViewController(QObject *parent,

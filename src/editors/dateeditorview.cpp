@@ -24,11 +24,6 @@
 
 namespace {
 
-QString localized(const QString &key)
-{
-    return StringTables::instance().localizedString(key);
-}
-
 // Logs "(E) ..." now and "(X) ..." when the scope ends, also when it ends by an exception.
 class Trace
 {

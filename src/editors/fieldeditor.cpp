@@ -529,11 +529,6 @@ void FieldEditor::restoreOriginalValue(const ExifFileInfoPtr &file) const
         file->setExifValue(key, original);
 }
 
-QString FieldEditor::localized(const QString &key)
-{
-    return StringTables::instance().localizedString(key);
-}
-
 QString FieldEditor::multipleValuesText()
 {
     static const QString text = localized(u"Multiple values"_qs);

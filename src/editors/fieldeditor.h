@@ -155,7 +155,6 @@ protected:
     // The same, only for the files whose value is not exactly the original (absent counts as a
     // value): what a row's modified check needs, without a pass over unchanged files.
     void visitChangedValues(const QList<ExifFileInfoPtr> &files, const ValueVisitor &visit) const;
-    static QString localized(const QString &key);
     static QString multipleValuesText();
     // The raw values of an enumerated field, ordered as the user reads them: by their titles.
     static QStringList valuesInTitleOrder(const ExifField &field);

@@ -3,6 +3,7 @@
 #include "editors/exiffilesupdate.h"
 
 #include "catalogue/exifconfiguration.h"
+#include "catalogue/stringtables.h"
 #include "controls/aperturetheme.h"
 #include "controls/attachedwindow.h"
 #include "controls/numberformattervalidator.h"

@@ -10,9 +10,9 @@
 #include "values/debugmode.h"
 #include "values/imagefiletypes.h"
 #include "values/logging.h"
+#include "values/trcontext.h"
 #include "values/usersettings.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QMutexLocker>
@@ -34,10 +34,7 @@ const QStringList DimensionKeys{QStringLiteral("File:ImageWidth"),
                                 QStringLiteral("File:ImageHeight"),
                                 QStringLiteral("Composite:ImageSize")};
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("ExifRunnerFileModifiyOperation", text);
-}
+constexpr TrContext tr{"ExifRunnerFileModifiyOperation"};
 
 // ExifTool names a record "<Directory>/<FileName>" as it printed them, which is the path it was
 // given; the file name alone is the fallback should it ever print the folder differently.

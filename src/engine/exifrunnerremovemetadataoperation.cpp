@@ -1,8 +1,8 @@
 #include "engine/exifrunnerremovemetadataoperation.h"
 
 #include "engine/revertrecord.h"
+#include "values/trcontext.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 
 #include <array>
@@ -14,10 +14,7 @@ const QString Jpeg = QStringLiteral("image/jpeg");
 const QString Tiff = QStringLiteral("image/tiff");
 const QString Photoshop = QStringLiteral("application/vnd.adobe.photoshop");
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("ExifRunnerRemoveMetadataOperation", text);
-}
+constexpr TrContext tr{"ExifRunnerRemoveMetadataOperation"};
 
 // ExifTool cannot drop the IFD0 of a TIFF (it holds the image), says so, and keeps it. The
 // user asked for nothing that failed, so the warning is not shown.

@@ -3,8 +3,8 @@
 #include "engine/exifrunnersaveoperation.h"
 
 #include "values/datevalue.h"
+#include "values/trcontext.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QTemporaryFile>
@@ -17,10 +17,7 @@
 
 namespace {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("ExifRunnerRevertOperation", text);
-}
+constexpr TrContext tr{"ExifRunnerRevertOperation"};
 
 } // namespace
 

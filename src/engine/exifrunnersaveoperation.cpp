@@ -10,20 +10,17 @@
 #include "values/leadingnumber.h"
 #include "values/numberformatter.h"
 #include "values/taglist.h"
+#include "values/trcontext.h"
 #include "values/usersettings.h"
 #include "values/zoneshift.h"
 
-#include <QCoreApplication>
 #include <QLocale>
 
 #include <cmath>
 
 namespace {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("ExifRunnerSaveOperation", text);
-}
+constexpr TrContext tr{"ExifRunnerSaveOperation"};
 
 FieldDataRepresentation representationOf(const ExifFieldPtr &field)
 {

@@ -10,9 +10,9 @@
 #include "engine/xmpsidecar.h"
 #include "values/debugmode.h"
 #include "values/imagefiletypes.h"
+#include "values/trcontext.h"
 #include "values/usersettings.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
@@ -24,10 +24,7 @@
 
 namespace {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("ExifRunnerSaveOperation", text);
-}
+constexpr TrContext tr{"ExifRunnerSaveOperation"};
 
 QString systemError(int error)
 {

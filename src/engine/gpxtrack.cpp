@@ -1,5 +1,7 @@
 #include "engine/gpxtrack.h"
 
+#include "values/trcontext.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -11,10 +13,7 @@
 
 namespace {
 
-QString tr(const char *text)
-{
-    return QString::fromUtf8(text);
-}
+constexpr TrContext tr{"GpxTrack"};
 
 bool isPointElement(QStringView name)
 {

@@ -8,16 +8,13 @@
 #include "engine/exifrunnerfilemodifiyoperation.h"
 #include "engine/exifutil.h"
 #include "engine/fileadmission.h"
+#include "values/trcontext.h"
 
-#include <QCoreApplication>
 #include <QEventLoop>
 
 namespace {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("PresetBatch", text);
-}
+constexpr TrContext tr{"PresetBatch"};
 
 // Waits for the one batch it is told of.
 class BatchWaiter : public ExifBackgroundRunnerListener

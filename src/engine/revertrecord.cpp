@@ -5,9 +5,8 @@
 #include "engine/exiftoolsession.h"
 #include "values/numberformatter.h"
 #include "values/taglist.h"
+#include "values/trcontext.h"
 #include "values/usersettings.h"
-
-#include <QCoreApplication>
 
 #include <QCryptographicHash>
 #include <QDir>
@@ -77,10 +76,7 @@ bool statFile(const QString &path, qint64 &size, qint64 &modifiedNs)
     return true;
 }
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("RevertRecord", text);
-}
+constexpr TrContext tr{"RevertRecord"};
 
 // Tags of the file itself and ExifTool's computed ones are not metadata a write can remove.
 bool isMetadataKey(const QString &key)

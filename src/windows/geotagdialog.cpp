@@ -25,11 +25,6 @@
 
 namespace {
 
-QString text(const char *key)
-{
-    return StringTables::instance().localizedString(QString::fromUtf8(key));
-}
-
 const QString TimeFormat = QStringLiteral("yyyy-MM-dd HH:mm:ss");
 
 } // namespace
@@ -38,19 +33,19 @@ GeotagDialog::GeotagDialog(const QList<ExifFileInfoPtr> &files, QWidget *parent)
     : QDialog(parent)
     , m_files(files)
 {
-    setWindowTitle(text("Geotag from Track Log"));
+    setWindowTitle(localized("Geotag from Track Log"));
     resize(720, 640);
 
     // Track logs.
-    auto *logsBox = new QGroupBox(text("Track Logs (GPX)"), this);
+    auto *logsBox = new QGroupBox(localized("Track Logs (GPX)"), this);
     m_gpxList = new QListWidget(logsBox);
     m_gpxList->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_gpxList->setMaximumHeight(80);
-    auto *addButton = new QPushButton(text("Add GPX Files…"), logsBox);
-    auto *removeButton = new QPushButton(text("Remove"), logsBox);
+    auto *addButton = new QPushButton(localized("Add GPX Files…"), logsBox);
+    auto *removeButton = new QPushButton(localized("Remove"), logsBox);
     connect(addButton, &QPushButton::clicked, this, &GeotagDialog::onAddGpxFiles);
     connect(removeButton, &QPushButton::clicked, this, &GeotagDialog::onRemoveGpxFiles);
-    m_trackLabel = new QLabel(text("No track log chosen."), logsBox);
+    m_trackLabel = new QLabel(localized("No track log chosen."), logsBox);
     m_trackLabel->setWordWrap(true);
     auto *logButtons = new QVBoxLayout;
     logButtons->addWidget(addButton);
@@ -64,7 +59,7 @@ GeotagDialog::GeotagDialog(const QList<ExifFileInfoPtr> &files, QWidget *parent)
     logsLayout->addWidget(m_trackLabel);
 
     // The camera's clock.
-    auto *clockBox = new QGroupBox(text("Camera Clock"), this);
+    auto *clockBox = new QGroupBox(localized("Camera Clock"), this);
     m_zoneCombo = new QComboBox(clockBox);
     m_zoneCombo->setEditable(true);
     m_zoneCombo->setInsertPolicy(QComboBox::NoInsert);
@@ -79,7 +74,7 @@ GeotagDialog::GeotagDialog(const QList<ExifFileInfoPtr> &files, QWidget *parent)
     }
     m_zoneCombo->setCurrentIndex(-1);
     m_zoneCombo->lineEdit()->setPlaceholderText(
-        text("Choose the zone the camera's clock was set to"));
+        localized("Choose the zone the camera's clock was set to"));
     m_zoneCombo->completer()->setFilterMode(Qt::MatchContains);
     m_zoneCombo->completer()->setCompletionMode(QCompleter::PopupCompletion);
     for (const ExifFileInfoPtr &file : std::as_const(m_files))
@@ -100,22 +95,23 @@ GeotagDialog::GeotagDialog(const QList<ExifFileInfoPtr> &files, QWidget *parent)
     m_zoneNote->setText(note.join(u' '));
     m_zoneCombo->setEnabled(m_filesWithoutZone > 0);
 
-    m_rightButton = new QRadioButton(text("The camera's clock was right"), clockBox);
+    m_rightButton = new QRadioButton(localized("The camera's clock was right"), clockBox);
     m_rightButton->setChecked(true);
-    m_lateButton = new QRadioButton(text("The camera was"), clockBox);
+    m_lateButton = new QRadioButton(localized("The camera was"), clockBox);
     m_lateMinutes = new QSpinBox(clockBox);
     m_lateMinutes->setRange(0, 24 * 60 * 7);
-    m_lateMinutes->setSuffix(text(" minutes"));
+    m_lateMinutes->setSuffix(localized(" minutes"));
     m_lateDirection = new QComboBox(clockBox);
-    m_lateDirection->addItem(text("late"));
-    m_lateDirection->addItem(text("early"));
+    m_lateDirection->addItem(localized("late"));
+    m_lateDirection->addItem(localized("early"));
     auto *lateRow = new QHBoxLayout;
     lateRow->addWidget(m_lateButton);
     lateRow->addWidget(m_lateMinutes);
     lateRow->addWidget(m_lateDirection);
     lateRow->addStretch();
 
-    m_referenceButton = new QRadioButton(text("A photo of the GPS device's screen:"), clockBox);
+    m_referenceButton =
+        new QRadioButton(localized("A photo of the GPS device's screen:"), clockBox);
     m_referencePhoto = new QComboBox(clockBox);
     for (const ExifFileInfoPtr &file : std::as_const(m_files))
         m_referencePhoto->addItem(QFileInfo(file->fileName()).fileName());
@@ -125,40 +121,41 @@ GeotagDialog::GeotagDialog(const QList<ExifFileInfoPtr> &files, QWidget *parent)
     auto *referenceRow = new QHBoxLayout;
     referenceRow->addWidget(m_referenceButton);
     referenceRow->addWidget(m_referencePhoto, 1);
-    referenceRow->addWidget(new QLabel(text("showed"), clockBox));
+    referenceRow->addWidget(new QLabel(localized("showed"), clockBox));
     referenceRow->addWidget(m_referenceTime);
 
     auto *clockLayout = new QFormLayout(clockBox);
-    clockLayout->addRow(text("Time zone of the clock:"), m_zoneCombo);
+    clockLayout->addRow(localized("Time zone of the clock:"), m_zoneCombo);
     clockLayout->addRow(m_zoneNote);
     clockLayout->addRow(m_rightButton);
     clockLayout->addRow(lateRow);
     clockLayout->addRow(referenceRow);
 
     // Matching.
-    m_interpolate = new QCheckBox(text("Interpolate between track points"), this);
+    m_interpolate = new QCheckBox(localized("Interpolate between track points"), this);
     m_interpolate->setChecked(true);
     m_maxGap = new QSpinBox(this);
     m_maxGap->setRange(1, 24 * 60);
     m_maxGap->setValue(30);
-    m_maxGap->setSuffix(text(" minutes"));
+    m_maxGap->setSuffix(localized(" minutes"));
     auto *matchRow = new QHBoxLayout;
     matchRow->addWidget(m_interpolate);
     matchRow->addStretch();
-    matchRow->addWidget(new QLabel(text("Largest gap between points:"), this));
+    matchRow->addWidget(new QLabel(localized("Largest gap between points:"), this));
     matchRow->addWidget(m_maxGap);
 
     m_results = new QTreeWidget(this);
     m_results->setRootIsDecorated(false);
-    m_results->setHeaderLabels({text("File"), text("Taken (camera clock)"), text("Position")});
+    m_results->setHeaderLabels(
+        {localized("File"), localized("Taken (camera clock)"), localized("Position")});
     m_results->header()->setStretchLastSection(true);
     m_results->setColumnWidth(0, 200);
     m_results->setColumnWidth(1, 160);
     m_summary = new QLabel(this);
 
     auto *buttons = new QDialogButtonBox(this);
-    m_previewButton = buttons->addButton(text("Preview on Map"), QDialogButtonBox::ActionRole);
-    m_applyButton = buttons->addButton(text("Apply"), QDialogButtonBox::ApplyRole);
+    m_previewButton = buttons->addButton(localized("Preview on Map"), QDialogButtonBox::ActionRole);
+    m_applyButton = buttons->addButton(localized("Apply"), QDialogButtonBox::ApplyRole);
     buttons->addButton(QDialogButtonBox::Cancel);
     connect(m_previewButton, &QPushButton::clicked, this,
             [this] { Q_EMIT previewRequested(m_track.points, proposedPins()); });
@@ -215,12 +212,12 @@ void GeotagDialog::setGpxFiles(const QStringList &paths)
 
     QStringList lines = m_track.errors;
     if (!m_track.isEmpty()) {
-        lines.prepend(text("%1 points from %2 to %3 (UTC).")
+        lines.prepend(localized("%1 points from %2 to %3 (UTC).")
                           .arg(m_track.points.size())
                           .arg(m_track.points.first().time.toString(TimeFormat),
                                m_track.points.last().time.toString(TimeFormat)));
     } else if (paths.isEmpty()) {
-        lines << text("No track log chosen.");
+        lines << localized("No track log chosen.");
     }
     m_trackLabel->setText(lines.join(u'\n'));
     rematch();
@@ -274,13 +271,13 @@ QString GeotagDialog::describe(const GeotagMatch &match)
         return position;
     }
     case GeotagStatus::NoCaptureTime:
-        return text("not matched: no capture time");
+        return localized("not matched: no capture time");
     case GeotagStatus::BeforeTrack:
-        return text("not matched: before the track");
+        return localized("not matched: before the track");
     case GeotagStatus::AfterTrack:
-        return text("not matched: after the track");
+        return localized("not matched: after the track");
     case GeotagStatus::InGap:
-        return text("not matched: in a gap of %1 minutes").arg((match.gapSeconds + 59) / 60);
+        return localized("not matched: in a gap of %1 minutes").arg((match.gapSeconds + 59) / 60);
     }
     return {};
 }
@@ -295,7 +292,7 @@ void GeotagDialog::apply()
 void GeotagDialog::onAddGpxFiles()
 {
     const QStringList paths = QFileDialog::getOpenFileNames(
-        this, text("Choose Track Logs"), QString(), text("GPS track logs (*.gpx *.GPX)"));
+        this, localized("Choose Track Logs"), QString(), localized("GPS track logs (*.gpx *.GPX)"));
     if (paths.isEmpty())
         return;
     QStringList all = m_gpxFiles;
@@ -350,11 +347,12 @@ void GeotagDialog::rematch()
                              ? taken + u' ' + QString::fromUtf8(matcher.zoneFor(*file).id())
                              : taken);
         if (!m_track.isEmpty())
-            item->setText(2, canMatch ? describe(match) : text("not matched: choose a time zone"));
+            item->setText(2, canMatch ? describe(match)
+                                      : localized("not matched: choose a time zone"));
     }
-    QString summary = text("%1 of %2 files matched.").arg(matched).arg(m_files.size());
+    QString summary = localized("%1 of %2 files matched.").arg(matched).arg(m_files.size());
     if (m_filesWithoutZone > 0 && !zoneChosen)
-        summary += u' ' + text("Choose the time zone of the camera's clock.");
+        summary += u' ' + localized("Choose the time zone of the camera's clock.");
     m_summary->setText(summary);
     m_applyButton->setEnabled(matched > 0 && (m_filesWithoutZone == 0 || zoneChosen));
     m_previewButton->setEnabled(!m_track.isEmpty());

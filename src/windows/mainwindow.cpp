@@ -16,15 +16,6 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-namespace {
-
-QString localized(const char *text)
-{
-    return StringTables::instance().localizedString(QString::fromUtf8(text));
-}
-
-} // namespace
-
 MainWindow::MainWindow(bool debug, QWidget *parent)
     : QMainWindow(parent)
 {

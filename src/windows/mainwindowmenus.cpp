@@ -7,15 +7,6 @@
 #include <QMenu>
 #include <QMenuBar>
 
-namespace {
-
-QString localized(const char *text)
-{
-    return StringTables::instance().localizedString(QString::fromUtf8(text));
-}
-
-} // namespace
-
 MainWindowMenus::MainWindowMenus(QMenuBar *menuBar, QObject *parent)
     : QObject(parent)
 {

@@ -25,11 +25,6 @@
 
 namespace {
 
-QString text(const char *key)
-{
-    return StringTables::instance().localizedString(QString::fromLatin1(key));
-}
-
 // Qt ships the channel's client script in its own resources; the page is a local file and
 // cannot load qrc: itself, so the script is put into every page before its own scripts run.
 QWebEngineScript webChannelScript()
@@ -54,11 +49,11 @@ MapWindowController::MapWindowController(QWidget *parent)
     , m_pins(new MapPins(this))
     , m_bridge(new MapBridge(m_pins, this))
 {
-    setWindowTitle(text("Map"));
+    setWindowTitle(localized("Map"));
     resize(800, 600);
 
-    auto *addPinButton = new QPushButton(text("Add Pin"), this);
-    auto *removePinButton = new QPushButton(text("Remove Pin"), this);
+    auto *addPinButton = new QPushButton(localized("Add Pin"), this);
+    auto *removePinButton = new QPushButton(localized("Remove Pin"), this);
     m_addPinButton = addPinButton;
     m_removePinButton = removePinButton;
     connect(addPinButton, &QPushButton::clicked, m_pins, &MapPins::addPin);
@@ -75,7 +70,7 @@ MapWindowController::MapWindowController(QWidget *parent)
     m_mapTypeControl = new QButtonGroup(this);
     const char *segmentNames[] = {"Standard", "Satellite", "Hybrid"};
     for (int segment = 0; segment < 3; ++segment) {
-        auto *button = new QPushButton(text(segmentNames[segment]), segments);
+        auto *button = new QPushButton(localized(segmentNames[segment]), segments);
         button->setCheckable(true);
         button->setChecked(segment == static_cast<int>(m_pins->mapType()));
         m_mapTypeControl->addButton(button, segment);
@@ -126,9 +121,9 @@ void MapWindowController::confirmRemovePin()
     sheet->setIcon(QMessageBox::Warning);
     sheet->setText(QCoreApplication::translate(
         "MapWindowController", "Remove the pin from %n file(s)?", nullptr, int(files.size())));
-    sheet->setInformativeText(text("Their GPS position, altitude and GPS date and time are "
-                                   "removed. The files change when you save them."));
-    QPushButton *remove = sheet->addButton(text("Remove Pin"), QMessageBox::AcceptRole);
+    sheet->setInformativeText(localized("Their GPS position, altitude and GPS date and time are "
+                                        "removed. The files change when you save them."));
+    QPushButton *remove = sheet->addButton(localized("Remove Pin"), QMessageBox::AcceptRole);
     QPushButton *cancel = sheet->addButton(QMessageBox::Cancel);
     sheet->setDefaultButton(cancel);
     sheet->setEscapeButton(cancel);
@@ -184,7 +179,7 @@ void MapWindowController::loadPage()
         qCWarning(lcTagsmith) << "The map page is missing:" << path;
         m_mapView->setHtml(
             u"<body style=\"background:#2b2b2b;color:#e8e8e8;font:13px sans-serif\">"_qs +
-            text("The map could not be shown: its page is missing at") + u" "_qs +
+            localized("The map could not be shown: its page is missing at") + u" "_qs +
             path.toHtmlEscaped() + u"</body>"_qs);
         return;
     }

@@ -12,15 +12,6 @@
 #include <QVBoxLayout>
 #include <QtConcurrent/QtConcurrentRun>
 
-namespace {
-
-QString localized(const QString &key)
-{
-    return StringTables::instance().localizedString(key);
-}
-
-} // namespace
-
 PreferencesWindowController::PreferencesWindowController(const QString &exifToolProgram,
                                                          QWidget *parent)
     : QWidget(parent, Qt::Window)

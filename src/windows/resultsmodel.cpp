@@ -8,11 +8,6 @@
 
 namespace {
 
-QString localized(const QString &key)
-{
-    return StringTables::instance().localizedString(key);
-}
-
 // The texts carry printf-style "%i" and "%@" placeholders, filled in the order they appear.
 QString fillPlaceholders(QString text, const QString &placeholder, const QStringList &values)
 {

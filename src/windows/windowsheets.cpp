@@ -4,11 +4,6 @@
 
 #include <QMessageBox>
 
-QString localized(const QString &key)
-{
-    return StringTables::instance().localizedString(key);
-}
-
 QMessageBox *makeSheet(QWidget *window, const QString &text, const QString &informativeText)
 {
     auto *sheet = new QMessageBox(window);

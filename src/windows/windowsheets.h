@@ -1,12 +1,12 @@
 #pragma once
 
+// Sheets' texts are looked up with localized() from here.
+#include "catalogue/stringtables.h"
+
 #include <QString>
 
 class QMessageBox;
 class QWidget;
-
-// The text under a string-table key (or English text) in the user's language.
-QString localized(const QString &key);
 
 // A window-modal question over window that deletes itself when answered; the caller adds the
 // buttons and opens it.
