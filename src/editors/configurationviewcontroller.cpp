@@ -15,6 +15,7 @@
 #include "catalogue/stringtables.h"
 #include "controls/aperturetheme.h"
 #include "controls/wheelguard.h"
+#include "values/cameramakers.h"
 #include "values/logging.h"
 #include "values/tagsmithexception.h"
 
@@ -33,16 +34,7 @@ const QColor FormBackground = QColor::fromRgbF(0.796f, 0.796f, 0.796f, 1.0f);
 
 QString makerName(const QString &make)
 {
-    static const QHash<QString, QString> names{
-        {u"Canon"_qs, u"Canon"_qs},
-        {u"NIKON CORPORATION"_qs, u"Nikon"_qs},
-        {u"OLYMPUS IMAGING CORP."_qs, u"Olympus"_qs},
-        {u"PENTAX Corporation"_qs, u"Pentax"_qs},
-        {u"Leica Camera AG"_qs, u"Leica"_qs},
-        {u"FUJIFILM"_qs, u"Fuji"_qs},
-    };
-    static const QString unknown = u"Unknown"_qs;
-    return names.value(make, unknown);
+    return CameraMakers::makerOfMake(make).value_or(CameraMakers::unknownMaker());
 }
 
 bool fitsMaker(const FieldEditor *editor, const std::optional<QString> &maker)

@@ -5,6 +5,7 @@
 #include "engine/exifrunner.h"
 #include "engine/exifutil.h"
 #include "engine/revertrecord.h"
+#include "values/cameramakers.h"
 #include "values/dateoffset.h"
 #include "values/datevalue.h"
 #include "values/leadingnumber.h"
@@ -245,18 +246,7 @@ std::optional<QString> ExifRunnerSaveOperation::formatNumberForExifTool(const QS
 
 std::optional<QString> ExifRunnerSaveOperation::identifyMaker(const TagDictionary &values)
 {
-    static const QHash<QString, QString> makers{
-        {QStringLiteral("Canon"), QStringLiteral("Canon")},
-        {QStringLiteral("NIKON CORPORATION"), QStringLiteral("Nikon")},
-        {QStringLiteral("OLYMPUS IMAGING CORP."), QStringLiteral("Olympus")},
-        {QStringLiteral("PENTAX Corporation"), QStringLiteral("Pentax")},
-        {QStringLiteral("Leica Camera AG"), QStringLiteral("Leica")},
-        {QStringLiteral("FUJIFILM"), QStringLiteral("Fuji")},
-    };
-    const auto maker = makers.constFind(values.value(QStringLiteral("IFD0:Make")));
-    if (maker == makers.cend())
-        return std::nullopt;
-    return maker.value();
+    return CameraMakers::makerOfMake(values.value(QStringLiteral("IFD0:Make")));
 }
 
 QStringList ExifRunnerSaveOperation::gatherExifToolArgumentsToChange(const TagDictionary &converted)
