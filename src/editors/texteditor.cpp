@@ -7,6 +7,7 @@
 #include "controls/aperturetheme.h"
 #include "controls/attachedwindow.h"
 #include "controls/numberformattervalidator.h"
+#include "values/fractionvalue.h"
 #include "values/gpslocation.h"
 #include "values/leadingnumber.h"
 #include "values/numberformatter.h"
@@ -20,30 +21,16 @@
 #include <QScrollBar>
 #include <QStyle>
 
-#include <cmath>
-
 namespace {
 
 const QString LatitudeKey = QStringLiteral("GPS:GPSLatitude");
 const QString LongitudeKey = QStringLiteral("GPS:GPSLongitude");
 
-// "###0.#####" in en_US: at most five decimals, no grouping, no trailing zeros.
-QString formatGpsDegrees(double degrees)
-{
-    QString text = QString::number(degrees, 'f', 5);
-    if (text.contains(u'.')) {
-        while (text.endsWith(u'0'))
-            text.chop(1);
-        if (text.endsWith(u'.'))
-            text.chop(1);
-    }
-    return text == u"-0" ? QString(u"0"_qs) : text;
-}
-
 std::optional<GPSLocation> parseCoordinate(const QString &text, FieldDataRepresentation r)
 {
-    return r == FieldDataRepresentation::Longitude ? GPSLocation::initLongitudeWithString(text)
-                                                   : GPSLocation::initLatitudeWithString(text);
+    return GPSLocation::initWithString(text, r == FieldDataRepresentation::Longitude
+                                                 ? GPSLocation::Longitude
+                                                 : GPSLocation::Latitude);
 }
 
 } // namespace
@@ -157,13 +144,9 @@ void TextEditor::setEnabled(bool enabled)
 void TextEditor::displayValue(const QString &value)
 {
     switch (field()->dataRepresentation()) {
-    case FieldDataRepresentation::Fraction: {
-        const double number = leadingNumber(value);
-        // Every value below one, zero and negatives included, shows as its reciprocal.
-        m_editor->setText(!value.isEmpty() && number < 1 ? QString::asprintf("1/%.0f", 1.0 / number)
-                                                         : value);
+    case FieldDataRepresentation::Fraction:
+        m_editor->setText(FractionValue::displayText(value));
         break;
-    }
     case FieldDataRepresentation::Longitude:
     case FieldDataRepresentation::Latitude:
         m_editor->setText(value.isEmpty() ? QString() : formatLocation(leadingNumber(value)));
@@ -248,15 +231,8 @@ void TextEditor::updateExifFileValue(const ExifFileInfoPtr &file)
     }
     switch (field()->dataRepresentation()) {
     case FieldDataRepresentation::Fraction:
-        if (value.contains(u'/')) {
-            const QStringList parts = value.split(u'/');
-            if (parts.size() == 2) {
-                file->setExifValue(key, QString::asprintf("%f", leadingNumber(parts.at(0)) /
-                                                                    leadingNumber(parts.at(1))));
-            }
-        } else {
-            file->setExifValue(key, value);
-        }
+        if (const auto stored = FractionValue::storedText(value))
+            file->setExifValue(key, *stored);
         break;
     case FieldDataRepresentation::Longitude:
     case FieldDataRepresentation::Latitude:
@@ -279,15 +255,15 @@ bool TextEditor::setGpsValue(const QString &text, const ExifFileInfoPtr &file,
 {
     const auto representation = field()->dataRepresentation();
     const auto location = parseCoordinate(text, representation);
-    // A NaN comes from out-of-range minutes or seconds: as wrong as text that does not parse.
-    if (!location || std::isnan(location->doubleValue())) {
+    // Out-of-range minutes or seconds are as wrong as text that does not parse.
+    if (!location || !location->isInRange()) {
         m_gpsFailed = true;
         showErrorPopup(localized(representation == FieldDataRepresentation::Longitude
                                      ? u"GPS_LONGITUDE_FORMAT_DESC:"_qs
                                      : u"GPS_LATITUDE_FORMAT_DESC"_qs));
         return false;
     }
-    file->setExifValue(xmlName, formatGpsDegrees(location->doubleValue()));
+    file->setExifValue(xmlName, GPSLocation::degreesText(location->doubleValue()));
     const QString letter = location->hemisphereLetter();
     if (!letter.isEmpty()) {
         file->setExifValue(referenceKey(), letter);
@@ -339,7 +315,7 @@ void TextEditor::controlTextDidEndEditing()
     if (isCoordinate() && !m_gpsFailed) {
         const QString text = currentText();
         if (const auto location = parseCoordinate(text, field()->dataRepresentation());
-            !text.isEmpty() && location && !std::isnan(location->doubleValue())) {
+            !text.isEmpty() && location && location->isInRange()) {
             m_editor->setText(formatLocation(location->doubleValue()));
         }
     }
@@ -407,24 +383,15 @@ bool TextEditor::copyToConfiguration(ExifConfiguration &configuration)
     }
     switch (field()->dataRepresentation()) {
     case FieldDataRepresentation::Fraction:
-        if (!text.contains(u'/')) {
-            configuration.changedValues().insert(key, text);
-        } else if (const QStringList parts = text.split(u'/'); parts.size() == 2) {
-            configuration.changedValues().insert(
-                key,
-                QString::asprintf("%f", leadingNumber(parts.at(0)) / leadingNumber(parts.at(1))));
-        }
+        if (const auto stored = FractionValue::storedText(text))
+            configuration.changedValues().insert(key, *stored);
         break;
     case FieldDataRepresentation::Longitude:
     case FieldDataRepresentation::Latitude: {
+        // Presets keep the sign in the number; text that is no coordinate stores zero.
         const auto location = parseCoordinate(text, field()->dataRepresentation());
-        double value = 0;
-        if (location) {
-            value = location->doubleValue();
-            if (location->latlong() == GPSLocation::SouthOrWest)
-                value = -value;
-        }
-        configuration.changedValues().insert(key, QString::asprintf("%f", value));
+        configuration.changedValues().insert(
+            key, QString::asprintf("%f", location ? location->signedValue() : 0.0));
         break;
     }
     default:

@@ -1,5 +1,6 @@
 #include "values/gpslocation.h"
 
+#include "values/leadingnumber.h"
 #include "values/logging.h"
 #include "values/tagsmithexception.h"
 
@@ -112,6 +113,11 @@ std::optional<GPSLocation> GPSLocation::initLongitudeWithString(const QString &t
     return location;
 }
 
+std::optional<GPSLocation> GPSLocation::initWithString(const QString &text, int type)
+{
+    return type == Longitude ? initLongitudeWithString(text) : initLatitudeWithString(text);
+}
+
 GPSLocation GPSLocation::initLatitudeWithDouble(double value, int northSouth)
 {
     return GPSLocation(Latitude, value, northSouth);
@@ -120,6 +126,41 @@ GPSLocation GPSLocation::initLatitudeWithDouble(double value, int northSouth)
 GPSLocation GPSLocation::initLongitudeWithDouble(double value, int eastWest)
 {
     return GPSLocation(Longitude, value, eastWest);
+}
+
+bool GPSLocation::isInRange() const
+{
+    return !std::isnan(m_position);
+}
+
+double GPSLocation::signedValue() const
+{
+    return m_latlong == SouthOrWest ? -m_position : m_position;
+}
+
+QString GPSLocation::degreesText(double degrees)
+{
+    QString text = QString::number(degrees, 'f', 5);
+    if (text.contains(u'.')) {
+        while (text.endsWith(u'0'))
+            text.chop(1);
+        if (text.endsWith(u'.'))
+            text.chop(1);
+    }
+    return text == u"-0" ? QStringLiteral("0") : text;
+}
+
+std::optional<double> GPSLocation::signedDegreesFromTags(const QString &degrees,
+                                                         const QString &reference, int type)
+{
+    // Only the exact upper-case letters count, as ExifTool writes them.
+    const bool latitude = type == Latitude;
+    const QString positive = latitude ? QStringLiteral("N") : QStringLiteral("E");
+    const QString negative = latitude ? QStringLiteral("S") : QStringLiteral("W");
+    if (reference != positive && reference != negative)
+        return std::nullopt;
+    const double value = leadingNumber(degrees);
+    return reference == negative ? -value : value;
 }
 
 QString GPSLocation::hemisphereLetter() const

@@ -20,11 +20,18 @@ public:
     // Nothing when no accepted form matches; out-of-range parts give a NaN value instead.
     static std::optional<GPSLocation> initLatitudeWithString(const QString &text);
     static std::optional<GPSLocation> initLongitudeWithString(const QString &text);
+    // Either of the above by type (Latitude or Longitude).
+    static std::optional<GPSLocation> initWithString(const QString &text, int type);
     // Stored as given: no range check, no sign handling.
     static GPSLocation initLatitudeWithDouble(double value, int northSouth);
     static GPSLocation initLongitudeWithDouble(double value, int eastWest);
 
     double doubleValue() const { return m_position; }
+    // False for the NaN that out-of-range minutes or seconds give.
+    bool isInRange() const;
+    // Negative in the southern and western hemispheres; a text without a letter or sign
+    // counts as north or east.
+    double signedValue() const;
     int type() const { return m_type; }
     int latlong() const { return m_latlong; }
     int northSouth() const { return m_latlong; }
@@ -48,6 +55,14 @@ public:
     // The text editors' style by the user setting GPS_FORMAT: 2 decimal degrees, 1 degrees and
     // decimal minutes, anything else degrees, minutes and seconds; never with the letter.
     QString stringForGpsFormat(int gpsFormat) const;
+
+    // Degrees as the text editors write them to a file: at most five decimals, "." whatever
+    // the locale, no grouping, no trailing zeros, never "-0".
+    static QString degreesText(double degrees);
+    // A coordinate as a file holds it, unsigned degrees beside a reference tag, in signed
+    // degrees; nullopt unless the reference is exactly one of the type's two letters.
+    static std::optional<double> signedDegreesFromTags(const QString &degrees,
+                                                       const QString &reference, int type);
 
 private:
     GPSLocation(int type, double position, int latlong);

@@ -2,7 +2,6 @@
 
 #include "editors/exiffilesupdate.h"
 #include "values/gpslocation.h"
-#include "values/leadingnumber.h"
 
 #include <QFileInfo>
 
@@ -45,23 +44,18 @@ std::optional<MapPin> MapPins::createPointAnnotation(const ExifFileInfo &file)
         if (!data.contains(key))
             return std::nullopt;
     }
-    // Only the exact upper-case letters count, as ExifTool writes them.
-    const QString latitudeRef = data.value(LatitudeRefKey);
-    const QString longitudeRef = data.value(LongitudeRefKey);
-    if (latitudeRef != u"N" && latitudeRef != u"S")
-        return std::nullopt;
-    if (longitudeRef != u"E" && longitudeRef != u"W")
+    const auto latitude = GPSLocation::signedDegreesFromTags(
+        data.value(LatitudeKey), data.value(LatitudeRefKey), GPSLocation::Latitude);
+    const auto longitude = GPSLocation::signedDegreesFromTags(
+        data.value(LongitudeKey), data.value(LongitudeRefKey), GPSLocation::Longitude);
+    if (!latitude || !longitude)
         return std::nullopt;
 
     MapPin pin;
     pin.fileName = file.fileName();
     pin.title = QFileInfo(file.fileName()).fileName();
-    pin.latitude = leadingNumber(data.value(LatitudeKey));
-    if (latitudeRef == u"S")
-        pin.latitude = -pin.latitude;
-    pin.longitude = leadingNumber(data.value(LongitudeKey));
-    if (longitudeRef == u"W")
-        pin.longitude = -pin.longitude;
+    pin.latitude = *latitude;
+    pin.longitude = *longitude;
     return pin;
 }
 

@@ -105,6 +105,97 @@ private Q_SLOTS:
         QCOMPARE(location.stringForGpsFormat(0), dms.chopped(hemisphere ? 1 : 0));
     }
 
+    // What a typed coordinate writes: the magnitude in the file, the side in the reference tag,
+    // and a preset's signed number.
+    void writtenForms_data()
+    {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("degrees");
+        QTest::addColumn<QString>("letter");
+        QTest::addColumn<double>("signedValue");
+        const auto row = [](const char *name, int type, const QString &text, const char *degrees,
+                            const char *letter, double value) {
+            QTest::newRow(name) << type << text << QString::fromLatin1(degrees)
+                                << QString::fromLatin1(letter) << value;
+        };
+        row("south by sign", Lat, u"-33.8688"_qs, "33.8688", "S", -33.8688);
+        row("west by letter", Lon, u"151.2093W"_qs, "151.2093", "W", -151.2093);
+        row("plus is north", Lat, u"+48.5"_qs, "48.5", "N", 48.5);
+        row("no side counts as north", Lat, u"48.5"_qs, "48.5", "", 48.5);
+        row("rounded to five decimals", Lon, u"2.123456E"_qs, "2.12346", "E", 2.123456);
+        row("trailing zeros dropped", Lat, u"10.50000"_qs, "10.5", "", 10.5);
+        row("whole degrees without point", Lat, u"45°0'0\"S"_qs, "45", "S", -45.0);
+        row("dms to decimal", Lat, u"48°51'29.5\"N"_qs, "48.85819", "N", 48.8581944);
+        row("zero", Lon, u"0"_qs, "0", "", 0.0);
+        row("rounds up to the next degree", Lon, u"9.999999"_qs, "10", "", 9.999999);
+    }
+    void writtenForms()
+    {
+        QFETCH(int, type);
+        QFETCH(QString, text);
+        QFETCH(double, signedValue);
+        const auto location = GPSLocation::initWithString(text, type);
+        QVERIFY(location && location->isInRange());
+        QCOMPARE(location->type(), type);
+        QTEST(GPSLocation::degreesText(location->doubleValue()), "degrees");
+        QTEST(location->hemisphereLetter(), "letter");
+        QVERIFY(std::fabs(location->signedValue() - signedValue) < 1e-6);
+    }
+
+    void outOfRangePartsAreNoValue()
+    {
+        for (const QString &text : {u"12°61'"_qs, u"12°30'61\""_qs, u"181°0'"_qs}) {
+            const auto location = GPSLocation::initWithString(text, Lon);
+            QVERIFY2(location && !location->isInRange(), qPrintable(text));
+        }
+        QVERIFY(GPSLocation::initWithString(u"12.5"_qs, Lat)->isInRange());
+    }
+
+    void degreesTextNeverNegativeZero()
+    {
+        QCOMPARE(GPSLocation::degreesText(-0.000001), u"0"_qs);
+        QCOMPARE(GPSLocation::degreesText(-0.0), u"0"_qs);
+        QCOMPARE(GPSLocation::degreesText(-12.25), u"-12.25"_qs);
+    }
+
+    // A file's pair of tags as the map reads it: only ExifTool's exact letters give a position.
+    void signedDegreesFromTags_data()
+    {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<QString>("degrees");
+        QTest::addColumn<QString>("reference");
+        QTest::addColumn<double>("value"); // NaN: no position
+        const auto row = [](const char *name, int type, const char *degrees, const char *ref,
+                            double value) {
+            QTest::newRow(name) << type << QString::fromLatin1(degrees) << QString::fromLatin1(ref)
+                                << value;
+        };
+        row("north", Lat, "48.8584", "N", 48.8584);
+        row("south", Lat, "33.9", "S", -33.9);
+        row("east", Lon, "2.2945", "E", 2.2945);
+        row("west", Lon, "151.2", "W", -151.2);
+        row("latitude with a longitude letter", Lat, "10", "E", NaN);
+        row("lower case", Lon, "20", "w", NaN);
+        row("padded letter", Lat, "10", "N ", NaN);
+        row("word", Lat, "10", "North", NaN);
+        row("no reference", Lat, "10", "", NaN);
+        row("a signed value is negated like any other", Lat, "-12.5", "S", 12.5);
+        row("trailing text ignored", Lon, "7.25 deg", "E", 7.25);
+        row("no number is zero", Lat, "n/a", "N", 0.0);
+    }
+    void signedDegreesFromTags()
+    {
+        QFETCH(int, type);
+        QFETCH(QString, degrees);
+        QFETCH(QString, reference);
+        QFETCH(double, value);
+        const auto got = GPSLocation::signedDegreesFromTags(degrees, reference, type);
+        QCOMPARE(got.has_value(), !std::isnan(value));
+        if (got)
+            QCOMPARE(*got, value);
+    }
+
     // What the editors show must read back as the same coordinate: no hemisphere flipped, no
     // rounding beyond the printed precision; a signed decimal as web maps give it keeps its side.
     void formattedTextParsesBack()
