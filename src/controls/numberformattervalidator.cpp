@@ -2,8 +2,6 @@
 
 #include "values/numberformatter.h"
 
-#include <QStringBuilder>
-
 NumberFormatterValidator::NumberFormatterValidator(std::shared_ptr<const NumberFormatter> formatter,
                                                    QObject *parent)
     : QValidator(parent)
@@ -13,15 +11,13 @@ NumberFormatterValidator::NumberFormatterValidator(std::shared_ptr<const NumberF
 
 QValidator::State NumberFormatterValidator::validate(QString &input, int &) const
 {
-    const QString trimmed = input.trimmed();
-    if (trimmed.isEmpty() || m_formatter->numberFromString(trimmed))
+    switch (m_formatter->classifyInput(input)) {
+    case NumberFormatter::Input::Acceptable:
         return Acceptable;
-    const QLocale &locale = m_formatter->locale();
-    const QString allowed = locale.decimalPoint() % locale.groupSeparator() %
-                            locale.negativeSign() % locale.positiveSign() % u".-+eE";
-    for (const QChar c : trimmed) {
-        if (!c.isDigit() && !c.isSpace() && !allowed.contains(c))
-            return Invalid;
+    case NumberFormatter::Input::Intermediate:
+        return Intermediate;
+    case NumberFormatter::Input::Invalid:
+        break;
     }
-    return Intermediate;
+    return Invalid;
 }

@@ -1,5 +1,7 @@
 #include "values/numberformatter.h"
 
+#include <QStringBuilder>
+
 #include <algorithm>
 #include <cmath>
 
@@ -76,4 +78,20 @@ QString NumberFormatter::stringFromNumber(double number) const
     if (locale.toDouble(result) == 0.0 && result.startsWith(locale.negativeSign()))
         result.remove(0, locale.negativeSign().size());
     return result;
+}
+
+NumberFormatter::Input NumberFormatter::classifyInput(const QString &text) const
+{
+    const QString trimmed = text.trimmed();
+    if (trimmed.isEmpty() || numberFromString(trimmed))
+        return Input::Acceptable;
+    // The C forms are allowed too: a value pasted from ExifTool's output should not be blocked
+    // halfway.
+    const QString allowed = m_locale.decimalPoint() % m_locale.groupSeparator() %
+                            m_locale.negativeSign() % m_locale.positiveSign() % u".-+eE";
+    for (const QChar c : trimmed) {
+        if (!c.isDigit() && !c.isSpace() && !allowed.contains(c))
+            return Input::Invalid;
+    }
+    return Input::Intermediate;
 }

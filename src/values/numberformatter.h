@@ -40,6 +40,12 @@ public:
     std::optional<double> numberFromString(const QString &text) const;
     QString stringFromNumber(double number) const;
 
+    enum class Input { Acceptable, Intermediate, Invalid };
+    // How a text being typed stands: empty (which removes the value) or a number is acceptable;
+    // text made only of digits, blanks, signs, separators and exponents may still become one;
+    // anything else is refused.
+    Input classifyInput(const QString &text) const;
+
 private:
     QLocale m_locale;
     bool m_lenient = false;

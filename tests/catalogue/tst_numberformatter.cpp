@@ -90,6 +90,42 @@ private Q_SLOTS:
         QTEST(formatterFor(type, decimals, locale)->stringFromNumber(number), "text");
     }
 
+    // While a number is typed into a row, text on its way to a number must not be blocked and
+    // anything else must not get in.
+    void classifiesTypedInput_data()
+    {
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<FieldDataType>("type");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<NumberFormatter::Input>("input");
+        using I = NumberFormatter::Input;
+        const auto row = [](const char *name, const char *locale, FieldDataType type,
+                            const char *text, I input) {
+            QTest::newRow(name) << QString::fromLatin1(locale) << type << QString::fromUtf8(text)
+                                << input;
+        };
+        row("empty removes the value", "en_US", T::UInt8, "", I::Acceptable);
+        row("blanks only", "en_US", T::UInt8, "  ", I::Acceptable);
+        row("number", "en_US", T::UInt8, "42", I::Acceptable);
+        row("lone minus on the way", "en_US", T::Int16, "-", I::Intermediate);
+        row("out of bounds may still be edited", "en_US", T::UInt8, "300", I::Intermediate);
+        row("fraction in an integer field", "en_US", T::UInt8, "1.5", I::Intermediate);
+        row("exponent started", "en_US", T::Double, "1e", I::Intermediate);
+        row("German comma", "de_DE", T::UDouble, "3,5", I::Acceptable);
+        row("point in a German field", "de_DE", T::UDouble, "3.", I::Intermediate);
+        row("letter", "en_US", T::UDouble, "3x", I::Invalid);
+        row("slash", "en_US", T::UDouble, "1/2", I::Invalid);
+        row("other script digits", "en_US", T::UInt8, "\u0664\u0662", I::Intermediate);
+    }
+
+    void classifiesTypedInput()
+    {
+        QFETCH(QString, locale);
+        QFETCH(FieldDataType, type);
+        QFETCH(QString, text);
+        QTEST(formatterFor(type, -1, locale)->classifyInput(text), "input");
+    }
+
     void plainFormatterIsStrict()
     {
         NumberFormatter formatter(QLocale(u"en_US"_s));
