@@ -8,10 +8,11 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int Padding = 3;
-constexpr int MaxCellValue = 99;
 
 // Months and minutes are both "m": the cells' order tells them apart.
 const std::array<QString, DateOffsetField::CellCount> UnitLabels = {
@@ -77,10 +78,9 @@ int DateOffsetField::lastCell() const
 
 void DateOffsetField::showComponents()
 {
-    const qint64 units[] = {m_components.year, m_components.month,  m_components.day,
-                            m_components.hour, m_components.minute, m_components.second};
-    for (int i = 0; i < 6; ++i)
-        m_cells[size_t(i + 1)] = QString::number(qAbs(units[i]));
+    // The sign cell is left to setPlusMinus.
+    const DateOffsetCells cells = dateOffsetCells(m_components);
+    std::copy(cells.cbegin() + 1, cells.cend(), m_cells.begin() + 1);
     update();
 }
 
@@ -145,19 +145,15 @@ void DateOffsetField::keyPressEvent(QKeyEvent *event)
 void DateOffsetField::stepSelectedCell(int step)
 {
     QString &cell = m_cells[size_t(m_selectedCell)];
-    const int value = cell.toInt() + step;
-    if (value >= 0 && value <= MaxCellValue)
-        cell = QString::number(value);
+    cell = steppedOffsetCell(cell, step);
 }
 
 void DateOffsetField::typeDigit(QChar digit)
 {
     QString &cell = m_cells[size_t(m_selectedCell)];
     const qint64 now = m_clock();
-    if (m_lastDigitTime && now - *m_lastDigitTime < TypingIntervalMs)
-        cell = cell.size() <= 1 ? cell + digit : cell.mid(1, 1) + digit;
-    else
-        cell = QString(digit);
+    cell =
+        typedOffsetCell(cell, digit, m_lastDigitTime && now - *m_lastDigitTime < TypingIntervalMs);
     m_lastDigitTime = now;
     update();
 }
@@ -167,16 +163,8 @@ void DateOffsetField::synchronizeFromCells()
     const bool oldPlus = m_plusMinus;
     const DateComponents old = m_components;
 
-    m_plusMinus = m_cells[SignCell] != QLatin1String("-");
-    m_components.era = m_plusMinus ? 1 : 0;
-    m_components.year = m_cells[1].toLongLong();
-    m_components.month = m_cells[2].toLongLong();
-    m_components.day = m_cells[3].toLongLong();
-    if (m_type == DateEditorTypeDateTime) {
-        m_components.hour = m_cells[4].toLongLong();
-        m_components.minute = m_cells[5].toLongLong();
-        m_components.second = m_cells[6].toLongLong();
-    }
+    m_components = dateOffsetFromCells(m_cells, m_type, m_components);
+    m_plusMinus = m_components.era == 1;
     update();
     if (oldPlus != m_plusMinus || !old.hasSameUnits(m_components))
         Q_EMIT dateOffsetChanged();

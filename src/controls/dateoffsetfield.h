@@ -1,6 +1,6 @@
 #pragma once
 
-#include "values/datecomponents.h"
+#include "values/dateoffset.h"
 
 #include <QString>
 #include <QWidget>
@@ -18,7 +18,7 @@ class DateOffsetField : public QWidget
 
 public:
     static constexpr int SignCell = 0;
-    static constexpr int CellCount = 7;
+    static constexpr int CellCount = int(std::tuple_size_v<DateOffsetCells>);
     // Digits typed closer together than this build one number.
     static constexpr qint64 TypingIntervalMs = 1000;
 
@@ -73,7 +73,7 @@ private:
     DateEditorType m_type;
     DateComponents m_components;
     bool m_plusMinus = true;
-    std::array<QString, CellCount> m_cells;
+    DateOffsetCells m_cells;
     int m_selectedCell = -1;
     std::optional<qint64> m_lastDigitTime;
     std::function<qint64()> m_clock;

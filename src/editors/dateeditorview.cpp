@@ -54,13 +54,9 @@ QDateTime wallClockNow()
 }
 
 // Offsets of different files count as one when a user would type them the same way.
-DateComponents typedForm(DateComponents offset)
+DateComponents typedForm(const DateComponents &offset)
 {
-    for (qint64 DateComponents::*unit :
-         {&DateComponents::year, &DateComponents::month, &DateComponents::day,
-          &DateComponents::hour, &DateComponents::minute, &DateComponents::second})
-        offset.*unit = qAbs(offset.*unit);
-    return offset;
+    return withUnitSign(offset, 1);
 }
 
 QLabel *clickableLabel(const QString &text, QWidget *parent)
@@ -358,12 +354,8 @@ void DateEditorView::controlMouseUp(QObject *control)
         QDateTime base = firstOriginalDate();
         if (!base.isValid())
             base = wallClockNow();
-        DateComponents units = m_offsetField->dateComponentsValue();
-        const qint64 sign = units.era.value_or(0) >= 1 ? 1 : -1;
-        for (qint64 DateComponents::*unit :
-             {&DateComponents::year, &DateComponents::month, &DateComponents::day,
-              &DateComponents::hour, &DateComponents::minute, &DateComponents::second})
-            units.*unit = sign * qAbs(units.*unit);
+        const DateComponents &typed = m_offsetField->dateComponentsValue();
+        DateComponents units = withUnitSign(typed, typed.era.value_or(0) >= 1 ? 1 : -1);
         if (m_type == DateEditorTypeDate)
             units.hour = units.minute = units.second = 0;
         const QDateTime date = shiftWallClock(base, units);

@@ -55,14 +55,9 @@ QDateTime shiftWallClock(const QDateTime &date, const DateComponents &units)
 
 QDateTime applyOffsetText(const QDateTime &base, const QString &offsetText, DateEditorType type)
 {
-    DateComponents units = type == DateEditorTypeDate ? parseDateOffsetDateOnly(offsetText)
-                                                      : parseDateOffset(offsetText);
-    const qint64 sign = offsetText.contains(u'+') ? 1 : -1;
-    for (qint64 DateComponents::*unit :
-         {&DateComponents::year, &DateComponents::month, &DateComponents::day,
-          &DateComponents::hour, &DateComponents::minute, &DateComponents::second})
-        units.*unit = sign * qAbs(units.*unit);
-    return shiftWallClock(base, units);
+    const DateComponents typed = type == DateEditorTypeDate ? parseDateOffsetDateOnly(offsetText)
+                                                            : parseDateOffset(offsetText);
+    return shiftWallClock(base, withUnitSign(typed, offsetText.contains(u'+') ? 1 : -1));
 }
 
 DateComponents wallClockOffset(const QDateTime &from, const QDateTime &to)

@@ -83,14 +83,8 @@ QString formatUnits(const DateComponents &offset, bool plus, bool spaced)
 
 DateComponents magnitudes(const DateComponents &offset, bool negate)
 {
-    const qint64 sign = negate ? -1 : 1;
-    DateComponents units;
-    units.year = sign * qAbs(offset.year);
-    units.month = sign * qAbs(offset.month);
-    units.day = sign * qAbs(offset.day);
-    units.hour = sign * qAbs(offset.hour);
-    units.minute = sign * qAbs(offset.minute);
-    units.second = sign * qAbs(offset.second);
+    DateComponents units = withUnitSign(offset, negate ? -1 : 1);
+    units.era.reset();
     return units;
 }
 
@@ -257,4 +251,53 @@ QDateTime applyDateOffset(const QString &offsetText, const QString &originalText
     const bool negate = !offsetText.contains(u'+');
     return addDateComponents(dateFromComponents(*original),
                              magnitudes(parseDateOffset(offsetText), negate));
+}
+
+DateOffsetCells dateOffsetCells(const DateComponents &offset)
+{
+    const qint64 units[] = {offset.year, offset.month,  offset.day,
+                            offset.hour, offset.minute, offset.second};
+    DateOffsetCells cells;
+    cells[0] = QStringLiteral("+");
+    for (size_t i = 0; i < 6; ++i)
+        cells[i + 1] = QString::number(qAbs(units[i]));
+    return cells;
+}
+
+QString steppedOffsetCell(const QString &cell, int step)
+{
+    const int value = cell.toInt() + step;
+    return value >= 0 && value <= 99 ? QString::number(value) : cell;
+}
+
+QString typedOffsetCell(const QString &cell, QChar digit, bool continuing)
+{
+    if (!continuing)
+        return QString(digit);
+    return cell.size() <= 1 ? cell + digit : cell.mid(1, 1) + digit;
+}
+
+DateComponents dateOffsetFromCells(const DateOffsetCells &cells, DateEditorType type,
+                                   DateComponents kept)
+{
+    const bool plus = cells[0] != u"-";
+    kept.era = plus ? 1 : 0;
+    kept.year = cells[1].toLongLong();
+    kept.month = cells[2].toLongLong();
+    kept.day = cells[3].toLongLong();
+    if (type == DateEditorTypeDateTime) {
+        kept.hour = cells[4].toLongLong();
+        kept.minute = cells[5].toLongLong();
+        kept.second = cells[6].toLongLong();
+    }
+    return kept;
+}
+
+DateComponents withUnitSign(DateComponents offset, int sign)
+{
+    for (qint64 DateComponents::*unit :
+         {&DateComponents::year, &DateComponents::month, &DateComponents::day,
+          &DateComponents::hour, &DateComponents::minute, &DateComponents::second})
+        offset.*unit = sign * qAbs(offset.*unit);
+    return offset;
 }

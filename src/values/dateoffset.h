@@ -5,6 +5,8 @@
 #include <QDateTime>
 #include <QString>
 
+#include <array>
+
 // Date offsets: a pending shift that a date field holds instead of a date while the user edits a
 // batch of files, resolved per file against that file's own original value. Stored in compact
 // form: a sign, then each non-zero unit as "1y" "2M" "3d" "4h" "5m" "6s" (M months, m minutes).
@@ -27,6 +29,9 @@ QString formatDateOffsetDisplay(const DateComponents &offset, bool plus);
 // "-" when the text holds no "+".
 QString formatDateOffsetForWriting(const QString &offsetText, DateEditorType type);
 
+// The offset with every unit's magnitude given sign (1 or -1); era is kept as it is.
+DateComponents withUnitSign(DateComponents offset, int sign);
+
 // Calendar difference from current to original, signed units; era -1 when current is the later
 // date, 1 when original is, unset when they are equal.
 DateComponents offsetBetweenDates(const QDateTime &current, const QDateTime &original);
@@ -38,3 +43,18 @@ QString describeOffsetBetweenDates(const QDateTime &from, const QDateTime &to);
 // magnitudes of its units, all negated when the text holds no "+"; any other value is read as a
 // date-time of its own. Invalid when the needed date does not parse.
 QDateTime applyDateOffset(const QString &offsetText, const QString &originalText);
+
+// An offset as the user edits it, one text cell each for the sign ("+" or "-") and the year,
+// month, day, hour, minute and second.
+using DateOffsetCells = std::array<QString, 7>;
+// Sign "+" and the units' magnitudes.
+DateOffsetCells dateOffsetCells(const DateComponents &offset);
+// A unit cell moved one step by an arrow, left as it is where that would leave 0-99.
+QString steppedOffsetCell(const QString &cell, int step);
+// A digit typed into a unit cell: it starts a new number, or, typed soon after the previous one,
+// shifts in like a two-digit counter ("1" "2" "3" ends as "23").
+QString typedOffsetCell(const QString &cell, QChar digit, bool continuing);
+// The offset the cells hold, era carrying the sign. A date field's cells leave the time units of
+// kept as they are.
+DateComponents dateOffsetFromCells(const DateOffsetCells &cells, DateEditorType type,
+                                   DateComponents kept);

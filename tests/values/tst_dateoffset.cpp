@@ -137,6 +137,64 @@ private Q_SLOTS:
     // Both written forms read back as the shift. A shift and its negation cancel, except where
     // the calendar cannot: a clamped month end, time carried over a day before a month step, or
     // a daylight-saving change nearby.
+    // The cells a shift is edited in, driven as a user would: "^" "v" arrows, digits typed
+    // quickly after one another, "|" a pause before the next digit.
+    void cellEdits_data()
+    {
+        QTest::addColumn<QString>("start");
+        QTest::addColumn<int>("type");
+        QTest::addColumn<int>("cell");
+        QTest::addColumn<QString>("edits");
+        QTest::addColumn<QString>("cellText");
+        QTest::addColumn<QString>("offset"); // compact, with the sign cell's sign
+        const int dt = DateEditorTypeDateTime;
+        const int d = DateEditorTypeDate;
+        const auto row = [](const char *name, const char *start, int type, int cell,
+                            const char *edits, const char *cellText, const char *offset) {
+            QTest::newRow(name) << QString::fromLatin1(start) << type << cell
+                                << QString::fromLatin1(edits) << QString::fromLatin1(cellText)
+                                << QString::fromLatin1(offset);
+        };
+        row("counter keeps the last two", "+", dt, 3, "123", "23", "+23d");
+        row("pause starts afresh", "+5d", dt, 3, "1|7", "7", "+7d");
+        row("leading zero shown, read as its number", "+", dt, 4, "05", "05", "+5h");
+        row("zero zero then digit", "+", dt, 4, "007", "07", "+7h");
+        row("step from a typed zero", "+", dt, 6, "05^", "6", "+6s");
+        row("up stops at 99", "+99m", dt, 5, "^", "99", "+99m");
+        row("down stops at 0", "+", dt, 1, "v", "0", "+");
+        row("stored beyond 99 cannot step", "+150d", dt, 3, "^v", "150", "+150d");
+        row("stored beyond 99 can be retyped", "+150d", dt, 3, "4", "4", "+4d");
+        row("inner minus shows its magnitude", "+1d-2h", dt, 4, "", "2", "+1d2h");
+        row("minus sign kept", "-3M", dt, 2, "^", "4", "-4M");
+        row("date field keeps stored hours", "+1d5h", d, 3, "2", "2", "+2d5h");
+    }
+    void cellEdits()
+    {
+        QFETCH(QString, start);
+        QFETCH(int, type);
+        QFETCH(int, cell);
+        QFETCH(QString, edits);
+        const DateComponents stored = parseDateOffset(start);
+        DateOffsetCells cells = dateOffsetCells(stored);
+        cells[0] = stored.era == 0 ? u"-"_qs : u"+"_qs;
+        bool continuing = false;
+        for (const QChar c : edits) {
+            if (c == u'|') {
+                continuing = false;
+            } else if (c == u'^' || c == u'v') {
+                cells[size_t(cell)] = steppedOffsetCell(cells[size_t(cell)], c == u'^' ? 1 : -1);
+                continuing = false;
+            } else {
+                cells[size_t(cell)] = typedOffsetCell(cells[size_t(cell)], c, continuing);
+                continuing = true;
+            }
+        }
+        QTEST(cells[size_t(cell)], "cellText");
+        const DateComponents edited = dateOffsetFromCells(cells, DateEditorType(type), stored);
+        QCOMPARE(edited.era, std::optional<qint64>(cells[0] == u"-" ? 0 : 1));
+        QTEST(formatDateOffsetCompact(edited, edited.era == 1), "offset");
+    }
+
     void shiftThenNegatedShiftRestores()
     {
         QRandomGenerator random(20130501);
