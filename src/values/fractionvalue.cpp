@@ -4,6 +4,8 @@
 
 #include <QStringList>
 
+#include <cmath>
+
 QString FractionValue::displayText(const QString &value)
 {
     if (value.isEmpty())
@@ -19,5 +21,9 @@ std::optional<QString> FractionValue::storedText(const QString &typed)
     const QStringList parts = typed.split(u'/');
     if (parts.size() != 2)
         return std::nullopt;
-    return QString::asprintf("%f", leadingNumber(parts.at(0)) / leadingNumber(parts.at(1)));
+    const double quotient = leadingNumber(parts.at(0)) / leadingNumber(parts.at(1));
+    // ExifTool writes "inf" as the rational 1/0 and refuses "nan": neither is a value to save.
+    if (!std::isfinite(quotient))
+        return std::nullopt;
+    return QString::asprintf("%f", quotient);
 }

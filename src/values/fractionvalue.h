@@ -13,6 +13,7 @@ public:
     // negative values take the same path ("1/inf", "1/-2") rather than a special case.
     static QString displayText(const QString &value);
     // What a typed text stores: "a/b" the quotient with six decimals, a text without "/" as
-    // it is; nullopt for more than one "/". A piece that is no number counts as zero.
+    // it is; nullopt for more than one "/" and for a zero denominator. A piece that is no
+    // number counts as zero.
     static std::optional<QString> storedText(const QString &typed);
 };

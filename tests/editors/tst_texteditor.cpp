@@ -128,6 +128,8 @@ private Q_SLOTS:
             "0.004000");
         row("fraction above one", R::Fraction, T::String, "C", "2.5", "2.5", "3", "3");
         row("two slashes write nothing", R::Fraction, T::String, "C", "0.5", "1/2", "1/2/3", "0.5");
+        row("zero denominator writes nothing", R::Fraction, T::String, "C", "0.5", "1/2", "1/0",
+            "0.5");
         row("text trimmed", R::None, T::String, "C", "old", "old", " new words \t", "new words");
         row("blanks remove the tag", R::None, T::String, "C", "old", "old", "   ", "<absent>");
         row("number out of range", R::Number, T::UInt16, "C", "100", "100", "70000", "100");

@@ -49,6 +49,9 @@ private Q_SLOTS:
         row("no slash text kept", "bulb", "bulb");
         row("zero numerator", "0/5", "0.000000");
         row("text numerator reads as zero", "x/5", "0.000000");
+        row("zero denominator", "1/0", "<none>");
+        row("no denominator", "1/", "<none>");
+        row("zero over zero", "0/0", "<none>");
         row("two slashes", "1/2/3", "<none>");
         row("lone slash", "/", "<none>");
     }
