@@ -51,7 +51,7 @@ MainWindowController::MainWindowController(TagsmithAppDelegate *delegate,
     , m_debug(debug || (delegate && delegate->debug()))
     , m_runner(runner ? std::move(runner) : std::make_unique<ExifBackgroundRunner>())
 {
-    m_store.addListener(this);
+    m_store.onPresetsChanged(this, [this] { updateConfigurations(); });
     m_imagesCache = new QuickLookImageCache(this);
     m_readQueue = new FileReadQueue(this);
     connect(m_readQueue, &FileReadQueue::batchRead, this, &MainWindowController::handleBatchRead);
@@ -68,7 +68,6 @@ MainWindowController::MainWindowController(TagsmithAppDelegate *delegate,
 
 MainWindowController::~MainWindowController()
 {
-    m_store.removeListener(this);
     if (m_runner && m_runner->listener() == this)
         m_runner->setListener(nullptr);
     // The form's editors refer to the files; let them go before the window's widgets do.

@@ -42,8 +42,7 @@ class PasteMetadataDialog;
 // the close / save / quit state machine.
 class MainWindowController : public QObject,
                              public AppMainWindow,
-                             public ExifBackgroundRunnerListener,
-                             public ExifSettingsListener
+                             public ExifBackgroundRunnerListener
 {
     Q_OBJECT
 
@@ -119,7 +118,7 @@ public:
     void geotagFromTrackLog();
 
     // Presets.
-    void updateConfigurations() override;
+    void updateConfigurations();
     const QStringList &configIds() const { return m_configIds; }
     void handleConfigurationClick(int tag);
     void applyConfiguration(const ExifConfiguration &configuration);
