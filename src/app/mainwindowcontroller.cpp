@@ -52,6 +52,12 @@ MainWindowController::MainWindowController(TagsmithAppDelegate *delegate,
     , m_runner(runner ? std::move(runner) : std::make_unique<ExifBackgroundRunner>())
 {
     m_store.onPresetsChanged(this, [this] { updateConfigurations(); });
+    connect(m_runner.get(), &ExifBackgroundRunner::fileStarted, this,
+            &MainWindowController::handleFileStarted);
+    connect(m_runner.get(), &ExifBackgroundRunner::fileFinished, this,
+            &MainWindowController::handleFileFinished);
+    connect(m_runner.get(), &ExifBackgroundRunner::batchFinished, this,
+            &MainWindowController::handleBatchFinished);
     m_imagesCache = new QuickLookImageCache(this);
     m_readQueue = new FileReadQueue(this);
     connect(m_readQueue, &FileReadQueue::batchRead, this, &MainWindowController::handleBatchRead);
@@ -68,8 +74,6 @@ MainWindowController::MainWindowController(TagsmithAppDelegate *delegate,
 
 MainWindowController::~MainWindowController()
 {
-    if (m_runner && m_runner->listener() == this)
-        m_runner->setListener(nullptr);
     // The form's editors refer to the files; let them go before the window's widgets do.
     m_currentFiles.clear();
 }

@@ -5,7 +5,6 @@
 #include "app/tagsmithappdelegate.h"
 #include "catalogue/exifsettings.h"
 #include "engine/exifbackgroundrunner.h"
-#include "engine/exifbackgroundrunnerlistener.h"
 #include "engine/exiffileinfo.h"
 #include "engine/exifrunner.h"
 
@@ -40,9 +39,7 @@ class PasteMetadataDialog;
 
 // The one main window: the list of files, the form for the selected ones, the commands, and
 // the close / save / quit state machine.
-class MainWindowController : public QObject,
-                             public AppMainWindow,
-                             public ExifBackgroundRunnerListener
+class MainWindowController : public QObject, public AppMainWindow
 {
     Q_OBJECT
 
@@ -130,11 +127,6 @@ public:
     void handleCloseAnswer(CloseAnswer answer);
     void checkSaveStatusAfterSave(const QHash<QString, ErrorMessagesPtr> &results);
 
-    // ExifBackgroundRunnerListener
-    void fileToBeProcessed(const ExifFileInfoPtr &file, const ExifOperationStatus &status) override;
-    void fileProcessed(const ExifFileInfoPtr &file, const ExifOperationStatus &status) override;
-    void finishProcessing(const QHash<QString, ErrorMessagesPtr> &results) override;
-
     void recheckUIEnablement();
     void updateWindowModified();
 
@@ -161,6 +153,9 @@ private:
     void replaceReloadedFiles(const FileReadQueue::Batch &batch);
     void handleReadingChanged(bool busy);
     void handleExifFilesUpdate(const ExifFilesUpdate &update);
+    void handleFileStarted(const ExifFileInfoPtr &file, const ExifOperationStatus &status);
+    void handleFileFinished(const ExifFileInfoPtr &file, const ExifOperationStatus &status);
+    void handleBatchFinished(const QHash<QString, ErrorMessagesPtr> &results);
     void showProgressPanel(bool fadeIn);
     void removeProgressPanel();
     void displayErrors(const QHash<QString, ErrorMessagesPtr> &results);

@@ -57,8 +57,7 @@ void MainWindowController::processFiles()
     m_configController->commitPendingInput();
     m_saving = true;
     recheckUIEnablement();
-    m_runner->setListener(this);
-    if (m_runner->saveFiles(files(), 1) > 0)
+    if (m_runner->saveFiles(files(), ExifOperationOption::ReReadFile) > 0)
         showProgressPanel(false);
 }
 
@@ -124,8 +123,7 @@ void MainWindowController::removeAllMetadata()
             return;
         m_saving = true;
         recheckUIEnablement();
-        m_runner->setListener(this);
-        if (m_runner->removeAllMetadata(current, 1) > 0)
+        if (m_runner->removeAllMetadata(current, ExifOperationOption::ReReadFile) > 0)
             showProgressPanel(true);
     });
     sheet->open();
@@ -148,8 +146,7 @@ void MainWindowController::removeMakerNotes()
         const QList<ExifFileInfoPtr> current = selectedFiles();
         m_saving = true;
         recheckUIEnablement();
-        m_runner->setListener(this);
-        if (m_runner->removeMakerNotesFromFiles(current, 1) > 0)
+        if (m_runner->removeMakerNotesFromFiles(current, ExifOperationOption::ReReadFile) > 0)
             showProgressPanel(true);
     });
     sheet->open();
@@ -176,20 +173,21 @@ void MainWindowController::removeProgressPanel()
     }
 }
 
-void MainWindowController::fileToBeProcessed(const ExifFileInfoPtr &,
+void MainWindowController::handleFileStarted(const ExifFileInfoPtr &,
                                              const ExifOperationStatus &status)
 {
     if (m_progressPanel)
         m_progressPanel->fileToBeProcessed(status);
 }
 
-void MainWindowController::fileProcessed(const ExifFileInfoPtr &, const ExifOperationStatus &status)
+void MainWindowController::handleFileFinished(const ExifFileInfoPtr &file,
+                                              const ExifOperationStatus &)
 {
-    if (const ExifFileInfoPtr file = m_model->fileAt(m_model->rowOf(status.fileName())))
+    if (file)
         m_model->refreshFiles({file});
 }
 
-void MainWindowController::finishProcessing(const QHash<QString, ErrorMessagesPtr> &results)
+void MainWindowController::handleBatchFinished(const QHash<QString, ErrorMessagesPtr> &results)
 {
     m_saving = false;
     if (m_saveStatus == MayClose || m_saveStatus == SavingToQuit) {

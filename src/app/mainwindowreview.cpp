@@ -61,14 +61,14 @@ void MainWindowController::revertLastSave()
             return;
         QList<ExifRunnerOperationPtr> operations;
         for (const ExifFileInfoPtr &file : filesToRevert()) {
-            if (auto operation = ExifRunnerRevertOperation::create(file, 1))
+            if (auto operation =
+                    ExifRunnerRevertOperation::create(file, ExifOperationOption::ReReadFile))
                 operations.append(std::move(operation));
         }
         if (operations.isEmpty())
             return;
         m_saving = true;
         recheckUIEnablement();
-        m_runner->setListener(this);
         if (m_runner->queueOperations(std::move(operations)) > 0)
             showProgressPanel(false);
     });

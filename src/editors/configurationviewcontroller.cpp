@@ -95,14 +95,6 @@ QWidget *ConfigurationViewController::view() const
     return m_view;
 }
 
-void ConfigurationViewController::setBackgroundRunner(ExifBackgroundRunner *runner)
-{
-    for (FieldEditor *editor : std::as_const(m_fields)) {
-        if (auto *dateEditor = qobject_cast<DateEditor *>(editor))
-            dateEditor->setBackgroundRunner(runner);
-    }
-}
-
 double ConfigurationViewController::calculateMaxLabelWidth(const QList<GroupPtr> &groups)
 {
     const QFontMetricsF metrics(ApertureTheme::labelFont(true));

@@ -12,7 +12,6 @@
 #include <optional>
 
 class ConfigurationView;
-class ExifBackgroundRunner;
 class ExifConfiguration;
 class ExifFieldsController;
 class FieldEditor;
@@ -43,8 +42,6 @@ public:
     void setShowRemove(bool on) { m_showRemove = on; }
     // What the "GPS" section's "Show Map" button does.
     void setShowMapAction(std::function<void()> action) { m_showMapAction = std::move(action); }
-    // Handed to every date row, whose panel then also writes the files to disk. Not owned.
-    void setBackgroundRunner(ExifBackgroundRunner *runner);
 
     void createUserInterface();
     static double calculateMaxLabelWidth(const QList<GroupPtr> &groups);

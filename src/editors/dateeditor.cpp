@@ -5,7 +5,6 @@
 #include "editors/exiffilesupdate.h"
 
 #include "controls/aperturetheme.h"
-#include "engine/exifbackgroundrunner.h"
 #include "values/dateoffset.h"
 #include "values/datevalue.h"
 #include "values/tagsmithexception.h"
@@ -21,13 +20,6 @@ DateEditor::DateEditor(ExifFieldPtr field, QObject *parent)
 DateEditor::~DateEditor()
 {
     destroyPopupWindow();
-}
-
-void DateEditor::setBackgroundRunner(ExifBackgroundRunner *runner)
-{
-    m_runner = runner;
-    if (m_popupController)
-        m_popupController->setBackgroundRunner(runner);
 }
 
 int DateEditor::createEditorContent(QWidget *parent, QRect frame)
@@ -157,7 +149,6 @@ void DateEditor::createPopupController()
     m_popupWindow = new AttachedWindow(m_currentDateLabel, AttachedWindow::Behaviour::Popup,
                                        m_currentDateLabel);
     m_popupController = new DateEditorPopupController(field(), m_dateEditorType);
-    m_popupController->setBackgroundRunner(m_runner);
     m_popupWindow->setContentWidget(m_popupController);
 }
 

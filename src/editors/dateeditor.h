@@ -9,7 +9,6 @@
 #include <QLabel>
 #include <QPointer>
 
-class ExifBackgroundRunner;
 struct ExifFilesUpdate;
 
 // The row of a date field over the selected files: the common value as a label; a click opens
@@ -25,9 +24,6 @@ public:
 
     DateEditorType dateEditorType() const { return m_dateEditorType; }
     void setDateEditorType(DateEditorType type) { m_dateEditorType = type; }
-    // Not owned; handed to the popup's panel, which then also writes the files to disk.
-    void setBackgroundRunner(ExifBackgroundRunner *runner);
-
     QLabel *currentDateLabel() const { return m_currentDateLabel; }
     DateEditorPopupController *popupController() const { return m_popupController; }
     AttachedWindow *popupWindow() const { return m_popupWindow; }
@@ -61,5 +57,4 @@ private:
     QPointer<AttachedWindow> m_popupWindow;
     QPointer<DateEditorPopupController> m_popupController;
     DateEditorType m_dateEditorType = DateEditorTypeDateTime;
-    QPointer<ExifBackgroundRunner> m_runner;
 };

@@ -5,7 +5,6 @@
 
 #include "catalogue/stringtables.h"
 #include "controls/dateoffsetfield.h"
-#include "engine/exifbackgroundrunner.h"
 #include "values/dateoffset.h"
 #include "values/logging.h"
 #include "values/tagsmithexception.h"
@@ -89,10 +88,7 @@ DateEditorView::DateEditorView(ExifFieldPtr field, DateEditorType type, QWidget 
     hideEditorsForEmptyValue();
 }
 
-DateEditorView::~DateEditorView()
-{
-    restoreRunnerListener();
-}
+DateEditorView::~DateEditorView() = default;
 
 void DateEditorView::buildRows()
 {
@@ -434,7 +430,6 @@ void DateEditorView::saveValue(const QDateTime &date)
     if (m_files.isEmpty())
         return;
 
-    const bool writesToDisk = !m_runner.isNull();
     const bool shifts = newValue && m_focus == FocusOffset;
     const bool isZeroShift = shifts && parseDateOffset(*newValue).hasSameUnits(DateComponents());
     const bool movesZone = shifts && !isZeroShift && m_moveZoneBox->isChecked();
@@ -454,7 +449,7 @@ void DateEditorView::saveValue(const QDateTime &date)
         const QString valueZone = m_baseValueZones.value(file->fileName());
         // ExifTool's own shift keeps a zone inside the value as it is; a moved zone needs the
         // file's own explicit value.
-        if (m_focus == FocusOffset && (writesToDisk || (movesZone && !valueZone.isEmpty()))) {
+        if (m_focus == FocusOffset && movesZone && !valueZone.isEmpty()) {
             const QDateTime shifted =
                 applyOffsetText(wallClockDate(originalValue(file), m_type), value, m_type);
             if (shifted.isValid()) {
@@ -471,7 +466,6 @@ void DateEditorView::saveValue(const QDateTime &date)
     updateZones(movesZone ? std::optional(parseDateOffset(*newValue)) : std::nullopt);
     // Unlike the row editors the panel names no source: the row showing the field must refresh.
     ExifFilesUpdateCenter::instance().post(key, m_files, newValue, m_files, nullptr);
-    queueSave();
 }
 
 void DateEditorView::updateZones(const std::optional<DateComponents> &shift)
@@ -502,57 +496,4 @@ void DateEditorView::restoreOriginal(const ExifFileInfoPtr &file) const
         file->removeExifValue(m_field->xmlName());
     else
         file->setExifValue(m_field->xmlName(), original);
-}
-
-void DateEditorView::setBackgroundRunner(ExifBackgroundRunner *runner)
-{
-    if (runner == m_runner)
-        return;
-    restoreRunnerListener();
-    m_runner = runner;
-}
-
-void DateEditorView::queueSave()
-{
-    if (!m_runner)
-        return;
-    // The runner has one listener, normally the main window: stand in for it while the panel's
-    // batches run and pass everything on, so the window still hears of every file.
-    if (m_runner->listener() != this) {
-        m_nextListener = m_runner->listener();
-        m_runner->setListener(this);
-    }
-    ++m_pendingBatches;
-    m_runner->saveFiles(m_files, 1);
-}
-
-void DateEditorView::restoreRunnerListener()
-{
-    if (m_runner && m_runner->listener() == this)
-        m_runner->setListener(m_nextListener);
-    m_nextListener = nullptr;
-    m_pendingBatches = 0;
-}
-
-void DateEditorView::fileToBeProcessed(const ExifFileInfoPtr &file,
-                                       const ExifOperationStatus &status)
-{
-    if (m_nextListener)
-        m_nextListener->fileToBeProcessed(file, status);
-}
-
-void DateEditorView::fileProcessed(const ExifFileInfoPtr &file, const ExifOperationStatus &status)
-{
-    if (m_nextListener)
-        m_nextListener->fileProcessed(file, status);
-    Q_EMIT fileSaved(status.fileName(), status.errors());
-}
-
-void DateEditorView::finishProcessing(const QHash<QString, ErrorMessagesPtr> &results)
-{
-    if (m_nextListener)
-        m_nextListener->finishProcessing(results);
-    if (--m_pendingBatches <= 0)
-        restoreRunnerListener();
-    Q_EMIT savingFinished(results);
 }

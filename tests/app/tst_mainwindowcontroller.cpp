@@ -51,18 +51,19 @@ QStringList names(const QList<ExifFileInfoPtr> &files)
 }
 
 // Records what the window asks of the runner ("kind options files"); the test plays
-// the runner's finishProcessing.
+// the runner's batchFinished.
 class FakeRunner : public ExifBackgroundRunner
 {
 public:
-    qsizetype saveFiles(const QList<ExifFileInfoPtr> &files, quint32 options) override
+    qsizetype saveFiles(const QList<ExifFileInfoPtr> &files, ExifOperationOption options) override
     {
-        calls << u"save %1 %2"_s.arg(options).arg(names(files).join(u','));
+        calls << u"save %1 %2"_s.arg(int(options)).arg(names(files).join(u','));
         return files.size();
     }
-    qsizetype removeAllMetadata(const QList<ExifFileInfoPtr> &files, quint32 options) override
+    qsizetype removeAllMetadata(const QList<ExifFileInfoPtr> &files,
+                                ExifOperationOption options) override
     {
-        calls << u"remove %1 %2"_s.arg(options).arg(names(files).join(u','));
+        calls << u"remove %1 %2"_s.arg(int(options)).arg(names(files).join(u','));
         return files.size();
     }
     QStringList calls;
@@ -205,7 +206,7 @@ private Q_SLOTS:
                     messages->addError(u"Error: disk full"_s);
                 else
                     messages->addWarning(u"Warning: minor"_s);
-                window.finishProcessing({{path, messages}});
+                Q_EMIT m_runner->batchFinished({{path, messages}});
                 if (saveFails)
                     QVERIFY(clickButton(window.window(), u"Don't Exit"_s));
             }
@@ -228,7 +229,7 @@ private Q_SLOTS:
         window.window()->close();
         QVERIFY(window.window()->isVisible() && !visibleBox(window.window()));
         file->setReadData(file->exifData()); // what a successful save leaves
-        window.finishProcessing({});
+        Q_EMIT m_runner->batchFinished({});
         QVERIFY(!window.isSaving() && !window.window()->isVisible());
         QCOMPARE(m_replies, QList<bool>{true});
     }
@@ -417,7 +418,7 @@ private Q_SLOTS:
         if (m_runner->calls.isEmpty())
             return;
         QVERIFY(window.isSaving() && window.progressPanel());
-        window.finishProcessing({});
+        Q_EMIT m_runner->batchFinished({});
         QVERIFY(!window.isSaving());
         QTRY_VERIFY(!window.progressPanel());
     }
@@ -464,7 +465,7 @@ private Q_SLOTS:
         QCOMPARE(rowsChanged.size(), 1);
         QCOMPARE(m_runner->calls, QStringList{u"save 1 typed.jpg"_s});
         QCOMPARE(window.files().value(0)->exifValue(Artist), u"Bob"_s);
-        window.finishProcessing({});
+        Q_EMIT m_runner->batchFinished({});
     }
 
     // Files with unsaved edits leave the list only when the user says so; others go at once.
