@@ -8,7 +8,7 @@
 #include "catalogue/ui/presetswindowcontroller.h"
 #include "controls/indeterminateprogressindicatorcell.h"
 #include "editors/configurationviewcontroller.h"
-#include "editors/exiffilesupdate.h"
+#include "engine/editsession.h"
 #include "engine/exifbackgroundrunner.h"
 #include "engine/exifrunnerremovemetadataoperation.h"
 #include "engine/exifutil.h"
@@ -58,6 +58,9 @@ MainWindowController::MainWindowController(TagsmithAppDelegate *delegate,
             &MainWindowController::handleFileFinished);
     connect(m_runner.get(), &ExifBackgroundRunner::batchFinished, this,
             &MainWindowController::handleBatchFinished);
+    m_session = new EditSession(this);
+    connect(m_session, &EditSession::exifFilesUpdated, this,
+            &MainWindowController::handleExifFilesUpdate);
     m_imagesCache = new QuickLookImageCache(this);
     m_readQueue = new FileReadQueue(this);
     connect(m_readQueue, &FileReadQueue::batchRead, this, &MainWindowController::handleBatchRead);
@@ -100,6 +103,7 @@ void MainWindowController::buildWindow()
     m_addFilesNote = new AddFilesNote(m_filesTable);
 
     m_configController = new ConfigurationViewController(this);
+    m_configController->setEditSession(m_session);
     m_configController->setShowMapAction([this] { showMap(); });
     m_configController->createUserInterface();
     m_window->setFormArea(m_configController->scrollArea());
@@ -107,9 +111,6 @@ void MainWindowController::buildWindow()
     m_menus = new MainWindowMenus(m_window->menuBar(), this);
     m_window->presetsButton()->setMenu(m_menus->configsMenu());
     connectCommands();
-
-    connect(&ExifFilesUpdateCenter::instance(), &ExifFilesUpdateCenter::exifFilesUpdated, this,
-            &MainWindowController::handleExifFilesUpdate);
     updateConfigurations();
     recheckUIEnablement();
 }

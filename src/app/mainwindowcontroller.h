@@ -19,6 +19,7 @@
 
 class AddFilesNote;
 class ConfigurationViewController;
+class EditSession;
 class FileListModel;
 class FileListView;
 class IndeterminateProgressIndicatorCell;
@@ -134,6 +135,8 @@ public:
     FileListView *filesTable() const { return m_filesTable; }
     MainWindowMenus *menus() const { return m_menus; }
     ConfigurationViewController *configController() const { return m_configController; }
+    // Where the form, the list, the map, geotagging and pasting announce their edits.
+    EditSession *editSession() const { return m_session; }
     ProgressPanel *progressPanel() const;
     AddFilesNote *addFilesNote() const { return m_addFilesNote; }
     ResultsWindowController *resultsWindowController() const;
@@ -169,6 +172,7 @@ private:
     ExifSettings &m_store;
     bool m_debug;
     std::unique_ptr<ExifBackgroundRunner> m_runner;
+    EditSession *m_session = nullptr;
     std::unique_ptr<MainWindow> m_window;
     QuickLookImageCache *m_imagesCache = nullptr;
     FileReadQueue *m_readQueue = nullptr;

@@ -3,7 +3,7 @@
 
 #include "app/mainwindow.h"
 #include "editors/configurationviewcontroller.h"
-#include "editors/exiffilesupdate.h"
+#include "engine/editsession.h"
 #include "engine/metadataclipboard.h"
 #include "windows/pastemetadatadialog.h"
 
@@ -57,8 +57,7 @@ void MainWindowController::pasteSelection(const MetadataSelection &selection)
     // Each changed field is announced, so the rows' marks, the map and dependent editors follow
     // as after any edit.
     for (const QString &key : std::as_const(changedKeys)) {
-        ExifFilesUpdateCenter::instance().post(key, changedFiles, m_clipboard->values().value(key),
-                                               m_currentFiles, this);
+        m_session->post(key, changedFiles, m_clipboard->values().value(key), m_currentFiles, this);
     }
     recheckUIEnablement();
 }

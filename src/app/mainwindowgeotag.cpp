@@ -18,7 +18,7 @@ void MainWindowController::geotagFromTrackLog()
         return;
     }
 
-    auto *dialog = new GeotagDialog(files, m_window.get());
+    auto *dialog = new GeotagDialog(files, *m_session, m_window.get());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     // The files stay as they are (no removal, no reload) while their positions are chosen.
     dialog->setWindowModality(Qt::WindowModal);

@@ -80,7 +80,7 @@ void MainWindowController::showConfigurations()
 void MainWindowController::showMap()
 {
     if (!m_mapWindowController) {
-        m_mapWindowController = new MapWindowController(m_window.get());
+        m_mapWindowController = new MapWindowController(*m_session, m_window.get());
         // Only the coordinate rows follow the notifications; the altitude and GPS date and time
         // rows are refreshed by showing the selection again.
         connect(m_mapWindowController, &MapWindowController::pinsRemoved, this, [this] {

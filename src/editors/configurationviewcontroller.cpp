@@ -15,6 +15,7 @@
 #include "catalogue/stringtables.h"
 #include "controls/aperturetheme.h"
 #include "controls/wheelguard.h"
+#include "engine/editsession.h"
 #include "values/logging.h"
 #include "values/tagsmithexception.h"
 
@@ -93,6 +94,13 @@ QScrollArea *ConfigurationViewController::scrollArea() const
 QWidget *ConfigurationViewController::view() const
 {
     return m_view;
+}
+
+void ConfigurationViewController::setEditSession(EditSession *session)
+{
+    m_session = session;
+    for (FieldEditor *editor : std::as_const(m_fields))
+        editor->setEditSession(session);
 }
 
 double ConfigurationViewController::calculateMaxLabelWidth(const QList<GroupPtr> &groups)
@@ -222,6 +230,7 @@ int ConfigurationViewController::createFieldEditor(const ExifFieldPtr &field,
     editor->setBoldFontOnChange(true);
     editor->setShowRemoveButton(m_showRemove);
     editor->setTheme(m_theme);
+    editor->setEditSession(m_session);
     const int next = editor->createEditor(m_view, top);
     allEditors.append(editor);
     return next;

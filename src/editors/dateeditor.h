@@ -9,8 +9,6 @@
 #include <QLabel>
 #include <QPointer>
 
-struct ExifFilesUpdate;
-
 // The row of a date field over the selected files: the common value as a label; a click opens
 // the date panel in a popup beside it. The popup is built on the first click only, so the form's
 // many date rows stay cheap to create and to point at other files.
@@ -47,10 +45,10 @@ public:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void receiveFilesUpdateNotification(const ExifFilesUpdate &update) override;
 
 private:
     void createPopupController();
-    void receiveFilesUpdateNotification(const ExifFilesUpdate &update);
 
     bool m_mouseDown = false;
     QPointer<QLabel> m_currentDateLabel;

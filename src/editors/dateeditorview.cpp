@@ -1,10 +1,10 @@
 #include "editors/dateeditorview.h"
 
 #include "editors/datewallclock.h"
-#include "editors/exiffilesupdate.h"
 
 #include "catalogue/stringtables.h"
 #include "controls/dateoffsetfield.h"
+#include "engine/editsession.h"
 #include "values/dateoffset.h"
 #include "values/logging.h"
 #include "values/tagsmithexception.h"
@@ -465,7 +465,8 @@ void DateEditorView::saveValue(const QDateTime &date)
     }
     updateZones(movesZone ? std::optional(parseDateOffset(*newValue)) : std::nullopt);
     // Unlike the row editors the panel names no source: the row showing the field must refresh.
-    ExifFilesUpdateCenter::instance().post(key, m_files, newValue, m_files, nullptr);
+    if (m_session)
+        m_session->post(key, m_files, newValue, m_files, nullptr);
 }
 
 void DateEditorView::updateZones(const std::optional<DateComponents> &shift)
@@ -483,9 +484,8 @@ void DateEditorView::updateZones(const std::optional<DateComponents> &shift)
         file->setExifValue(zoneKey, zone);
         changed << file;
     }
-    if (!changed.isEmpty()) {
-        ExifFilesUpdateCenter::instance().post(
-            zoneKey, changed, changed.first()->exifValue(zoneKey), changed, nullptr);
+    if (!changed.isEmpty() && m_session) {
+        m_session->post(zoneKey, changed, changed.first()->exifValue(zoneKey), changed, nullptr);
     }
 }
 
@@ -496,4 +496,9 @@ void DateEditorView::restoreOriginal(const ExifFileInfoPtr &file) const
         file->removeExifValue(m_field->xmlName());
     else
         file->setExifValue(m_field->xmlName(), original);
+}
+
+void DateEditorView::setEditSession(EditSession *session)
+{
+    m_session = session;
 }

@@ -13,6 +13,7 @@
 #include <optional>
 
 class DateOffsetField;
+class EditSession;
 class QCheckBox;
 class QDateTimeEdit;
 class QLabel;
@@ -33,6 +34,9 @@ public:
     const ExifFieldPtr &field() const { return m_field; }
     DateEditorType dateEditorType() const { return m_type; }
     const QList<ExifFileInfoPtr> &exifFiles() const { return m_files; }
+
+    // Where each edit is announced. Not owned.
+    void setEditSession(EditSession *session);
 
     void setExifFiles(const QList<ExifFileInfoPtr> &files);
     void setExifDateValue(const QString &value, const QString &originalValue);
@@ -102,4 +106,5 @@ private:
     QLabel *m_originalLabel = nullptr;
     QCheckBox *m_moveZoneBox = nullptr;
 
+    QPointer<EditSession> m_session;
 };

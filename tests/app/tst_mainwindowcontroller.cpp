@@ -4,7 +4,7 @@
 #include "catalogue/exiffieldscontroller.h"
 #include "catalogue/stringtables.h"
 #include "editors/configurationviewcontroller.h"
-#include "editors/exiffilesupdate.h"
+#include "engine/editsession.h"
 #include "editors/texteditor.h"
 #include "engine/exifbackgroundrunner.h"
 #include "engine/exifrunner.h"
@@ -340,7 +340,7 @@ private Q_SLOTS:
 
         // An edit made elsewhere reaches the list only through the update notification.
         one->setExifValue(Artist, u"Carl"_s);
-        ExifFilesUpdateCenter::instance().post(Artist, {one}, u"Carl"_s, {one}, nullptr);
+        window.editSession()->post(Artist, {one}, u"Carl"_s, {one}, nullptr);
         QVERIFY(modified(0));
 
         m_store->saveConfiguration(
@@ -446,8 +446,7 @@ private Q_SLOTS:
         edit->selectAll();
         QTest::keyClicks(edit, u"Bob"_s);
 
-        QSignalSpy updates(&ExifFilesUpdateCenter::instance(),
-                           &ExifFilesUpdateCenter::exifFilesUpdated);
+        QSignalSpy updates(window.editSession(), &EditSession::exifFilesUpdated);
         QSignalSpy rowsChanged(window.model(), &QAbstractItemModel::dataChanged);
         if (how.startsWith(u"return"))
             QTest::keyClick(edit, Qt::Key_Return);

@@ -8,7 +8,7 @@
 #include "catalogue/exifconfiguration.h"
 #include "catalogue/exiffieldscontroller.h"
 #include "controls/dateoffsetfield.h"
-#include "editors/exiffilesupdate.h"
+#include "engine/editsession.h"
 #include "engine/exifbackgroundrunner.h"
 #include "engine/exifrunner.h"
 #include "engine/revertrecord.h"
@@ -155,10 +155,11 @@ private Q_SLOTS:
         QTemporaryDir dir;
         const QList<ExifFileInfoPtr> files = realFiles(dir, tag, originals);
         const QStringList before = diskValues(files, tag);
-        QSignalSpy posts(&ExifFilesUpdateCenter::instance(),
-                         &ExifFilesUpdateCenter::exifFilesUpdated);
+        EditSession session;
+        QSignalSpy posts(&session, &EditSession::exifFilesUpdated);
         DateEditorView panel(fieldFor(tag),
                              tag == DateTimeOriginal ? DateEditorTypeDateTime : DateEditorTypeDate);
+        panel.setEditSession(&session);
         panel.setExifFiles(files);
 
         if (!keys.isEmpty()) {
@@ -259,12 +260,14 @@ private Q_SLOTS:
         QFETCH(bool, modified);
 
         const QList<ExifFileInfoPtr> files = filesHolding(currents);
-        QSignalSpy posts(&ExifFilesUpdateCenter::instance(),
-                         &ExifFilesUpdateCenter::exifFilesUpdated);
+        EditSession session;
+        QSignalSpy posts(&session, &EditSession::exifFilesUpdated);
         DateEditorView panel(fieldFor(DateTimeOriginal), DateEditorTypeDateTime);
+        panel.setEditSession(&session);
         panel.setExifFiles(files);
         QWidget form;
         DateEditor row(fieldFor(DateTimeOriginal));
+        row.setEditSession(&session);
         row.createEditor(&form, 0);
         row.setExifFiles(files);
 
@@ -285,9 +288,11 @@ private Q_SLOTS:
     {
         const QList<ExifFileInfoPtr> files =
             filesHolding({u"2010:05:02 10:00:00"_qs, u"2011:01:01 00:00:00"_qs, Original});
+        EditSession session;
         QWidget form;
         form.resize(600, 400);
         DateEditor editor(fieldFor(DateTimeOriginal));
+        editor.setEditSession(&session);
         editor.createEditor(&form, 0);
         editor.setExifFiles(files);
         QTest::mousePress(editor.currentDateLabel(), Qt::LeftButton);
