@@ -84,16 +84,19 @@ const QStringList WriteArguments{
     QStringLiteral("-overwrite_original"),
 };
 
-class WaitingListener final : public ExifBackgroundRunnerListener
+class WaitingListener final : public QObject
 {
 public:
-    void fileToBeProcessed(const ExifFileInfoPtr &, const ExifOperationStatus &) override {}
-    void fileProcessed(const ExifFileInfoPtr &, const ExifOperationStatus &status) override
+    void listen(ExifBackgroundRunner &runner)
     {
-        if (status.errors())
-            problems += qsizetype(status.errors()->errorsCount() + status.errors()->warnsCount());
+        connect(&runner, &ExifBackgroundRunner::fileFinished, this,
+                [this](const ExifFileInfoPtr &, const ExifOperationStatus &status) {
+                    if (status.errors())
+                        problems += qsizetype(status.errors()->errorsCount() +
+                                              status.errors()->warnsCount());
+                });
+        connect(&runner, &ExifBackgroundRunner::batchFinished, &loop, &QEventLoop::quit);
     }
-    void finishProcessing(const QHash<QString, ErrorMessagesPtr> &) override { loop.quit(); }
     QEventLoop loop;
     qsizetype problems = 0;
 };
@@ -180,13 +183,12 @@ int main(int argc, char *argv[])
             file->setExifValue(QStringLiteral("GPS:GPSLongitude"), QStringLiteral("151.2093"));
         }
         WaitingListener listener;
-        runner.setListener(&listener);
+        listener.listen(runner);
         runnerTimes.append(timed([&] {
-            runner.saveFiles(files, 1);
+            runner.saveFiles(files, ExifOperationOption::ReReadFile);
             listener.loop.exec();
             return true;
         }));
-        runner.setListener(nullptr);
         if (listener.problems) {
             out << "the runner reported " << listener.problems << " errors or warnings\n";
             return 1;

@@ -250,17 +250,19 @@ TextEditor *captionRow(ConfigurationViewController &form)
     return nullptr;
 }
 
-class WaitingListener final : public ExifBackgroundRunnerListener
+class WaitingListener final : public QObject
 {
 public:
-    void fileToBeProcessed(const ExifFileInfoPtr &, const ExifOperationStatus &) override {}
-    void fileProcessed(const ExifFileInfoPtr &, const ExifOperationStatus &status) override
+    void listen(ExifBackgroundRunner &runner)
     {
-        ++processed;
-        if (status.errors())
-            problems += qsizetype(status.errors()->errorsCount());
+        connect(&runner, &ExifBackgroundRunner::fileFinished, this,
+                [this](const ExifFileInfoPtr &, const ExifOperationStatus &status) {
+                    ++processed;
+                    if (status.errors())
+                        problems += qsizetype(status.errors()->errorsCount());
+                });
+        connect(&runner, &ExifBackgroundRunner::batchFinished, &loop, &QEventLoop::quit);
     }
-    void finishProcessing(const QHash<QString, ErrorMessagesPtr> &) override { loop.quit(); }
     QEventLoop loop;
     qsizetype processed = 0;
     qsizetype problems = 0;
@@ -460,9 +462,9 @@ int main(int argc, char *argv[])
 
         ExifBackgroundRunner runner(nullptr, ExifToolSessionKind::Persistent, exifTool);
         WaitingListener listener;
-        runner.setListener(&listener);
+        listener.listen(runner);
         timer.restart();
-        runner.saveFiles(small, 1);
+        runner.saveFiles(small, ExifOperationOption::ReReadFile);
         listener.loop.exec();
         const double smallMs = timer.nsecsElapsed() / 1e6;
         listener.processed = 0;
@@ -482,14 +484,13 @@ int main(int argc, char *argv[])
                 peakKiB = std::max(peakKiB, residentKiB());
         });
         timer.restart();
-        runner.saveFiles(controller.fileList()->files(), 1);
+        runner.saveFiles(controller.fileList()->files(), ExifOperationOption::ReReadFile);
         sinceTick.start();
         ticker.start(5);
         listener.loop.exec();
         ticker.stop();
         peakKiB = std::max(peakKiB, residentKiB());
         const double saved = timer.nsecsElapsed() / 1e6;
-        runner.setListener(nullptr);
         std::printf("ExifBackgroundRunner save of all files: %.0f ms, %lld told per file, %lld "
                     "errors\n",
                     saved, static_cast<long long>(listener.processed),

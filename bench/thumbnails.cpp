@@ -18,10 +18,13 @@
 
 namespace {
 
-class Counter : public QuickLookImageCacheListener
+class Counter : public QObject
 {
 public:
-    void imageLoaded(const QImage &, const QString &, QuickLookImageCache *) override { ++made; }
+    void listen(QuickLookImageCache &cache)
+    {
+        cache.onImageReady(this, [this](const QString &, const QImage &) { ++made; });
+    }
     int made = 0;
 };
 
@@ -57,7 +60,7 @@ int main(int argc, char *argv[])
 
     QuickLookImageCache cache;
     Counter counter;
-    cache.addListener(&counter);
+    counter.listen(cache);
     QElapsedTimer clock;
     clock.start();
     int next = 0;

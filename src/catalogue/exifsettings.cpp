@@ -37,6 +37,11 @@ QString storableName(QString name)
 
 } // namespace
 
+ExifSettings::ExifSettings(QObject *parent)
+    : QObject(parent)
+{
+}
+
 ExifSettings &ExifSettings::instance()
 {
     static ExifSettings settings;
@@ -91,15 +96,22 @@ QString ExifSettings::findUnusedNewIdentifier() const
     }
 }
 
-void ExifSettings::addListener(ExifSettingsListener *listener)
+QMetaObject::Connection ExifSettings::onPresetsChanged(const QObject *context,
+                                                       std::function<void()> receiver)
 {
-    if (!m_listeners.contains(listener))
-        m_listeners.append(listener);
-}
-
-void ExifSettings::removeListener(ExifSettingsListener *listener)
-{
-    m_listeners.removeAll(listener);
+    return connect(this, &ExifSettings::presetsChanged, context, [receiver = std::move(receiver)] {
+        try {
+            receiver();
+        } catch (const TagsmithException &e) {
+            qCWarning(lcTagsmith).noquote()
+                << QStringLiteral("Caught exception of name: %1 reason: %2")
+                       .arg(e.name(), e.reason());
+        } catch (const std::exception &e) {
+            qCWarning(lcTagsmith).noquote()
+                << QStringLiteral("Caught exception of name: %1 reason: %2")
+                       .arg(QStringLiteral("std::exception"), QString::fromUtf8(e.what()));
+        }
+    });
 }
 
 QString ExifSettings::configurationToXml(const ExifConfiguration &configuration)
@@ -186,19 +198,5 @@ void ExifSettings::writeConfigurationNames()
 
 void ExifSettings::fireConfigurationChangeEvent()
 {
-    // A copy: a listener may add or remove listeners while being told.
-    const QList<ExifSettingsListener *> listeners = m_listeners;
-    for (ExifSettingsListener *listener : listeners) {
-        try {
-            listener->updateConfigurations();
-        } catch (const TagsmithException &e) {
-            qCWarning(lcTagsmith).noquote()
-                << QStringLiteral("Caught exception of name: %1 reason: %2")
-                       .arg(e.name(), e.reason());
-        } catch (const std::exception &e) {
-            qCWarning(lcTagsmith).noquote()
-                << QStringLiteral("Caught exception of name: %1 reason: %2")
-                       .arg(QStringLiteral("std::exception"), QString::fromUtf8(e.what()));
-        }
-    }
+    Q_EMIT presetsChanged();
 }

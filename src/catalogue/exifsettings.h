@@ -2,27 +2,23 @@
 
 #include "catalogue/exifconfiguration.h"
 
-#include <QList>
 #include <QMap>
+#include <QObject>
 #include <QString>
 
-// Told after every change of the presets (a save or a removal).
-class ExifSettingsListener
-{
-public:
-    virtual ~ExifSettingsListener() = default;
-    virtual void updateConfigurations() = 0;
-};
+#include <functional>
 
 // The presets, kept in the user settings store: "settings-names" lists the identifiers, and each
 // identifier's entry holds that preset as an XML document. Main thread only.
-class ExifSettings
+class ExifSettings : public QObject
 {
+    Q_OBJECT
+
 public:
     static inline const QString SettingsNamesKey = QStringLiteral("settings-names");
 
     // A separate store is only for tests; the program uses instance().
-    ExifSettings() = default;
+    explicit ExifSettings(QObject *parent = nullptr);
     static ExifSettings &instance();
 
     void initializeSettings();
@@ -33,17 +29,22 @@ public:
     void removeConfigurationIdentifier(const QString &identifier);
     QString findUnusedNewIdentifier() const;
 
-    void addListener(ExifSettingsListener *listener);
-    void removeListener(ExifSettingsListener *listener);
+    // Connects receiver to presetsChanged so that what it throws is logged and the receivers
+    // after it are still told; an exception must never cross the signal itself.
+    QMetaObject::Connection onPresetsChanged(const QObject *context,
+                                             std::function<void()> receiver);
 
     static QString configurationToXml(const ExifConfiguration &configuration);
     // Null when the text holds no well-formed preset document.
     static ExifConfigurationPtr loadConfigurationFromXml(const QString &text);
+
+Q_SIGNALS:
+    // After every change of the presets (a save or a removal).
+    void presetsChanged();
 
 private:
     void writeConfigurationNames();
     void fireConfigurationChangeEvent();
 
     QMap<QString, ExifConfigurationPtr> m_configurations;
-    QList<ExifSettingsListener *> m_listeners;
 };

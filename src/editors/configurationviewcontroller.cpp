@@ -15,6 +15,7 @@
 #include "catalogue/stringtables.h"
 #include "controls/aperturetheme.h"
 #include "controls/wheelguard.h"
+#include "engine/editsession.h"
 #include "values/cameramakers.h"
 #include "values/logging.h"
 #include "values/tagsmithexception.h"
@@ -82,12 +83,11 @@ QWidget *ConfigurationViewController::view() const
     return m_view;
 }
 
-void ConfigurationViewController::setBackgroundRunner(ExifBackgroundRunner *runner)
+void ConfigurationViewController::setEditSession(EditSession *session)
 {
-    for (FieldEditor *editor : std::as_const(m_fields)) {
-        if (auto *dateEditor = qobject_cast<DateEditor *>(editor))
-            dateEditor->setBackgroundRunner(runner);
-    }
+    m_session = session;
+    for (FieldEditor *editor : std::as_const(m_fields))
+        editor->setEditSession(session);
 }
 
 double ConfigurationViewController::calculateMaxLabelWidth(const QList<GroupPtr> &groups)
@@ -217,6 +217,7 @@ int ConfigurationViewController::createFieldEditor(const ExifFieldPtr &field,
     editor->setBoldFontOnChange(true);
     editor->setShowRemoveButton(m_showRemove);
     editor->setTheme(m_theme);
+    editor->setEditSession(m_session);
     const int next = editor->createEditor(m_view, top);
     allEditors.append(editor);
     return next;

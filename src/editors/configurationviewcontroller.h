@@ -12,7 +12,7 @@
 #include <optional>
 
 class ConfigurationView;
-class ExifBackgroundRunner;
+class EditSession;
 class ExifConfiguration;
 class ExifFieldsController;
 class FieldEditor;
@@ -43,8 +43,8 @@ public:
     void setShowRemove(bool on) { m_showRemove = on; }
     // What the "GPS" section's "Show Map" button does.
     void setShowMapAction(std::function<void()> action) { m_showMapAction = std::move(action); }
-    // Handed to every date row, whose panel then also writes the files to disk. Not owned.
-    void setBackgroundRunner(ExifBackgroundRunner *runner);
+    // Handed to every row, present and future: where the rows post their edits. Not owned.
+    void setEditSession(EditSession *session);
 
     void createUserInterface();
     static double calculateMaxLabelWidth(const QList<GroupPtr> &groups);
@@ -91,6 +91,7 @@ private:
     QPointer<QScrollArea> m_scrollArea;
     QPointer<ConfigurationView> m_view;
     QList<FieldEditor *> m_fields;
+    QPointer<EditSession> m_session;
     QList<GroupEditor *> m_groupEditors;
     QList<ExifFileInfoPtr> m_exifFiles;
     std::function<void()> m_showMapAction;

@@ -2,10 +2,9 @@
 
 #include "editors/dateeditorview.h"
 #include "editors/datewallclock.h"
-#include "editors/exiffilesupdate.h"
 
 #include "controls/aperturetheme.h"
-#include "engine/exifbackgroundrunner.h"
+#include "engine/editsession.h"
 #include "values/dateoffset.h"
 #include "values/datevalue.h"
 #include "values/tagsmithexception.h"
@@ -23,13 +22,6 @@ DateEditor::~DateEditor()
     destroyPopupWindow();
 }
 
-void DateEditor::setBackgroundRunner(ExifBackgroundRunner *runner)
-{
-    m_runner = runner;
-    if (m_popupController)
-        m_popupController->setBackgroundRunner(runner);
-}
-
 int DateEditor::createEditorContent(QWidget *parent, QRect frame)
 {
     m_currentDateLabel = new QLabel(parent);
@@ -43,8 +35,6 @@ int DateEditor::createEditorContent(QWidget *parent, QRect frame)
     setContentControl(m_currentDateLabel, 2);
     m_currentDateLabel->show();
     stretchWithRow(m_currentDateLabel);
-    connect(&ExifFilesUpdateCenter::instance(), &ExifFilesUpdateCenter::exifFilesUpdated, this,
-            &DateEditor::receiveFilesUpdateNotification);
     return frame.height();
 }
 
@@ -72,7 +62,7 @@ void DateEditor::setExifFiles(const QList<ExifFileInfoPtr> &files)
 
 void DateEditor::receiveFilesUpdateNotification(const ExifFilesUpdate &update)
 {
-    if (!update.exifFiles.isEmpty() && hasExifFiles())
+    if (!update.exifFiles.isEmpty() && hasExifFiles() && m_currentDateLabel)
         refreshView();
 }
 
@@ -157,7 +147,7 @@ void DateEditor::createPopupController()
     m_popupWindow = new AttachedWindow(m_currentDateLabel, AttachedWindow::Behaviour::Popup,
                                        m_currentDateLabel);
     m_popupController = new DateEditorPopupController(field(), m_dateEditorType);
-    m_popupController->setBackgroundRunner(m_runner);
+    m_popupController->view()->setEditSession(editSession());
     m_popupWindow->setContentWidget(m_popupController);
 }
 

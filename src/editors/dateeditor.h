@@ -9,9 +9,6 @@
 #include <QLabel>
 #include <QPointer>
 
-class ExifBackgroundRunner;
-struct ExifFilesUpdate;
-
 // The row of a date field over the selected files: the common value as a label; a click opens
 // the date panel in a popup beside it. The popup is built on the first click only, so the form's
 // many date rows stay cheap to create and to point at other files.
@@ -25,9 +22,6 @@ public:
 
     DateEditorType dateEditorType() const { return m_dateEditorType; }
     void setDateEditorType(DateEditorType type) { m_dateEditorType = type; }
-    // Not owned; handed to the popup's panel, which then also writes the files to disk.
-    void setBackgroundRunner(ExifBackgroundRunner *runner);
-
     QLabel *currentDateLabel() const { return m_currentDateLabel; }
     DateEditorPopupController *popupController() const { return m_popupController; }
     AttachedWindow *popupWindow() const { return m_popupWindow; }
@@ -51,15 +45,14 @@ public:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void receiveFilesUpdateNotification(const ExifFilesUpdate &update) override;
 
 private:
     void createPopupController();
-    void receiveFilesUpdateNotification(const ExifFilesUpdate &update);
 
     bool m_mouseDown = false;
     QPointer<QLabel> m_currentDateLabel;
     QPointer<AttachedWindow> m_popupWindow;
     QPointer<DateEditorPopupController> m_popupController;
     DateEditorType m_dateEditorType = DateEditorTypeDateTime;
-    QPointer<ExifBackgroundRunner> m_runner;
 };

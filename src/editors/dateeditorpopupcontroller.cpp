@@ -28,11 +28,6 @@ DateEditorPopupController::DateEditorPopupController(ExifFieldPtr field, DateEdi
     setMinimumWidth(440);
 }
 
-void DateEditorPopupController::setBackgroundRunner(ExifBackgroundRunner *runner)
-{
-    m_view->setBackgroundRunner(runner);
-}
-
 void DateEditorPopupController::setExifFiles(const QList<ExifFileInfoPtr> &files)
 {
     m_view->setExifFiles(files);

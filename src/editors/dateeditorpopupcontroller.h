@@ -7,7 +7,6 @@
 #include <QWidget>
 
 class DateEditorView;
-class ExifBackgroundRunner;
 
 // The content of the date popup: a title over the date panel of one field.
 class DateEditorPopupController : public QWidget
@@ -18,7 +17,6 @@ public:
     DateEditorPopupController(ExifFieldPtr field, DateEditorType type, QWidget *parent = nullptr);
 
     DateEditorView *view() const { return m_view; }
-    void setBackgroundRunner(ExifBackgroundRunner *runner);
     void setExifFiles(const QList<ExifFileInfoPtr> &files);
     void saveData();
 

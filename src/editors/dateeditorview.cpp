@@ -1,11 +1,10 @@
 #include "editors/dateeditorview.h"
 
 #include "editors/datewallclock.h"
-#include "editors/exiffilesupdate.h"
 
 #include "catalogue/stringtables.h"
 #include "controls/dateoffsetfield.h"
-#include "engine/exifbackgroundrunner.h"
+#include "engine/editsession.h"
 #include "values/dateoffset.h"
 #include "values/logging.h"
 #include "values/tagsmithexception.h"
@@ -80,10 +79,7 @@ DateEditorView::DateEditorView(ExifFieldPtr field, DateEditorType type, QWidget 
     hideEditorsForEmptyValue();
 }
 
-DateEditorView::~DateEditorView()
-{
-    restoreRunnerListener();
-}
+DateEditorView::~DateEditorView() = default;
 
 void DateEditorView::buildRows()
 {
@@ -421,7 +417,6 @@ void DateEditorView::saveValue(const QDateTime &date)
     if (m_files.isEmpty())
         return;
 
-    const bool writesToDisk = !m_runner.isNull();
     const bool shifts = newValue && m_focus == FocusOffset;
     const bool isZeroShift = shifts && parseDateOffset(*newValue).hasSameUnits(DateComponents());
     const bool movesZone = shifts && !isZeroShift && m_moveZoneBox->isChecked();
@@ -441,7 +436,7 @@ void DateEditorView::saveValue(const QDateTime &date)
         const QString valueZone = m_baseValueZones.value(file->fileName());
         // ExifTool's own shift keeps a zone inside the value as it is; a moved zone needs the
         // file's own explicit value.
-        if (m_focus == FocusOffset && (writesToDisk || (movesZone && !valueZone.isEmpty()))) {
+        if (m_focus == FocusOffset && movesZone && !valueZone.isEmpty()) {
             const QDateTime shifted =
                 applyOffsetText(wallClockDate(originalValue(file), m_type), value, m_type);
             if (shifted.isValid()) {
@@ -457,8 +452,8 @@ void DateEditorView::saveValue(const QDateTime &date)
     }
     updateZones(movesZone ? std::optional(parseDateOffset(*newValue)) : std::nullopt);
     // Unlike the row editors the panel names no source: the row showing the field must refresh.
-    ExifFilesUpdateCenter::instance().post(key, m_files, newValue, m_files, nullptr);
-    queueSave();
+    if (m_session)
+        m_session->post(key, m_files, newValue, m_files, nullptr);
 }
 
 void DateEditorView::updateZones(const std::optional<DateComponents> &shift)
@@ -476,9 +471,8 @@ void DateEditorView::updateZones(const std::optional<DateComponents> &shift)
         file->setExifValue(zoneKey, zone);
         changed << file;
     }
-    if (!changed.isEmpty()) {
-        ExifFilesUpdateCenter::instance().post(
-            zoneKey, changed, changed.first()->exifValue(zoneKey), changed, nullptr);
+    if (!changed.isEmpty() && m_session) {
+        m_session->post(zoneKey, changed, changed.first()->exifValue(zoneKey), changed, nullptr);
     }
 }
 
@@ -491,55 +485,7 @@ void DateEditorView::restoreOriginal(const ExifFileInfoPtr &file) const
         file->setExifValue(m_field->xmlName(), original);
 }
 
-void DateEditorView::setBackgroundRunner(ExifBackgroundRunner *runner)
+void DateEditorView::setEditSession(EditSession *session)
 {
-    if (runner == m_runner)
-        return;
-    restoreRunnerListener();
-    m_runner = runner;
-}
-
-void DateEditorView::queueSave()
-{
-    if (!m_runner)
-        return;
-    // The runner has one listener, normally the main window: stand in for it while the panel's
-    // batches run and pass everything on, so the window still hears of every file.
-    if (m_runner->listener() != this) {
-        m_nextListener = m_runner->listener();
-        m_runner->setListener(this);
-    }
-    ++m_pendingBatches;
-    m_runner->saveFiles(m_files, 1);
-}
-
-void DateEditorView::restoreRunnerListener()
-{
-    if (m_runner && m_runner->listener() == this)
-        m_runner->setListener(m_nextListener);
-    m_nextListener = nullptr;
-    m_pendingBatches = 0;
-}
-
-void DateEditorView::fileToBeProcessed(const ExifFileInfoPtr &file,
-                                       const ExifOperationStatus &status)
-{
-    if (m_nextListener)
-        m_nextListener->fileToBeProcessed(file, status);
-}
-
-void DateEditorView::fileProcessed(const ExifFileInfoPtr &file, const ExifOperationStatus &status)
-{
-    if (m_nextListener)
-        m_nextListener->fileProcessed(file, status);
-    Q_EMIT fileSaved(status.fileName(), status.errors());
-}
-
-void DateEditorView::finishProcessing(const QHash<QString, ErrorMessagesPtr> &results)
-{
-    if (m_nextListener)
-        m_nextListener->finishProcessing(results);
-    if (--m_pendingBatches <= 0)
-        restoreRunnerListener();
-    Q_EMIT savingFinished(results);
+    m_session = session;
 }

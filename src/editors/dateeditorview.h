@@ -1,7 +1,6 @@
 #pragma once
 
 #include "catalogue/exiffield.h"
-#include "engine/exifbackgroundrunnerlistener.h"
 #include "engine/exiffileinfo.h"
 #include "values/datecomponents.h"
 
@@ -14,18 +13,15 @@
 #include <optional>
 
 class DateOffsetField;
-class ExifBackgroundRunner;
+class EditSession;
 class QCheckBox;
 class QDateTimeEdit;
 class QLabel;
 
 // The panel that sets one date field of the selected files: either to one new date, or by a
-// shift applied to each file's own original date. Every edit goes into the files at once.
-//
-// With a background runner it also writes the files to disk after each edit. Each file then gets
-// its own absolute date computed from the original it had when the panel was given the files, so
-// saving again after a further keystroke replaces the earlier shift instead of adding to it.
-class DateEditorView : public QWidget, public ExifBackgroundRunnerListener
+// shift applied to each file's own original date. Every edit goes into the files at once; they
+// reach the disk with the window's next save.
+class DateEditorView : public QWidget
 {
     Q_OBJECT
 
@@ -39,8 +35,8 @@ public:
     DateEditorType dateEditorType() const { return m_type; }
     const QList<ExifFileInfoPtr> &exifFiles() const { return m_files; }
 
-    // Not owned. Null (the default) leaves writing the files to whoever saves them later.
-    void setBackgroundRunner(ExifBackgroundRunner *runner);
+    // Where each edit is announced. Not owned.
+    void setEditSession(EditSession *session);
 
     void setExifFiles(const QList<ExifFileInfoPtr> &files);
     void setExifDateValue(const QString &value, const QString &originalValue);
@@ -68,15 +64,6 @@ public:
     // values.
     QCheckBox *moveZoneBox() const { return m_moveZoneBox; }
 
-    // ExifBackgroundRunnerListener; calls are passed on to the listener the runner had before.
-    void fileToBeProcessed(const ExifFileInfoPtr &file, const ExifOperationStatus &status) override;
-    void fileProcessed(const ExifFileInfoPtr &file, const ExifOperationStatus &status) override;
-    void finishProcessing(const QHash<QString, ErrorMessagesPtr> &results) override;
-
-Q_SIGNALS:
-    void fileSaved(const QString &fileName, const ErrorMessagesPtr &errors);
-    void savingFinished(const QHash<QString, ErrorMessagesPtr> &results);
-
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -93,8 +80,6 @@ private:
     void setPickerDate(const QDateTime &date);
     void hideEditorsForEmptyValue();
     QString labelText(const QDateTime &date, bool mediumDate) const;
-    void queueSave();
-    void restoreRunnerListener();
     void updateZones(const std::optional<DateComponents> &shift);
 
     ExifFieldPtr m_field;
@@ -121,7 +106,5 @@ private:
     QLabel *m_originalLabel = nullptr;
     QCheckBox *m_moveZoneBox = nullptr;
 
-    QPointer<ExifBackgroundRunner> m_runner;
-    ExifBackgroundRunnerListener *m_nextListener = nullptr;
-    int m_pendingBatches = 0;
+    QPointer<EditSession> m_session;
 };

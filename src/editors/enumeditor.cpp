@@ -1,6 +1,6 @@
 #include "editors/enumeditor.h"
 
-#include "editors/exiffilesupdate.h"
+#include "engine/editsession.h"
 
 #include "catalogue/exifconfiguration.h"
 #include "catalogue/stringtables.h"
@@ -42,11 +42,6 @@ int EnumEditor::createEditorContent(QWidget *parent, QRect frame)
     for (int i = 0; i < m_values.size(); ++i)
         m_popupButton->addItem(map ? map->value(m_values.at(i)) : m_values.at(i), i);
     connect(m_popupButton, &QComboBox::activated, this, &EnumEditor::popupValueChanged);
-    const QString &key = field()->xmlName();
-    if (key == LatitudeRefKey || key == LongitudeRefKey) {
-        connect(&ExifFilesUpdateCenter::instance(), &ExifFilesUpdateCenter::exifFilesUpdated, this,
-                &EnumEditor::receiveFilesUpdateNotification);
-    }
     setContentControl(m_popupButton);
     m_popupButton->show();
     stretchWithRow(m_popupButton);
@@ -185,7 +180,9 @@ void EnumEditor::setExifFiles(const QList<ExifFileInfoPtr> &files)
 
 void EnumEditor::receiveFilesUpdateNotification(const ExifFilesUpdate &update)
 {
-    if (update.source == this ||
+    const QString &key = field()->xmlName();
+    if ((key != LatitudeRefKey && key != LongitudeRefKey) || !m_popupButton ||
+        update.source == this ||
         (update.xmlName != LatitudeRefKey && update.xmlName != LongitudeRefKey)) {
         return;
     }

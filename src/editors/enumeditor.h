@@ -43,9 +43,11 @@ public:
     void focusControl() override;
     void setEnabled(bool enabled) override;
 
+protected:
+    void receiveFilesUpdateNotification(const ExifFilesUpdate &update) override;
+
 private:
     void popupValueChanged();
-    void receiveFilesUpdateNotification(const ExifFilesUpdate &update);
     int selectedTag() const;
     void selectTag(int tag);
 

@@ -1,10 +1,9 @@
 #include "editors/fieldeditor.h"
 
-#include "editors/exiffilesupdate.h"
-
 #include "catalogue/exifconfiguration.h"
 #include "catalogue/stringtables.h"
 #include "controls/aperturetheme.h"
+#include "engine/editsession.h"
 #include "engine/exifutil.h"
 #include "values/tagsmithexception.h"
 
@@ -455,7 +454,30 @@ void FieldEditor::sendChangeNotification(const std::optional<QString> &newValue,
 {
     if (m_exifFiles.isEmpty())
         return;
-    ExifFilesUpdateCenter::instance().post(xmlName, m_exifFiles, newValue, m_exifFiles, this);
+    if (m_session)
+        m_session->post(xmlName, m_exifFiles, newValue, m_exifFiles, this);
+}
+
+void FieldEditor::setEditSession(EditSession *session)
+{
+    if (session == m_session)
+        return;
+    if (m_session)
+        disconnect(m_session, nullptr, this, nullptr);
+    m_session = session;
+    if (session) {
+        connect(session, &EditSession::exifFilesUpdated, this,
+                &FieldEditor::receiveFilesUpdateNotification);
+    }
+}
+
+EditSession *FieldEditor::editSession() const
+{
+    return m_session;
+}
+
+void FieldEditor::receiveFilesUpdateNotification(const ExifFilesUpdate &)
+{
 }
 
 void FieldEditor::sendChangeNotification(const std::optional<QString> &newValue)

@@ -16,7 +16,9 @@
 
 #include <functional>
 
+class EditSession;
 class ExifConfiguration;
+struct ExifFilesUpdate;
 class QCheckBox;
 class QLabel;
 class QWidget;
@@ -121,6 +123,11 @@ public:
     virtual bool copyToExifFiles(const QList<ExifFileInfoPtr> &files);
     virtual void updateExifFileValue(const ExifFileInfoPtr &file);
 
+    // Where the row posts its edits and hears those of others. Without one (a preset's form)
+    // nothing is posted. Not owned.
+    void setEditSession(EditSession *session);
+    EditSession *editSession() const;
+
     // Posts "ExifFilesUpdate" for the editor's files; nothing without files.
     void sendChangeNotification(const std::optional<QString> &newValue, const QString &xmlName);
     void sendChangeNotification(const std::optional<QString> &newValue);
@@ -133,6 +140,9 @@ public:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    // Someone changed values of files; rows that depend on another row follow. Includes the
+    // row's own posts.
+    virtual void receiveFilesUpdateNotification(const ExifFilesUpdate &update);
 
     // Keeps a control's right edge at a fixed distance from the parent's right edge.
     void stretchWithRow(QWidget *widget);
@@ -172,6 +182,7 @@ private:
     int m_top = 0;
     double m_maxLabelWidth = 0;
     QList<ExifFileInfoPtr> m_exifFiles;
+    QPointer<EditSession> m_session;
     QString m_theme;
     QPointer<QWidget> m_parent;
     QPointer<QWidget> m_content;

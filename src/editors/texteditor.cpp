@@ -1,6 +1,6 @@
 #include "editors/texteditor.h"
 
-#include "editors/exiffilesupdate.h"
+#include "engine/editsession.h"
 
 #include "catalogue/exifconfiguration.h"
 #include "catalogue/stringtables.h"
@@ -87,11 +87,6 @@ int TextEditor::createEditorContent(QWidget *parent, QRect frame)
     }
     connect(m_editor, &QLineEdit::textEdited, this, &TextEditor::controlTextDidChange);
     connect(m_editor, &QLineEdit::editingFinished, this, &TextEditor::controlTextDidEndEditing);
-    const QString &key = field()->xmlName();
-    if (key == LatitudeKey || key == LongitudeKey) {
-        connect(&ExifFilesUpdateCenter::instance(), &ExifFilesUpdateCenter::exifFilesUpdated, this,
-                &TextEditor::receiveFilesUpdateNotification);
-    }
     if (field()->dataType() == FieldDataType::LangAlt) {
         m_otherLanguages = new QLabel(m_editor);
         QFont font = m_editor->font();
@@ -331,7 +326,9 @@ void TextEditor::commitPendingInput()
 
 void TextEditor::receiveFilesUpdateNotification(const ExifFilesUpdate &update)
 {
-    if (update.source == this ||
+    // A coordinate row follows the other coordinate, which the map and geotagging change too.
+    const QString &key = field()->xmlName();
+    if ((key != LatitudeKey && key != LongitudeKey) || !m_editor || update.source == this ||
         (update.xmlName != LatitudeKey && update.xmlName != LongitudeKey)) {
         return;
     }

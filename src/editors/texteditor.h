@@ -50,8 +50,10 @@ public:
     bool setGpsValue(const QString &text, const ExifFileInfoPtr &file, const QString &xmlName);
     void showErrorPopup(const QString &message);
 
+protected:
+    void receiveFilesUpdateNotification(const ExifFilesUpdate &update) override;
+
 private:
-    void receiveFilesUpdateNotification(const ExifFilesUpdate &update);
     void controlTextDidChange();
     void controlTextDidEndEditing();
     void displayValue(const QString &value);

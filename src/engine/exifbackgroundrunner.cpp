@@ -43,12 +43,13 @@ struct BatchRun
 
     const QList<ExifRunnerOperationPtr> operations;
     QStringList fileNames;
+    QList<ExifFileInfoPtr> files;
     QList<FileKey> fileKeys;
     std::vector<State> states;
     std::vector<ErrorMessagesPtr> errors;
     qsizetype nextClaim = 0;
     qsizetype nextReport = 0;
-    bool announced = false; // fileToBeProcessed of nextReport is posted
+    bool announced = false; // fileStarted of nextReport is posted
     QSet<FileKey> inFlight;
 
     QMutex mutex;
@@ -113,17 +114,6 @@ public:
         return true;
     }
 
-    ExifBackgroundRunnerListener *listener() const
-    {
-        QMutexLocker locker(&m_mutex);
-        return m_listener;
-    }
-    void setListener(ExifBackgroundRunnerListener *listener)
-    {
-        QMutexLocker locker(&m_mutex);
-        m_listener = listener;
-    }
-
     void setMaximumConcurrentOperations(int count) { m_concurrency = std::clamp(count, 1, 2); }
     int maximumConcurrentOperations() const { return m_concurrency; }
 
@@ -177,14 +167,9 @@ private:
     {
         const auto run = std::make_shared<BatchRun>(std::move(operations));
         for (const ExifRunnerOperationPtr &operation : run->operations) {
-            QString fileName;
-            try {
-                fileName = operation->fileName();
-            } catch (const std::exception &exception) {
-                qCWarning(lcTagsmith).noquote() << QString::fromUtf8(exception.what());
-            }
-            run->fileNames.append(fileName);
-            run->fileKeys.append(FileKey::of(fileName));
+            run->fileNames.append(operation->fileName());
+            run->files.append(operation->file());
+            run->fileKeys.append(FileKey::of(run->fileNames.last()));
         }
 
         if (m_concurrency > 1 && run->size() > 1) {
@@ -206,9 +191,7 @@ private:
             if (run->errors[size_t(i)])
                 results.insert(run->fileNames.at(i), run->errors[size_t(i)]);
         }
-        post([results](ExifBackgroundRunnerListener *listener) {
-            listener->finishProcessing(results);
-        });
+        post([runner = m_runner, results] { Q_EMIT runner->batchFinished(results); });
     }
 
     void work(BatchRun &run, ExifToolSession &session)
@@ -244,8 +227,8 @@ private:
         return index;
     }
 
-    // Posts, under the batch's lock so that the two threads' posts keep their order, what the
-    // listener may hear now: a file is announced once it started and the one before it is
+    // Posts, under the batch's lock so that the two threads' posts keep their order, what may
+    // be signalled now: a file is announced once it started and the one before it is
     // done, and reported done only after all before it.
     void report(BatchRun &run)
     {
@@ -254,30 +237,30 @@ private:
             const qsizetype index = run.nextReport;
             const BatchRun::State state = run.states[size_t(index)];
             const QString fileName = run.fileNames.at(index);
+            const ExifFileInfoPtr file = run.files.at(index);
             const quint64 position = quint64(index) + 1;
             if (!run.announced) {
                 if (state == BatchRun::State::Waiting)
                     return;
-                post([fileName, position, total](ExifBackgroundRunnerListener *listener) {
-                    listener->fileToBeProcessed(
-                        nullptr, ExifOperationStatus(0, fileName, position, total, nullptr));
+                post([runner = m_runner, file, fileName, position, total] {
+                    Q_EMIT runner->fileStarted(
+                        file, ExifOperationStatus(0, fileName, position, total, nullptr));
                 });
                 run.announced = true;
             }
             if (state != BatchRun::State::Done)
                 return;
-            post(
-                [operation = run.operations.at(index), fileName, position, total,
-                 errors = run.errors[size_t(index)]](ExifBackgroundRunnerListener *listener) {
-                    try {
-                        operation->postProcessInMainThread();
-                    } catch (const std::exception &exception) {
-                        qCWarning(lcTagsmith).noquote() << QString::fromUtf8(exception.what());
-                    }
-                    listener->fileProcessed(
-                        nullptr, ExifOperationStatus(0, fileName, position, total, errors));
-                },
-                true);
+            post([runner = m_runner, operation = run.operations.at(index), file, fileName, position,
+                  total, errors = run.errors[size_t(index)]] {
+                // Also with no one connected: the record must learn what is on disk.
+                try {
+                    operation->postProcessInMainThread();
+                } catch (const std::exception &exception) {
+                    qCWarning(lcTagsmith).noquote() << QString::fromUtf8(exception.what());
+                }
+                Q_EMIT runner->fileFinished(
+                    file, ExifOperationStatus(0, fileName, position, total, errors));
+            });
             ++run.nextReport;
             run.announced = false;
         }
@@ -324,30 +307,12 @@ private:
         }
     }
 
-    // Queued to the runner's thread of birth, never waited for. postProcess runs even without
-    // a listener, as the file record must learn what is on disk.
-    template <typename Call> void post(Call call, bool withoutListener = false)
+    // Queued to the runner's thread of birth, never waited for. The runner is the context, so
+    // what is still queued when it goes is dropped with it.
+    template <typename Call> void post(Call call)
     {
-        QMetaObject::invokeMethod(
-            m_runner,
-            [this, call, withoutListener] {
-                ExifBackgroundRunnerListener *current = listener();
-                if (current)
-                    call(current);
-                else if (withoutListener)
-                    call(&s_silent);
-            },
-            Qt::QueuedConnection);
+        QMetaObject::invokeMethod(m_runner, std::move(call), Qt::QueuedConnection);
     }
-
-    class SilentListener final : public ExifBackgroundRunnerListener
-    {
-    public:
-        void fileToBeProcessed(const ExifFileInfoPtr &, const ExifOperationStatus &) override {}
-        void fileProcessed(const ExifFileInfoPtr &, const ExifOperationStatus &) override {}
-        void finishProcessing(const QHash<QString, ErrorMessagesPtr> &) override {}
-    };
-    static inline SilentListener s_silent;
 
     ExifBackgroundRunner *m_runner;
     const ExifToolSessionKind m_kind;
@@ -365,7 +330,6 @@ private:
     BatchRunPtr m_helperRun;
     bool m_helperStopping = false;
     std::atomic<int> m_concurrency{2};
-    ExifBackgroundRunnerListener *m_listener = nullptr;
 };
 
 ExifBackgroundRunner::ExifBackgroundRunner(QObject *parent, ExifToolSessionKind sessionKind,
@@ -377,36 +341,27 @@ ExifBackgroundRunner::ExifBackgroundRunner(QObject *parent, ExifToolSessionKind 
 
 ExifBackgroundRunner::~ExifBackgroundRunner() = default;
 
-void ExifBackgroundRunner::setListener(ExifBackgroundRunnerListener *listener)
-{
-    m_worker->setListener(listener);
-}
-
-ExifBackgroundRunnerListener *ExifBackgroundRunner::listener() const
-{
-    return m_worker->listener();
-}
-
-qsizetype ExifBackgroundRunner::saveFiles(const QList<ExifFileInfoPtr> &files, quint32 options)
+qsizetype ExifBackgroundRunner::saveFiles(const QList<ExifFileInfoPtr> &files,
+                                          ExifOperationOption options)
 {
     return queueOperations(createSaveOperations(files, options));
 }
 
 qsizetype ExifBackgroundRunner::removeAllMetadata(const QList<ExifFileInfoPtr> &files,
-                                                  quint32 options)
+                                                  ExifOperationOption options)
 {
     return queueOperations(createRemoveOperations(files, options));
 }
 
 qsizetype ExifBackgroundRunner::removeMakerNotesFromFiles(const QList<ExifFileInfoPtr> &files,
-                                                          quint32 options)
+                                                          ExifOperationOption options)
 {
     return queueOperations(createRemoveMakerNotesOperations(files, options));
 }
 
 QList<ExifRunnerOperationPtr>
 ExifBackgroundRunner::createSaveOperations(const QList<ExifFileInfoPtr> &files,
-                                           quint32 options) const
+                                           ExifOperationOption options) const
 {
     QList<ExifRunnerOperationPtr> operations;
     for (const ExifFileInfoPtr &file : files) {
@@ -418,7 +373,7 @@ ExifBackgroundRunner::createSaveOperations(const QList<ExifFileInfoPtr> &files,
 
 QList<ExifRunnerOperationPtr>
 ExifBackgroundRunner::createRemoveOperations(const QList<ExifFileInfoPtr> &files,
-                                             quint32 options) const
+                                             ExifOperationOption options) const
 {
     QList<ExifRunnerOperationPtr> operations;
     for (const ExifFileInfoPtr &file : files)
@@ -428,7 +383,7 @@ ExifBackgroundRunner::createRemoveOperations(const QList<ExifFileInfoPtr> &files
 
 QList<ExifRunnerOperationPtr>
 ExifBackgroundRunner::createRemoveMakerNotesOperations(const QList<ExifFileInfoPtr> &files,
-                                                       quint32 options) const
+                                                       ExifOperationOption options) const
 {
     QList<ExifRunnerOperationPtr> operations;
     for (const ExifFileInfoPtr &file : files) {

@@ -1,10 +1,11 @@
 #pragma once
 
-#include "engine/exifbackgroundrunnerlistener.h"
 #include "engine/exiffileinfo.h"
+#include "engine/exifoperationstatus.h"
 #include "engine/exifrunneroperation.h"
 #include "engine/exiftoolsession.h"
 
+#include <QHash>
 #include <QList>
 #include <QObject>
 #include <QString>
@@ -15,9 +16,10 @@ class QThread;
 
 // Runs the batches of file operations one after another in submission order on its own thread
 // named "Exif Operations Background Runner", which a second thread helps with up to two files of
-// a batch at once, and tells the listener of every step on the main thread, files in batch
-// order. Each thread keeps one ExifTool session for all of its operations. Lives in the thread
-// that made it, which must run an event loop for the listener to hear anything.
+// a batch at once, and signals every step in the thread that made it, files in batch order: for
+// each file fileStarted then fileFinished, the batch's batchFinished last. Each thread keeps one
+// ExifTool session for all of its operations. The thread that made the runner must run an event
+// loop for any signal to come; none comes once the runner is destroyed.
 class ExifBackgroundRunner : public QObject
 {
     Q_OBJECT
@@ -31,22 +33,20 @@ public:
     // Lets queued batches finish (a file is never left half-written), then stops the thread.
     ~ExifBackgroundRunner() override;
 
-    // Not owned; must outlive the batches it is told of, or be reset to null first.
-    void setListener(ExifBackgroundRunnerListener *listener);
-    ExifBackgroundRunnerListener *listener() const;
-
     // Each queues one batch (also when it is empty) and returns how many operations it holds.
-    virtual qsizetype saveFiles(const QList<ExifFileInfoPtr> &files, quint32 options);
-    virtual qsizetype removeAllMetadata(const QList<ExifFileInfoPtr> &files, quint32 options);
+    virtual qsizetype saveFiles(const QList<ExifFileInfoPtr> &files, ExifOperationOption options);
+    virtual qsizetype removeAllMetadata(const QList<ExifFileInfoPtr> &files,
+                                        ExifOperationOption options);
     virtual qsizetype removeMakerNotesFromFiles(const QList<ExifFileInfoPtr> &files,
-                                                quint32 options);
+                                                ExifOperationOption options);
 
     QList<ExifRunnerOperationPtr> createSaveOperations(const QList<ExifFileInfoPtr> &files,
-                                                       quint32 options) const;
+                                                       ExifOperationOption options) const;
     QList<ExifRunnerOperationPtr> createRemoveOperations(const QList<ExifFileInfoPtr> &files,
-                                                         quint32 options) const;
+                                                         ExifOperationOption options) const;
     QList<ExifRunnerOperationPtr>
-    createRemoveMakerNotesOperations(const QList<ExifFileInfoPtr> &files, quint32 options) const;
+    createRemoveMakerNotesOperations(const QList<ExifFileInfoPtr> &files,
+                                     ExifOperationOption options) const;
 
     // Queues any prepared batch; the three calls above end here.
     qsizetype queueOperations(QList<ExifRunnerOperationPtr> operations);
@@ -56,9 +56,18 @@ public:
     void setMaximumConcurrentOperations(int count);
     int maximumConcurrentOperations() const;
 
-    // Blocks until every queued batch has run (its listener calls may still be on their way to
-    // the main thread). For tests and for quitting.
+    // Blocks until every queued batch has run (its signals may still be on their way to the
+    // runner's thread). For tests and for quitting.
     bool waitForIdle(int timeoutMs = -1);
+
+Q_SIGNALS:
+    // file is the record of the operation, null for an operation without one. The status of
+    // fileStarted carries no errors.
+    void fileStarted(const ExifFileInfoPtr &file, const ExifOperationStatus &status);
+    // The file's record already holds what the operation left on disk.
+    void fileFinished(const ExifFileInfoPtr &file, const ExifOperationStatus &status);
+    // File path -> its messages; files whose operation stored none are absent.
+    void batchFinished(const QHash<QString, ErrorMessagesPtr> &results);
 
 private:
     class Worker;

@@ -8,7 +8,7 @@
 
 using ErrorMessagesPtr = std::shared_ptr<ErrorMessages>;
 
-// Progress of one file in a batch, as the listener hears of it. Immutable.
+// Progress of one file in a batch, as the runner signals it. Immutable.
 class ExifOperationStatus
 {
 public:

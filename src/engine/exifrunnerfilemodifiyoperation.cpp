@@ -91,7 +91,8 @@ QString exifToolFileDate(const QDateTime &date)
 
 } // namespace
 
-ExifRunnerFileModifiyOperation::ExifRunnerFileModifiyOperation(ExifFileInfoPtr efi, quint32 options)
+ExifRunnerFileModifiyOperation::ExifRunnerFileModifiyOperation(ExifFileInfoPtr efi,
+                                                               ExifOperationOption options)
     : m_fileName(efi->fileName())
     , m_efi(std::move(efi))
     , m_options(options)

@@ -22,19 +22,17 @@ class FileReplacement;
 class ExifRunnerFileModifiyOperation : public ExifRunnerOperation
 {
 public:
-    // Bit 0 of options: re-read the file afterwards.
-    static constexpr quint32 ReReadOption = 1;
-
-    ExifRunnerFileModifiyOperation(ExifFileInfoPtr efi, quint32 options);
+    ExifRunnerFileModifiyOperation(ExifFileInfoPtr efi, ExifOperationOption options);
     ~ExifRunnerFileModifiyOperation() override;
 
     QString fileName() const override { return m_fileName; }
+    ExifFileInfoPtr file() const override { return m_efi; }
     ErrorMessagesPtr errors() const override;
     void postProcessInMainThread() override;
 
     const ExifFileInfoPtr &efi() const { return m_efi; }
-    quint32 options() const { return m_options; }
-    bool reReads() const { return (m_options & ReReadOption) != 0; }
+    ExifOperationOption options() const { return m_options; }
+    bool reReads() const { return m_options == ExifOperationOption::ReReadFile; }
     QString tempFileName() const { return m_tempFileName; }
     // What the file held after the run, when it was re-read.
     std::optional<TagDictionary> oldData() const;
@@ -103,7 +101,7 @@ private:
 
     const QString m_fileName;
     const ExifFileInfoPtr m_efi;
-    const quint32 m_options;
+    const ExifOperationOption m_options;
     QString m_tempFileName;
     ErrorMessagesPtr m_errors;
     std::optional<TagDictionary> m_oldData;

@@ -3,30 +3,10 @@
 #include "engine/exiftoolsession.h"
 #include "values/debugmode.h"
 #include "values/logging.h"
-#include "values/tagsmithexception.h"
 
 #include <QList>
 
-namespace {
-
-TagsmithException notImplemented()
-{
-    return TagsmithException(QStringLiteral("Not implemented"), QStringLiteral("Not implemented"));
-}
-
-} // namespace
-
 ExifRunnerOperation::~ExifRunnerOperation() = default;
-
-QString ExifRunnerOperation::fileName() const
-{
-    throw notImplemented();
-}
-
-ErrorMessagesPtr ExifRunnerOperation::errors() const
-{
-    throw notImplemented();
-}
 
 void ExifRunnerOperation::run()
 {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/exiffileinfo.h"
 #include "engine/exifoperationstatus.h"
 
 #include <QByteArrayView>
@@ -10,6 +11,14 @@
 
 class ExifToolSession;
 
+// What a file-changing operation does besides its write.
+enum class ExifOperationOption {
+    None,
+    // Reads the file back once it is in place, so its record holds what is on disk and its
+    // edits are no longer pending.
+    ReReadFile,
+};
+
 // Anything that runs ExifTool on the background runner's thread. The runner hands in the
 // ExifTool session it keeps on that thread; without one, each run starts a process of its own.
 class ExifRunnerOperation
@@ -17,9 +26,10 @@ class ExifRunnerOperation
 public:
     virtual ~ExifRunnerOperation();
 
-    // Both throw "Not implemented": every concrete operation gives its own.
-    virtual QString fileName() const;
-    virtual ErrorMessagesPtr errors() const;
+    virtual QString fileName() const = 0;
+    // The record the operation works on; null for one that stands for no record.
+    virtual ExifFileInfoPtr file() const = 0;
+    virtual ErrorMessagesPtr errors() const = 0;
 
     // Background thread.
     virtual void run();
@@ -30,7 +40,7 @@ public:
     virtual int runExifToolWithArgs(const QStringList &arguments, ErrorMessages &errors);
     virtual void debugPrintExifToolOut(QByteArrayView output) const;
 
-    // Main thread, after run and before the listener hears of the file.
+    // Main thread, after run and before fileFinished is signalled for the file.
     virtual void postProcessInMainThread();
 
     void setExifToolSession(ExifToolSession *session) { m_session = session; }

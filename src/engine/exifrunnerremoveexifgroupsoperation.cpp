@@ -1,8 +1,7 @@
 #include "engine/exifrunnerremoveexifgroupsoperation.h"
 
-
-ExifRunnerRemoveExifGroupsOperation::ExifRunnerRemoveExifGroupsOperation(ExifFileInfoPtr efi,
-                                                                         quint32 options)
+ExifRunnerRemoveExifGroupsOperation::ExifRunnerRemoveExifGroupsOperation(
+    ExifFileInfoPtr efi, ExifOperationOption options)
     : ExifRunnerFileModifiyOperation(std::move(efi), options)
 {
 }

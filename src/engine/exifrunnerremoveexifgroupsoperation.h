@@ -8,7 +8,7 @@
 class ExifRunnerRemoveExifGroupsOperation : public ExifRunnerFileModifiyOperation
 {
 public:
-    ExifRunnerRemoveExifGroupsOperation(ExifFileInfoPtr efi, quint32 options);
+    ExifRunnerRemoveExifGroupsOperation(ExifFileInfoPtr efi, ExifOperationOption options);
 
     void run() override;
 

@@ -60,7 +60,7 @@ bool isKeptKey(const QString &key)
 } // namespace
 
 ExifRunnerRemoveMetadataOperation::ExifRunnerRemoveMetadataOperation(ExifFileInfoPtr efi,
-                                                                     quint32 options)
+                                                                     ExifOperationOption options)
     : ExifRunnerFileModifiyOperation(std::move(efi), options)
 {
 }

@@ -13,7 +13,7 @@
 class ExifRunnerRemoveMetadataOperation : public ExifRunnerFileModifiyOperation
 {
 public:
-    ExifRunnerRemoveMetadataOperation(ExifFileInfoPtr efi, quint32 options);
+    ExifRunnerRemoveMetadataOperation(ExifFileInfoPtr efi, ExifOperationOption options);
 
     void run() override;
 

@@ -21,8 +21,8 @@ constexpr TrContext tr{"ExifRunnerRevertOperation"};
 
 } // namespace
 
-std::shared_ptr<ExifRunnerRevertOperation> ExifRunnerRevertOperation::create(ExifFileInfoPtr efi,
-                                                                             quint32 options)
+std::shared_ptr<ExifRunnerRevertOperation>
+ExifRunnerRevertOperation::create(ExifFileInfoPtr efi, ExifOperationOption options)
 {
     std::optional<RevertEntry> entry = RevertRecord::load(efi->fileName());
     if (!entry || entry->isEmpty())
@@ -30,8 +30,8 @@ std::shared_ptr<ExifRunnerRevertOperation> ExifRunnerRevertOperation::create(Exi
     return std::make_shared<ExifRunnerRevertOperation>(std::move(efi), options, std::move(*entry));
 }
 
-ExifRunnerRevertOperation::ExifRunnerRevertOperation(ExifFileInfoPtr efi, quint32 options,
-                                                     RevertEntry entry)
+ExifRunnerRevertOperation::ExifRunnerRevertOperation(ExifFileInfoPtr efi,
+                                                     ExifOperationOption options, RevertEntry entry)
     : ExifRunnerFileModifiyOperation(std::move(efi), options)
     , m_entry(std::move(entry))
 {

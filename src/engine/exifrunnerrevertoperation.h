@@ -12,9 +12,10 @@ class ExifRunnerRevertOperation : public ExifRunnerFileModifiyOperation
 {
 public:
     // Null when the file has no record.
-    static std::shared_ptr<ExifRunnerRevertOperation> create(ExifFileInfoPtr efi, quint32 options);
+    static std::shared_ptr<ExifRunnerRevertOperation> create(ExifFileInfoPtr efi,
+                                                             ExifOperationOption options);
 
-    ExifRunnerRevertOperation(ExifFileInfoPtr efi, quint32 options, RevertEntry entry);
+    ExifRunnerRevertOperation(ExifFileInfoPtr efi, ExifOperationOption options, RevertEntry entry);
 
     void run() override;
     void postProcessInMainThread() override;

@@ -6,9 +6,11 @@
 #include <QCoreApplication>
 #include <QHash>
 
-ExifRunnerSameFileOperation::ExifRunnerSameFileOperation(const QString &fileName,
+ExifRunnerSameFileOperation::ExifRunnerSameFileOperation(ExifFileInfoPtr file,
+                                                         const QString &fileName,
                                                          const QString &firstName)
-    : m_errors(std::make_shared<ErrorMessages>(fileName))
+    : m_file(std::move(file))
+    , m_errors(std::make_shared<ErrorMessages>(fileName))
 {
     m_errors->addError(
         QCoreApplication::translate("ExifRunnerSameFileOperation",
@@ -31,7 +33,8 @@ ExifRunnerSameFileOperation::keepOnePerFile(const QList<ExifRunnerOperationPtr> 
             firstNames.insert(key, name);
             kept.append(operation);
         } else {
-            kept.append(std::make_shared<ExifRunnerSameFileOperation>(name, first.value()));
+            kept.append(std::make_shared<ExifRunnerSameFileOperation>(operation->file(), name,
+                                                                      first.value()));
         }
     }
     return kept;

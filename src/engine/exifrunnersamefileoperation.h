@@ -13,9 +13,11 @@
 class ExifRunnerSameFileOperation : public ExifRunnerOperation
 {
 public:
-    ExifRunnerSameFileOperation(const QString &fileName, const QString &firstName);
+    ExifRunnerSameFileOperation(ExifFileInfoPtr file, const QString &fileName,
+                                const QString &firstName);
 
     QString fileName() const override { return m_errors->fileName(); }
+    ExifFileInfoPtr file() const override { return m_file; }
     ErrorMessagesPtr errors() const override { return m_errors; }
     void run() override {}
 
@@ -25,5 +27,6 @@ public:
     keepOnePerFile(const QList<ExifRunnerOperationPtr> &operations);
 
 private:
+    const ExifFileInfoPtr m_file;
     const ErrorMessagesPtr m_errors;
 };

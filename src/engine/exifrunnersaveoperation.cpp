@@ -84,8 +84,8 @@ bool numbersMatch(double a, double b, qint64 decimals)
 
 } // namespace
 
-std::shared_ptr<ExifRunnerSaveOperation> ExifRunnerSaveOperation::create(ExifFileInfoPtr efi,
-                                                                         quint32 options)
+std::shared_ptr<ExifRunnerSaveOperation>
+ExifRunnerSaveOperation::create(ExifFileInfoPtr efi, ExifOperationOption options)
 {
     auto operation = std::make_shared<ExifRunnerSaveOperation>(std::move(efi), options);
     if (!operation->writesFile() && operation->m_sidecarPath.isEmpty())
@@ -93,7 +93,7 @@ std::shared_ptr<ExifRunnerSaveOperation> ExifRunnerSaveOperation::create(ExifFil
     return operation;
 }
 
-ExifRunnerSaveOperation::ExifRunnerSaveOperation(ExifFileInfoPtr efi, quint32 options)
+ExifRunnerSaveOperation::ExifRunnerSaveOperation(ExifFileInfoPtr efi, ExifOperationOption options)
     : ExifRunnerFileModifiyOperation(std::move(efi), options)
 {
     m_itemsToRemove = gatherFieldsToRemove();

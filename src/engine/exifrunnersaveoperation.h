@@ -16,9 +16,10 @@ class ExifRunnerSaveOperation : public ExifRunnerFileModifiyOperation
 {
 public:
     // Null for a file without edits: such a file gets no operation.
-    static std::shared_ptr<ExifRunnerSaveOperation> create(ExifFileInfoPtr efi, quint32 options);
+    static std::shared_ptr<ExifRunnerSaveOperation> create(ExifFileInfoPtr efi,
+                                                           ExifOperationOption options);
 
-    ExifRunnerSaveOperation(ExifFileInfoPtr efi, quint32 options);
+    ExifRunnerSaveOperation(ExifFileInfoPtr efi, ExifOperationOption options);
 
     void run() override;
     void postProcessInMainThread() override;

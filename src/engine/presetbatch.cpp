@@ -3,9 +3,7 @@
 #include "catalogue/exifconfiguration.h"
 #include "engine/errormessages.h"
 #include "engine/exifbackgroundrunner.h"
-#include "engine/exifbackgroundrunnerlistener.h"
 #include "engine/exifrunner.h"
-#include "engine/exifrunnerfilemodifiyoperation.h"
 #include "engine/exifutil.h"
 #include "engine/fileadmission.h"
 #include "values/trcontext.h"
@@ -15,28 +13,6 @@
 namespace {
 
 constexpr TrContext tr{"PresetBatch"};
-
-// Waits for the one batch it is told of.
-class BatchWaiter : public ExifBackgroundRunnerListener
-{
-public:
-    void fileToBeProcessed(const ExifFileInfoPtr &, const ExifOperationStatus &) override {}
-    void fileProcessed(const ExifFileInfoPtr &, const ExifOperationStatus &) override {}
-    void finishProcessing(const QHash<QString, ErrorMessagesPtr> &results) override
-    {
-        m_results = results;
-        m_loop.quit();
-    }
-    QHash<QString, ErrorMessagesPtr> wait()
-    {
-        m_loop.exec();
-        return m_results;
-    }
-
-private:
-    QEventLoop m_loop;
-    QHash<QString, ErrorMessagesPtr> m_results;
-};
 
 QStringList messagesOfType(const ErrorMessages &messages, qint32 type)
 {
@@ -96,11 +72,15 @@ QList<PresetBatch::FileResult> PresetBatch::run(const ExifConfiguration &preset,
 
     if (!toSave.isEmpty()) {
         ExifBackgroundRunner runner;
-        BatchWaiter waiter;
-        runner.setListener(&waiter);
-        runner.saveFiles(toSave, ExifRunnerFileModifiyOperation::ReReadOption);
-        const QHash<QString, ErrorMessagesPtr> saved = waiter.wait();
-        runner.setListener(nullptr);
+        QEventLoop loop;
+        QHash<QString, ErrorMessagesPtr> saved;
+        QObject::connect(&runner, &ExifBackgroundRunner::batchFinished, &loop,
+                         [&](const QHash<QString, ErrorMessagesPtr> &results) {
+                             saved = results;
+                             loop.quit();
+                         });
+        runner.saveFiles(toSave, ExifOperationOption::ReReadFile);
+        loop.exec();
         for (const ExifFileInfoPtr &file : std::as_const(toSave)) {
             const ErrorMessagesPtr messages = saved.value(file->fileName());
             if (messages && messages->errorsCount() > 0) {

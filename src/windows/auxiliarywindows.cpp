@@ -14,12 +14,14 @@
 #include <QPushButton>
 
 AuxiliaryWindows::AuxiliaryWindows(MainWindow *window, MainWindowMenus *menus,
-                                   FileListPresenter *list, ExifSettings &store, QObject *parent)
+                                   FileListPresenter *list, ExifSettings &store,
+                                   EditSession &session, QObject *parent)
     : QObject(parent)
     , m_window(window)
     , m_menus(menus)
     , m_list(list)
     , m_store(store)
+    , m_session(session)
 {
     using C = MainWindowMenus::Command;
     m_menus->onTriggered(C::ShowConfigurations, this, &AuxiliaryWindows::showConfigurations);
@@ -47,7 +49,7 @@ void AuxiliaryWindows::showConfigurations()
 void AuxiliaryWindows::showMap()
 {
     if (!m_map) {
-        m_map = new MapWindowController(m_window);
+        m_map = new MapWindowController(m_session, m_window);
         // Only the coordinate rows follow the notifications; the altitude and GPS date and time
         // rows are refreshed by showing the selection again.
         connect(m_map, &MapWindowController::pinsRemoved, this, [this] {

@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QPointer>
 
+class EditSession;
 class ExifSettings;
 class FileListPresenter;
 class MainWindow;
@@ -25,7 +26,7 @@ class AuxiliaryWindows : public QObject
 
 public:
     AuxiliaryWindows(MainWindow *window, MainWindowMenus *menus, FileListPresenter *list,
-                     ExifSettings &store, QObject *parent);
+                     ExifSettings &store, EditSession &session, QObject *parent);
 
     void showConfigurations();
     void showMap();
@@ -50,6 +51,7 @@ private:
     MainWindowMenus *m_menus;
     FileListPresenter *m_list;
     ExifSettings &m_store;
+    EditSession &m_session;
     bool m_saving = false;
     QPointer<MapWindowController> m_map;
     QPointer<ResultsWindowController> m_results;

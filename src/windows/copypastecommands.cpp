@@ -4,18 +4,20 @@
 #include "windows/mainwindow.h"
 #include "windows/mainwindowmenus.h"
 #include "editors/configurationviewcontroller.h"
-#include "editors/exiffilesupdate.h"
+#include "engine/editsession.h"
 #include "engine/metadataclipboard.h"
 #include "windows/pastemetadatadialog.h"
 
 #include <QAction>
 
 CopyPasteCommands::CopyPasteCommands(MainWindow *window, MainWindowMenus *menus,
-                                     FileListPresenter *list, QObject *parent)
+                                     FileListPresenter *list, EditSession &session,
+                                     QObject *parent)
     : QObject(parent)
     , m_window(window)
     , m_menus(menus)
     , m_list(list)
+    , m_session(session)
 {
     using C = MainWindowMenus::Command;
     m_menus->onTriggered(C::CopyMetadata, this, &CopyPasteCommands::copyMetadata);
@@ -75,8 +77,7 @@ void CopyPasteCommands::pasteSelection(const MetadataSelection &selection)
     // Each changed field is announced, so the rows' marks, the map and dependent editors follow
     // as after any edit.
     for (const QString &key : std::as_const(changedKeys)) {
-        ExifFilesUpdateCenter::instance().post(key, changedFiles, m_clipboard->values().value(key),
-                                               current, this);
+        m_session.post(key, changedFiles, m_clipboard->values().value(key), current, this);
     }
     Q_EMIT changed();
 }

@@ -7,6 +7,7 @@
 
 #include <memory>
 
+class EditSession;
 class FileListPresenter;
 class MainWindow;
 class MainWindowMenus;
@@ -22,7 +23,7 @@ class CopyPasteCommands : public QObject
 
 public:
     CopyPasteCommands(MainWindow *window, MainWindowMenus *menus, FileListPresenter *list,
-                      QObject *parent);
+                      EditSession &session, QObject *parent);
     ~CopyPasteCommands() override;
 
     void copyMetadata();
@@ -40,6 +41,7 @@ private:
     MainWindow *m_window;
     MainWindowMenus *m_menus;
     FileListPresenter *m_list;
+    EditSession &m_session;
     std::unique_ptr<MetadataClipboard> m_clipboard;
     QPointer<PasteMetadataDialog> m_pasteDialog;
 };

@@ -1,5 +1,7 @@
 #include "windows/fileinfocell.h"
 
+#include "windows/quicklookimagecache.h"
+
 #include "controls/aperturetheme.h"
 
 #include <QAbstractItemView>
@@ -22,14 +24,14 @@ FileInfoCell::FileInfoCell(QuickLookImageCache *cache, QAbstractItemView *view)
     , m_cache(cache)
     , m_view(view)
 {
-    if (cache)
-        cache->addListener(this);
-}
-
-FileInfoCell::~FileInfoCell()
-{
-    if (m_cache)
-        m_cache->removeListener(this);
+    if (cache) {
+        // Only rows in view are drawn, so repainting the view redraws just those; repaints asked
+        // for in a burst are merged into one.
+        cache->onImageReady(this, [this](const QString &, const QImage &) {
+            if (m_view)
+                m_view->viewport()->update();
+        });
+    }
 }
 
 FileInfoCell::Frames FileInfoCell::frames(const QRectF &interior, qreal lineHeight)
@@ -156,15 +158,4 @@ void FileInfoCell::drawPreview(QPainter *painter, const QRectF &frame, const QIm
     target.moveCenter(frame.center());
     painter->setRenderHint(QPainter::SmoothPixmapTransform);
     painter->drawImage(target, image);
-}
-
-void FileInfoCell::imageLoaded(const QImage &image, const QString &path, QuickLookImageCache *cache)
-{
-    Q_UNUSED(image);
-    Q_UNUSED(path);
-    Q_UNUSED(cache);
-    // Only rows in view are drawn, so repainting the view redraws just those; repaints asked
-    // for in a burst are merged into one.
-    if (m_view)
-        m_view->viewport()->update();
 }

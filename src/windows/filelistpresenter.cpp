@@ -7,7 +7,7 @@
 #include "windows/windowsheets.h"
 #include "controls/indeterminateprogressindicatorcell.h"
 #include "editors/configurationviewcontroller.h"
-#include "editors/exiffilesupdate.h"
+#include "engine/editsession.h"
 #include "engine/exifutil.h"
 #include "engine/fileadmission.h"
 #include "values/logging.h"
@@ -217,10 +217,9 @@ void FileListPresenter::refreshAll()
     m_model->refreshAll();
 }
 
-void FileListPresenter::refreshFile(const QString &path)
+void FileListPresenter::refreshFiles(const QList<ExifFileInfoPtr> &files)
 {
-    if (const ExifFileInfoPtr file = m_model->fileAt(m_model->rowOf(path)))
-        m_model->refreshFiles({file});
+    m_model->refreshFiles(files);
 }
 
 void FileListPresenter::handleExifFilesUpdate(const ExifFilesUpdate &update)

@@ -61,7 +61,7 @@ public:
     // Typed text still in a row becomes an edit of the current files.
     void commitPendingInput();
     void refreshAll();
-    void refreshFile(const QString &path);
+    void refreshFiles(const QList<ExifFileInfoPtr> &files);
     void handleExifFilesUpdate(const ExifFilesUpdate &update);
     void updateEnablement(const CommandState &state);
 

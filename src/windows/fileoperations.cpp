@@ -38,13 +38,18 @@ FileOperations::FileOperations(MainWindow *window, MainWindowMenus *menus,
     m_menus->onTriggered(C::RevertLastSave, this, &FileOperations::revertLastSave);
     connect(m_window->processButton(), &QPushButton::clicked, this,
             &FileOperations::processFiles);
+    connect(&m_runner, &ExifBackgroundRunner::fileStarted, this,
+            &FileOperations::handleFileStarted);
+    connect(&m_runner, &ExifBackgroundRunner::fileFinished, this,
+            &FileOperations::handleFileFinished);
+    connect(&m_runner, &ExifBackgroundRunner::batchFinished, this,
+            &FileOperations::handleBatchFinished);
 }
 
 void FileOperations::runBatch(bool fadeIn, const std::function<qsizetype()> &start)
 {
     m_saving = true;
     Q_EMIT savingChanged(true);
-    m_runner.setListener(this);
     if (start() <= 0)
         return;
     removeProgressPanel();
@@ -77,7 +82,7 @@ void FileOperations::processFiles()
         return;
     // A value still being typed is part of what the user asked to save.
     m_list->commitPendingInput();
-    runBatch(false, [this] { return m_runner.saveFiles(m_list->files(), 1); });
+    runBatch(false, [this] { return m_runner.saveFiles(m_list->files(), ExifOperationOption::ReReadFile); });
 }
 
 void FileOperations::removeAllMetadata()
@@ -133,7 +138,7 @@ void FileOperations::removeAllMetadata()
         // All the selected files go: the ones that cannot be stripped are told why, each.
         const QList<ExifFileInfoPtr> current = m_list->selectedFiles();
         if (!current.isEmpty())
-            runBatch(true, [this, current] { return m_runner.removeAllMetadata(current, 1); });
+            runBatch(true, [this, current] { return m_runner.removeAllMetadata(current, ExifOperationOption::ReReadFile); });
     });
     sheet->open();
 }
@@ -153,7 +158,8 @@ void FileOperations::removeMakerNotes()
         if (sheet->clickedButton() != repair || m_saving)
             return;
         const QList<ExifFileInfoPtr> current = m_list->selectedFiles();
-        runBatch(true, [this, current] { return m_runner.removeMakerNotesFromFiles(current, 1); });
+        runBatch(true, [this, current] { return m_runner.removeMakerNotesFromFiles(current, ExifOperationOption::ReReadFile);
+        });
     });
     sheet->open();
 }
@@ -192,7 +198,7 @@ void FileOperations::revertLastSave()
             return;
         QList<ExifRunnerOperationPtr> operations;
         for (const ExifFileInfoPtr &file : filesToRevert()) {
-            if (auto operation = ExifRunnerRevertOperation::create(file, 1))
+            if (auto operation = ExifRunnerRevertOperation::create(file, ExifOperationOption::ReReadFile))
                 operations.append(std::move(operation));
         }
         if (!operations.isEmpty()) {
@@ -215,18 +221,19 @@ bool FileOperations::canRevertLastSave() const
     });
 }
 
-void FileOperations::fileToBeProcessed(const ExifFileInfoPtr &, const ExifOperationStatus &status)
+void FileOperations::handleFileStarted(const ExifFileInfoPtr &, const ExifOperationStatus &status)
 {
     if (m_progressPanel)
         m_progressPanel->fileToBeProcessed(status);
 }
 
-void FileOperations::fileProcessed(const ExifFileInfoPtr &, const ExifOperationStatus &status)
+void FileOperations::handleFileFinished(const ExifFileInfoPtr &file, const ExifOperationStatus &)
 {
-    m_list->refreshFile(status.fileName());
+    if (file)
+        m_list->refreshFiles({file});
 }
 
-void FileOperations::finishProcessing(const QHash<QString, ErrorMessagesPtr> &results)
+void FileOperations::handleBatchFinished(const QHash<QString, ErrorMessagesPtr> &results)
 {
     m_saving = false;
     Q_EMIT savingChanged(false);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "windows/commandstate.h"
-#include "engine/exifbackgroundrunnerlistener.h"
+#include "engine/exifoperationstatus.h"
 
 #include <QHash>
 #include <QObject>
@@ -17,7 +17,7 @@ class ProgressPanel;
 
 // The commands that write files in the background: Save, Remove All Metadata, Repair Maker
 // Notes and Revert Last Save, with the progress panel while one runs.
-class FileOperations : public QObject, public ExifBackgroundRunnerListener
+class FileOperations : public QObject
 {
     Q_OBJECT
 
@@ -36,10 +36,6 @@ public:
     void removeProgressPanel();
     void updateEnablement(const CommandState &state);
 
-    // ExifBackgroundRunnerListener
-    void fileToBeProcessed(const ExifFileInfoPtr &file, const ExifOperationStatus &status) override;
-    void fileProcessed(const ExifFileInfoPtr &file, const ExifOperationStatus &status) override;
-    void finishProcessing(const QHash<QString, ErrorMessagesPtr> &results) override;
 
 Q_SIGNALS:
     void savingChanged(bool saving);
@@ -47,6 +43,9 @@ Q_SIGNALS:
     void batchFinished(const QHash<QString, ErrorMessagesPtr> &results);
 
 private:
+    void handleFileStarted(const ExifFileInfoPtr &file, const ExifOperationStatus &status);
+    void handleFileFinished(const ExifFileInfoPtr &file, const ExifOperationStatus &status);
+    void handleBatchFinished(const QHash<QString, ErrorMessagesPtr> &results);
     // Starts a batch of operations the runner took; start returns how many.
     void runBatch(bool fadeIn, const std::function<qsizetype()> &start);
     QList<ExifFileInfoPtr> filesToRevert() const;

@@ -10,12 +10,13 @@
 #include <QAction>
 
 GeotagCommand::GeotagCommand(MainWindow *window, MainWindowMenus *menus, FileListPresenter *list,
-                             AuxiliaryWindows *windows, QObject *parent)
+                             AuxiliaryWindows *windows, EditSession &session, QObject *parent)
     : QObject(parent)
     , m_window(window)
     , m_menus(menus)
     , m_list(list)
     , m_windows(windows)
+    , m_session(session)
 {
     m_menus->onTriggered(MainWindowMenus::Command::GeotagFromTrackLog, this,
                          &GeotagCommand::geotagFromTrackLog);
@@ -34,7 +35,7 @@ void GeotagCommand::geotagFromTrackLog()
         return;
     }
 
-    auto *dialog = new GeotagDialog(files, m_window);
+    auto *dialog = new GeotagDialog(files, m_session, m_window);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     // The files stay as they are (no removal, no reload) while their positions are chosen.
     dialog->setWindowModality(Qt::WindowModal);

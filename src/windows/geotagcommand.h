@@ -6,6 +6,7 @@
 #include <QPointer>
 
 class AuxiliaryWindows;
+class EditSession;
 class FileListPresenter;
 class GeotagDialog;
 class MainWindow;
@@ -18,7 +19,7 @@ class GeotagCommand : public QObject
 
 public:
     GeotagCommand(MainWindow *window, MainWindowMenus *menus, FileListPresenter *list,
-                  AuxiliaryWindows *windows, QObject *parent);
+                  AuxiliaryWindows *windows, EditSession &session, QObject *parent);
 
     void geotagFromTrackLog();
     void updateEnablement(const CommandState &state);
@@ -32,5 +33,6 @@ private:
     MainWindowMenus *m_menus;
     FileListPresenter *m_list;
     AuxiliaryWindows *m_windows;
+    EditSession &m_session;
     QPointer<GeotagDialog> m_dialog;
 };

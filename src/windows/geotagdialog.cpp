@@ -1,6 +1,7 @@
 #include "windows/geotagdialog.h"
 
 #include "catalogue/stringtables.h"
+#include "engine/editsession.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -29,9 +30,11 @@ const QString TimeFormat = QStringLiteral("yyyy-MM-dd HH:mm:ss");
 
 } // namespace
 
-GeotagDialog::GeotagDialog(const QList<ExifFileInfoPtr> &files, QWidget *parent)
+GeotagDialog::GeotagDialog(const QList<ExifFileInfoPtr> &files, EditSession &session,
+                           QWidget *parent)
     : QDialog(parent)
     , m_files(files)
+    , m_session(&session)
 {
     setWindowTitle(localized("Geotag from Track Log"));
     resize(720, 640);
@@ -284,7 +287,9 @@ QString GeotagDialog::describe(const GeotagMatch &match)
 
 void GeotagDialog::apply()
 {
-    const QList<ExifFileInfoPtr> changed = applyGeotagMatches(m_matches, this);
+    if (!m_session)
+        return;
+    const QList<ExifFileInfoPtr> changed = applyGeotagMatches(m_matches, *m_session, this);
     Q_EMIT applied(changed);
     accept();
 }

@@ -8,11 +8,13 @@
 
 #include <QDialog>
 #include <QList>
+#include <QPointer>
 #include <QStringList>
 #include <QTimeZone>
 
 #include <optional>
 
+class EditSession;
 class QCheckBox;
 class QComboBox;
 class QDateTimeEdit;
@@ -24,13 +26,15 @@ class QSpinBox;
 class QTreeWidget;
 
 // Geotagging the given files from GPX track logs: the logs, how the camera's clock relates to
-// them, and what each file would get. Nothing changes in the files until Apply.
+// them, and what each file would get. Nothing changes in the files until Apply, which posts the
+// new positions in session.
 class GeotagDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    explicit GeotagDialog(const QList<ExifFileInfoPtr> &files, QWidget *parent = nullptr);
+    GeotagDialog(const QList<ExifFileInfoPtr> &files, EditSession &session,
+                 QWidget *parent = nullptr);
 
     void setGpxFiles(const QStringList &paths);
     const QStringList &gpxFiles() const { return m_gpxFiles; }
@@ -76,6 +80,7 @@ private:
     std::optional<QTimeZone> chosenZone() const;
 
     QList<ExifFileInfoPtr> m_files;
+    QPointer<EditSession> m_session;
     QStringList m_gpxFiles;
     GpxTrack m_track;
     QList<FileMatch> m_matches;

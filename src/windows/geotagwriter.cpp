@@ -1,10 +1,11 @@
 #include "windows/geotagwriter.h"
 
-#include "editors/exiffilesupdate.h"
+#include "engine/editsession.h"
 
 #include <QMap>
 
-QList<ExifFileInfoPtr> applyGeotagMatches(const QList<FileMatch> &matches, const void *source)
+QList<ExifFileInfoPtr> applyGeotagMatches(const QList<FileMatch> &matches, EditSession &session,
+                                          const void *source)
 {
     QList<ExifFileInfoPtr> changed;
     QStringList keys;
@@ -23,8 +24,7 @@ QList<ExifFileInfoPtr> applyGeotagMatches(const QList<FileMatch> &matches, const
     }
     for (const QString &key : std::as_const(keys)) {
         const QList<ExifFileInfoPtr> &files = filesByKey[key];
-        ExifFilesUpdateCenter::instance().post(key, files, files.first()->exifValue(key), files,
-                                               source);
+        session.post(key, files, files.first()->exifValue(key), files, source);
     }
     return changed;
 }

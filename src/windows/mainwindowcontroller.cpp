@@ -10,7 +10,7 @@
 #include "windows/presetsmenu.h"
 #include "windows/windowsheets.h"
 #include "editors/configurationviewcontroller.h"
-#include "editors/exiffilesupdate.h"
+#include "engine/editsession.h"
 #include "engine/exifbackgroundrunner.h"
 #include "engine/exifutil.h"
 
@@ -31,11 +31,7 @@ MainWindowController::MainWindowController(std::unique_ptr<ExifBackgroundRunner>
     buildParts(store);
 }
 
-MainWindowController::~MainWindowController()
-{
-    if (m_runner && m_runner->listener() == m_operations)
-        m_runner->setListener(nullptr);
-}
+MainWindowController::~MainWindowController() = default;
 
 void MainWindowController::buildParts(ExifSettings &store)
 {
@@ -44,16 +40,18 @@ void MainWindowController::buildParts(ExifSettings &store)
     m_menus = new MainWindowMenus(m_window->menuBar(), this);
     m_window->presetsButton()->setMenu(m_menus->configsMenu());
 
+    m_session = new EditSession(this);
     m_form = new ConfigurationViewController(this);
+    m_form->setEditSession(m_session);
     m_form->createUserInterface();
     m_window->setFormArea(m_form->scrollArea());
 
     m_list = new FileListPresenter(m_window.get(), m_menus, m_form, this);
     m_operations = new FileOperations(m_window.get(), m_menus, m_list, *m_runner, this);
-    m_windows = new AuxiliaryWindows(m_window.get(), m_menus, m_list, store, this);
+    m_windows = new AuxiliaryWindows(m_window.get(), m_menus, m_list, store, *m_session, this);
     m_presets = new PresetsMenu(m_menus, m_list, store, this);
-    m_copyPaste = new CopyPasteCommands(m_window.get(), m_menus, m_list, this);
-    m_geotag = new GeotagCommand(m_window.get(), m_menus, m_list, m_windows, this);
+    m_copyPaste = new CopyPasteCommands(m_window.get(), m_menus, m_list, *m_session, this);
+    m_geotag = new GeotagCommand(m_window.get(), m_menus, m_list, m_windows, *m_session, this);
     m_form->setShowMapAction([this] { m_windows->showMap(); });
 
     const auto recheck = [this] { recheckUIEnablement(); };
@@ -75,7 +73,7 @@ void MainWindowController::buildParts(ExifSettings &store)
     connect(m_presets, &PresetsMenu::changed, this, edited);
     connect(m_copyPaste, &CopyPasteCommands::changed, this, edited);
     connect(m_geotag, &GeotagCommand::changed, this, edited);
-    connect(&ExifFilesUpdateCenter::instance(), &ExifFilesUpdateCenter::exifFilesUpdated, m_list,
+    connect(m_session, &EditSession::exifFilesUpdated, m_list,
             &FileListPresenter::handleExifFilesUpdate);
 
     recheckUIEnablement();

@@ -15,6 +15,7 @@
 class AuxiliaryWindows;
 class ConfigurationViewController;
 class CopyPasteCommands;
+class EditSession;
 class FileListPresenter;
 class FileOperations;
 class GeotagCommand;
@@ -54,6 +55,8 @@ public:
     CopyPasteCommands *copyPaste() const { return m_copyPaste; }
     MainWindowMenus *menus() const { return m_menus; }
     ConfigurationViewController *configController() const { return m_form; }
+    // Where the form, the list, the map, geotagging and pasting announce their edits.
+    EditSession *editSession() const { return m_session; }
 
     void recheckUIEnablement();
     void updateWindowModified();
@@ -72,6 +75,7 @@ private:
 
     bool m_debug;
     std::unique_ptr<ExifBackgroundRunner> m_runner;
+    EditSession *m_session = nullptr;
     std::unique_ptr<MainWindow> m_window;
     MainWindowMenus *m_menus = nullptr;
     ConfigurationViewController *m_form = nullptr;

@@ -1,6 +1,6 @@
 #include "windows/mappins.h"
 
-#include "editors/exiffilesupdate.h"
+#include "engine/editsession.h"
 #include "values/gpslocation.h"
 
 #include <QFileInfo>
@@ -30,11 +30,11 @@ const QStringList &MapPins::pinKeys()
     return keys;
 }
 
-MapPins::MapPins(QObject *parent)
+MapPins::MapPins(EditSession &session, QObject *parent)
     : QObject(parent)
+    , m_session(&session)
 {
-    connect(&ExifFilesUpdateCenter::instance(), &ExifFilesUpdateCenter::exifFilesUpdated, this,
-            &MapPins::handleExifFilesUpdate);
+    connect(&session, &EditSession::exifFilesUpdated, this, &MapPins::handleExifFilesUpdate);
 }
 
 std::optional<MapPin> MapPins::createPointAnnotation(const ExifFileInfo &file)
@@ -162,9 +162,9 @@ void MapPins::removePin()
         for (const QString &key : pinKeys())
             file->removeExifValue(key);
     }
-    if (!changed.isEmpty()) {
+    if (!changed.isEmpty() && m_session) {
         for (const QString &key : pinKeys())
-            ExifFilesUpdateCenter::instance().post(key, changed, std::nullopt, changed, this);
+            m_session->post(key, changed, std::nullopt, changed, this);
     }
     m_annotations.clear();
     Q_EMIT pinsChanged({});
@@ -198,12 +198,10 @@ void MapPins::handleExifFilesUpdate(const ExifFilesUpdate &update)
 
 void MapPins::notifyFilesChange(const QList<ExifFileInfoPtr> &files)
 {
-    if (files.isEmpty())
+    if (files.isEmpty() || !m_session)
         return;
-    for (const QString &key : gpsKeys()) {
-        ExifFilesUpdateCenter::instance().post(key, files, files.first()->exifValue(key), files,
-                                               this);
-    }
+    for (const QString &key : gpsKeys())
+        m_session->post(key, files, files.first()->exifValue(key), files, this);
 }
 
 ExifFileInfoPtr MapPins::fileNamed(const QString &fileName) const

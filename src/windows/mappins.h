@@ -5,10 +5,12 @@
 #include <QList>
 #include <QMap>
 #include <QObject>
+#include <QPointer>
 #include <QString>
 
 #include <optional>
 
+class EditSession;
 struct ExifFilesUpdate;
 
 // One file's position on the map.
@@ -44,7 +46,8 @@ public:
     static inline const QString LongitudeKey = QStringLiteral("GPS:GPSLongitude");
     static inline const QString LongitudeRefKey = QStringLiteral("GPS:GPSLongitudeRef");
 
-    explicit MapPins(QObject *parent = nullptr);
+    // Pins follow every change of coordinates posted in session, and post their own there.
+    explicit MapPins(EditSession &session, QObject *parent = nullptr);
 
     // What a pin stands for in a file: its position, with the altitude and GPS date and time that
     // were taken there. Removing a pin removes them all, in this order.
@@ -89,6 +92,7 @@ private:
     void notifyFilesChange(const QList<ExifFileInfoPtr> &files);
     ExifFileInfoPtr fileNamed(const QString &fileName) const;
 
+    QPointer<EditSession> m_session;
     QList<ExifFileInfoPtr> m_files;
     QMap<QString, MapPin> m_annotations;
     std::optional<MapRegion> m_region;

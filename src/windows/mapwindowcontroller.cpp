@@ -44,9 +44,9 @@ QWebEngineScript webChannelScript()
 
 } // namespace
 
-MapWindowController::MapWindowController(QWidget *parent)
+MapWindowController::MapWindowController(EditSession &session, QWidget *parent)
     : QWidget(parent, Qt::Window)
-    , m_pins(new MapPins(this))
+    , m_pins(new MapPins(session, this))
     , m_bridge(new MapBridge(m_pins, this))
 {
     setWindowTitle(localized("Map"));

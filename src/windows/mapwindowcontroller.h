@@ -7,6 +7,7 @@
 #include <QList>
 #include <QWidget>
 
+class EditSession;
 class MapBridge;
 class MapPins;
 class QAbstractButton;
@@ -20,7 +21,8 @@ class MapWindowController : public QWidget
     Q_OBJECT
 
 public:
-    explicit MapWindowController(QWidget *parent = nullptr);
+    // Pins are edits of session's files.
+    explicit MapWindowController(EditSession &session, QWidget *parent = nullptr);
     ~MapWindowController() override;
 
     // Shows the window in front.

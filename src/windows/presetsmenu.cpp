@@ -17,18 +17,13 @@ PresetsMenu::PresetsMenu(MainWindowMenus *menus, FileListPresenter *list, ExifSe
     , m_list(list)
     , m_store(store)
 {
-    m_store.addListener(this);
+    m_store.onPresetsChanged(this, [this] { updateConfigurations(); });
     connect(m_menus->configsMenu(), &QMenu::triggered, this, [this](QAction *action) {
         const int tag = action->data().toInt();
         if (tag >= 0)
             handleConfigurationClick(tag);
     });
     updateConfigurations();
-}
-
-PresetsMenu::~PresetsMenu()
-{
-    m_store.removeListener(this);
 }
 
 void PresetsMenu::updateConfigurations()

@@ -11,17 +11,14 @@ class MainWindowMenus;
 
 // The Presets menu: one item per stored preset, in name order, each applied to the selected
 // files as pending edits.
-class PresetsMenu : public QObject, public ExifSettingsListener
+class PresetsMenu : public QObject
 {
     Q_OBJECT
 
 public:
     PresetsMenu(MainWindowMenus *menus, FileListPresenter *list, ExifSettings &store,
                 QObject *parent);
-    ~PresetsMenu() override;
-
-    // ExifSettingsListener
-    void updateConfigurations() override;
+    void updateConfigurations();
     const QStringList &configIds() const { return m_configIds; }
     void handleConfigurationClick(int tag);
     void applyConfiguration(const ExifConfiguration &configuration);

@@ -119,18 +119,23 @@ void QuickLookImageCache::removeAll()
     m_isInFlightCancelled = true;
 }
 
-void QuickLookImageCache::addListener(QuickLookImageCacheListener *listener)
+QMetaObject::Connection
+QuickLookImageCache::onImageReady(const QObject *context,
+                                  std::function<void(const QString &, const QImage &)> receiver)
 {
-    if (!listener)
-        throw TagsmithException(TagsmithException::IllegalArgument,
-                                QStringLiteral("A listener of the image cache cannot be null"));
-    m_listeners.push_back({listener->m_alive, listener});
-}
-
-void QuickLookImageCache::removeListener(QuickLookImageCacheListener *listener)
-{
-    std::erase_if(m_listeners,
-                  [listener](const ListenerEntry &entry) { return entry.listener == listener; });
+    return connect(
+        this, &QuickLookImageCache::imageReady, context,
+        [receiver = std::move(receiver)](const QString &path, const QImage &image) {
+            try {
+                receiver(path, image);
+            } catch (const TagsmithException &e) {
+                qCWarning(lcTagsmith).noquote()
+                    << QStringLiteral("Exception cought: %1").arg(e.reason());
+            } catch (const std::exception &e) {
+                qCWarning(lcTagsmith).noquote()
+                    << QStringLiteral("Exception cought: %1").arg(QString::fromUtf8(e.what()));
+            }
+        });
 }
 
 int QuickLookImageCache::pendingCount() const
@@ -176,28 +181,8 @@ void QuickLookImageCache::doLoadImages()
             m_images.insert(request.path, new QImage(image), costOf(image));
         }
         QMetaObject::invokeMethod(
-            this, [this, image, path = request.path] { doNotifyListeners(image, path); },
+            this, [this, image, path = request.path] { Q_EMIT imageReady(path, image); },
             Qt::QueuedConnection);
-    }
-}
-
-void QuickLookImageCache::doNotifyListeners(const QImage &image, const QString &path)
-{
-    std::erase_if(m_listeners, [](const ListenerEntry &entry) { return entry.alive.expired(); });
-    // A copy: a listener may add or remove listeners while being told.
-    const std::vector<ListenerEntry> listeners = m_listeners;
-    for (const ListenerEntry &entry : listeners) {
-        if (entry.alive.expired())
-            continue;
-        try {
-            entry.listener->imageLoaded(image, path, this);
-        } catch (const TagsmithException &e) {
-            qCWarning(lcTagsmith).noquote()
-                << QStringLiteral("Exception cought: %1").arg(e.reason());
-        } catch (const std::exception &e) {
-            qCWarning(lcTagsmith).noquote()
-                << QStringLiteral("Exception cought: %1").arg(QString::fromUtf8(e.what()));
-        }
     }
 }
 

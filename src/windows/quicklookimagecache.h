@@ -10,34 +10,17 @@
 #include <QString>
 
 #include <deque>
+#include <functional>
 #include <memory>
-#include <vector>
 
 class QThread;
-class QuickLookImageCache;
-
-// Told on the main thread when a preview is ready. The cache holds its listeners weakly: a
-// listener that is destroyed is simply no longer told.
-class QuickLookImageCacheListener
-{
-public:
-    QuickLookImageCacheListener() = default;
-    virtual ~QuickLookImageCacheListener() = default;
-    QuickLookImageCacheListener(const QuickLookImageCacheListener &) = delete;
-    QuickLookImageCacheListener &operator=(const QuickLookImageCacheListener &) = delete;
-
-    virtual void imageLoaded(const QImage &image, const QString &path,
-                             QuickLookImageCache *cache) = 0;
-
-private:
-    friend class QuickLookImageCache;
-    std::shared_ptr<int> m_alive = std::make_shared<int>(0);
-};
 
 // Previews of the files in the list, made one at a time on a worker thread of the cache's own.
 // The main thread only looks up and queues; it never waits for a preview.
 class QuickLookImageCache : public QObject
 {
+    Q_OBJECT
+
 public:
     // Finished previews share this budget, the least recently shown leaving first. A row's
     // preview takes about 45 KB (180 KB on a double-density screen), so 64 MB holds many
@@ -50,13 +33,16 @@ public:
     ~QuickLookImageCache() override;
 
     // The finished preview (or the placeholder of a file without one); otherwise a null image,
-    // and the preview is queued to arrive later through the listeners. Sizes are in pixels.
+    // and the preview is queued to arrive later through imageReady. Sizes are in pixels.
     QImage loadImage(const QString &path, qreal width, qreal height);
     void removeImage(const QString &path);
     void removeAll();
 
-    void addListener(QuickLookImageCacheListener *listener);
-    void removeListener(QuickLookImageCacheListener *listener);
+    // Connects receiver to imageReady so that what it throws is logged and the receivers after
+    // it are still told; an exception must never cross the signal itself.
+    QMetaObject::Connection
+    onImageReady(const QObject *context,
+                 std::function<void(const QString &, const QImage &)> receiver);
 
     // Requests waiting for the worker, the one in the works included.
     int pendingCount() const;
@@ -65,6 +51,10 @@ public:
     static QImage placeholderImage(const QSize &size);
     static bool isPlaceholder(const QImage &image);
 
+Q_SIGNALS:
+    // In the cache's thread, once the preview of path is in the cache.
+    void imageReady(const QString &path, const QImage &image);
+
 private:
     struct Request
     {
@@ -72,16 +62,10 @@ private:
         QSize size;
         quint64 batch = 0;
     };
-    struct ListenerEntry
-    {
-        std::weak_ptr<int> alive;
-        QuickLookImageCacheListener *listener = nullptr;
-    };
     class Worker;
 
     void doLoadImages();
     bool takeRequest(Request &request);
-    void doNotifyListeners(const QImage &image, const QString &path);
 
     mutable QMutex m_lock; // guards everything down to m_isWorkerIdle
     QCache<QString, QImage> m_images;
@@ -93,7 +77,6 @@ private:
 
     quint64 m_batch = 0; // main thread only
     bool m_isBatchOpen = false;
-    std::vector<ListenerEntry> m_listeners;
     std::unique_ptr<Worker> m_worker;
     std::unique_ptr<QThread> m_thread;
 };

@@ -23,7 +23,7 @@ public:
     ~ResultsWindowController() override;
 
     void displayErrors(const QList<ErrorMessagesPtr> &files);
-    // The runner's finishProcessing map, as it comes.
+    // The runner's batchFinished map, as it comes.
     void displayErrors(const QHash<QString, ErrorMessagesPtr> &results);
 
     // Shows the window and brings it to the front.

@@ -12,18 +12,20 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct RecordingListener : ExifSettingsListener
+struct RecordingListener : QObject
 {
     RecordingListener(QStringList *calls, const char *name)
         : calls(calls)
         , name(name)
     {
     }
-    void updateConfigurations() override
+    void listen(ExifSettings &store)
     {
-        calls->append(QLatin1String(name));
-        if (qstrcmp(name, "broken") == 0)
-            throw TagsmithException(TagsmithException::Invalid, u"listener broke"_s);
+        store.onPresetsChanged(this, [this] {
+            calls->append(QLatin1String(name));
+            if (qstrcmp(name, "broken") == 0)
+                throw TagsmithException(TagsmithException::Invalid, u"listener broke"_s);
+        });
     }
     QStringList *calls;
     const char *name;
@@ -153,15 +155,15 @@ private Q_SLOTS:
         QStringList calls;
         RecordingListener first(&calls, "first"), broken(&calls, "broken"), last(&calls, "last");
         ExifSettings store;
-        for (auto *listener : {&first, &broken, &first, &last})
-            store.addListener(listener);
+        for (auto *listener : {&first, &broken, &last})
+            listener->listen(store);
         QTest::ignoreMessage(QtWarningMsg,
                              "Caught exception of name: Invalid reason: listener broke");
         store.saveConfiguration(preset("configuration-0"));
         QCOMPARE(calls, (QStringList{u"first"_s, u"broken"_s, u"last"_s}));
 
         calls.clear();
-        store.removeListener(&broken);
+        store.disconnect(&broken);
         store.removeConfigurationIdentifier(u"configuration-0"_s);
         QCOMPARE(calls, (QStringList{u"first"_s, u"last"_s}));
     }

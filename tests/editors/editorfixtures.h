@@ -2,8 +2,8 @@
 
 #include "catalogue/exifconfiguration.h"
 #include "catalogue/exiffield.h"
-#include "editors/exiffilesupdate.h"
 #include "editors/fieldeditor.h"
+#include "engine/editsession.h"
 #include "engine/exiffileinfo.h"
 
 #include <QLineEdit>
@@ -63,6 +63,7 @@ template <typename Editor> struct Row
     explicit Row(ExifFieldPtr field, bool showRemoveButton = false)
         : editor(std::move(field))
     {
+        editor.setEditSession(&session);
         parent.resize(600, 200);
         editor.setMaxLabelWidth(120);
         editor.setBoldFontOnChange(true);
@@ -71,6 +72,7 @@ template <typename Editor> struct Row
         editor.createEditor(&parent, 0);
         parent.show();
     }
+    EditSession session;
     QWidget parent;
     Editor editor;
 };
@@ -93,9 +95,9 @@ inline QString presetEntry(FieldEditor &editor, ExifConfiguration &preset, const
            (preset.removedValues().contains(key) ? u"<removed>"_qs : QString());
 }
 
-inline QSignalSpy updateSpy()
+inline QSignalSpy updateSpy(EditSession &session)
 {
-    return QSignalSpy(&ExifFilesUpdateCenter::instance(), &ExifFilesUpdateCenter::exifFilesUpdated);
+    return QSignalSpy(&session, &EditSession::exifFilesUpdated);
 }
 
 inline ExifFilesUpdate updateAt(const QSignalSpy &spy, qsizetype index)

@@ -83,10 +83,12 @@ class TestConfigurationView : public QObject
 
     QTemporaryDir m_dir;
     ExifFieldsController m_catalogue;
+    EditSession m_session;
 
     std::unique_ptr<ConfigurationViewController> makeForm()
     {
         auto form = std::make_unique<ConfigurationViewController>(nullptr, &m_catalogue);
+        form->setEditSession(&m_session);
         form->scrollArea()->resize(500, 400);
         form->createUserInterface();
         form->scrollArea()->show();
@@ -266,6 +268,7 @@ private Q_SLOTS:
         ExifFieldsController catalogue;
         catalogue.initializeConfigurations();
         ConfigurationViewController form(nullptr, &catalogue);
+        form.setEditSession(&m_session);
         form.scrollArea()->resize(500, 300);
         form.createUserInterface();
         form.scrollArea()->show();
@@ -299,7 +302,7 @@ private Q_SLOTS:
         QScrollBar *bar = form.scrollArea()->verticalScrollBar();
         const int scrolledBefore = bar->value();
         const int valueBefore = value();
-        auto updates = updateSpy();
+        auto updates = updateSpy(m_session);
 
         const QPointF inside(10, 10);
         QWheelEvent wheel(inside, target->mapToGlobal(inside), QPoint(), QPoint(0, -120),

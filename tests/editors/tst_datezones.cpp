@@ -107,8 +107,8 @@ private Q_SLOTS:
 
         ExifBackgroundRunner runner;
         RunListener listener;
-        runner.setListener(&listener);
-        QCOMPARE(runner.saveFiles(files, 1), 1);
+        listener.listen(runner);
+        QCOMPARE(runner.saveFiles(files, ExifOperationOption::ReReadFile), 1);
         QVERIFY(listener.wait(1));
         QCOMPARE(listener.messages(path), QStringList());
         const QStringList disk =

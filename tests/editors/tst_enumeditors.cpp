@@ -90,7 +90,7 @@ private Q_SLOTS:
         Row<EnumEditor> row(enumField());
         const auto files = makeFiles(Key, {u"2"_qs, u"Auto"_qs, QString()});
         row.editor.setExifFiles(files);
-        auto spy = updateSpy();
+        auto spy = updateSpy(row.session);
         pick(row.editor.popupButton(), title);
         QCOMPARE(currentValues(files, Key), QStringList(3, stored));
         QCOMPARE(spy.size(), 1);
@@ -124,7 +124,7 @@ private Q_SLOTS:
             QCOMPARE(boxOf(row.editor, u"B"_qs)->checkState(), Qt::Checked);
             QCOMPARE(boxOf(row.editor, u"C"_qs)->checkState(), Qt::Unchecked);
         }
-        auto spy = updateSpy();
+        auto spy = updateSpy(row.session);
         QCheckBox *box = boxOf(row.editor, clicked);
         QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2));
         QTEST(currentValues(files, Key), "after");

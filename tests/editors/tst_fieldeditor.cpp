@@ -30,7 +30,7 @@ private Q_SLOTS:
         QTest::keyClick(row.editor.editor(), Qt::Key_Return);
         QCOMPARE(currentValues(files, Key), (QStringList{u"A"_qs, u"B"_qs, u"<absent>"_qs}));
 
-        auto spy = updateSpy();
+        auto spy = updateSpy(row.session);
         typeAndCommit(row.editor.editor(), u"Harbour at dusk"_qs);
 
         QCOMPARE(currentValues(files, Key), QStringList(3, u"Harbour at dusk"_qs));
@@ -132,7 +132,7 @@ private Q_SLOTS:
     void nothingPostedWithoutFiles()
     {
         Row<TextEditor> row(makeField(Key, FieldDataRepresentation::None));
-        auto spy = updateSpy();
+        auto spy = updateSpy(row.session);
         row.editor.sendChangeNotification(u"x"_qs);
         row.editor.setExifFiles(makeFiles(Key, {u"A"_qs}));
         row.editor.clearEditor();

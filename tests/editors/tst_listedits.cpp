@@ -107,8 +107,8 @@ private Q_SLOTS:
 
         RunListener listener;
         ExifBackgroundRunner runner;
-        runner.setListener(&listener);
-        if (runner.saveFiles(files, 1) > 0)
+        listener.listen(runner);
+        if (runner.saveFiles(files, ExifOperationOption::ReReadFile) > 0)
             QVERIFY(listener.wait());
         for (qsizetype i = 0; i < files.size(); ++i) {
             const QString &path = files.at(i)->fileName();

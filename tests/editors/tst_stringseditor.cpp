@@ -139,7 +139,7 @@ private Q_SLOTS:
         Row<StringsEditor> row(makeField(Keywords, FieldDataRepresentation::Strings), true);
         const auto files = makeFiles(Keywords, {u"a,b"_qs, u"a,b"_qs});
         row.editor.setExifFiles(files);
-        auto spy = updateSpy();
+        auto spy = updateSpy(row.session);
         QLineEdit *edit = row.editor.editor()->lineEdit();
         edit->setFocus();
 

@@ -66,7 +66,7 @@ private Q_SLOTS:
         for (const auto &file : files)
             file->setExifValue(refKey, u"old"_qs);
         row.editor.setExifFiles(files);
-        auto spy = updateSpy();
+        auto spy = updateSpy(row.session);
         QFETCH(QString, typed);
         typeAndCommit(row.editor.editor(), typed);
 
@@ -95,7 +95,7 @@ private Q_SLOTS:
         Row<TextEditor> row(coordinate(key));
         const auto files = makeFiles(key, {u"48.5"_qs, QString()});
         row.editor.setExifFiles(files);
-        auto spy = updateSpy();
+        auto spy = updateSpy(row.session);
         typeAndCommit(row.editor.editor(), typed);
         QCOMPARE(currentValues(files, key), (QStringList{u"48.5"_qs, u"<absent>"_qs}));
         QVERIFY(row.editor.errorMessageWindow() && row.editor.errorMessageWindow()->isVisible());

@@ -126,10 +126,10 @@ private Q_SLOTS:
         QVERIFY(!FileAdmission::rejectionAfterReading(file->originalExifData()));
         file->setExifValue(u"XMP-dc:Description"_qs, Caption);
         RunListener listener;
-        m_runner->setListener(&listener);
-        QCOMPARE(m_runner->saveFiles({file}, 1), 1);
+        listener.listen(*m_runner);
+        QCOMPARE(m_runner->saveFiles({file}, ExifOperationOption::ReReadFile), 1);
         QVERIFY(listener.wait());
-        m_runner->setListener(nullptr);
+        m_runner->disconnect(&listener);
 
         // A bare JPEG XL codestream is put into a container, and says so.
         const QStringList messages = listener.messages(path).filter(u"3 "_qs);

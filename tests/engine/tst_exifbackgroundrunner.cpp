@@ -40,6 +40,7 @@ QJsonObject readWithExifTool(const QString &path)
 struct ThrowingOperation final : ExifRunnerOperation
 {
     QString fileName() const override { return u"/nowhere/x.jpg"_qs; }
+    ExifFileInfoPtr file() const override { return nullptr; }
     ErrorMessagesPtr errors() const override { return nullptr; }
     void run() override
     {
@@ -135,6 +136,10 @@ private Q_SLOTS:
                  QStringList({u"before o1.jpg 1/3"_qs, u"after o1.jpg 1/3"_qs,
                               u"before o2.jpg 2/3"_qs, u"after o2.jpg 2/3"_qs,
                               u"before o3.jpg 3/3"_qs, u"after o3.jpg 3/3"_qs, u"finish 3"_qs}));
+        // Each step names the record itself, not merely its path.
+        const QList<ExifFileInfoPtr> saved{files[0], files[2], files[3]};
+        QCOMPARE(heard->startedFiles, saved);
+        QCOMPARE(heard->finishedFiles, saved);
         QCOMPARE(readBytes(files[2]->fileName()), before);
         QCOMPARE(heard->messages(files[2]->fileName()),
                  QStringList{u"3 The value \"2014:03\" of Date Created is not a valid date."_qs});
@@ -146,6 +151,33 @@ private Q_SLOTS:
         }
         // A batch with nothing to save must still end, or the window waits forever.
         QCOMPARE(save({files[1]})->events, QStringList{u"finish 0"_qs});
+    }
+
+    // The window and a panel both hear every step; a batch still on its way when the runner
+    // goes is heard by no one, as its receivers may be gone too.
+    void everyReceiverHearsEachFileAndNothingAfterTheRunnerGoes()
+    {
+        const QList files{load(u"two/a.jpg"_qs, u"A"_qs), load(u"two/b.jpg"_qs, u"B"_qs)};
+        RunListener window, panel, late;
+        {
+            ExifBackgroundRunner runner;
+            window.listen(runner);
+            panel.listen(runner);
+            QCOMPARE(runner.saveFiles(files, ExifOperationOption::ReReadFile), 2);
+            QVERIFY(window.wait());
+            late.listen(runner);
+            files[0]->setExifValue(u"IFD0:Artist"_qs, u"Again"_qs);
+            QCOMPARE(runner.saveFiles(files, ExifOperationOption::ReReadFile), 1);
+            QVERIFY(runner.waitForIdle(120'000));
+        }
+        QCoreApplication::processEvents();
+        QCOMPARE(window.events,
+                 QStringList({u"before a.jpg 1/2"_qs, u"after a.jpg 1/2"_qs, u"before b.jpg 2/2"_qs,
+                              u"after b.jpg 2/2"_qs, u"finish 2"_qs}));
+        QCOMPARE(panel.events, window.events);
+        QCOMPARE(panel.finishedFiles, files);
+        QVERIFY(late.events.isEmpty());
+        QCOMPARE(readWithExifTool(files[0]->fileName())[u"IFD0:Artist"_qs].toString(), u"Again"_qs);
     }
 
     void valuesThatDidNotReadBackAreNamed()
@@ -238,8 +270,8 @@ private Q_SLOTS:
     void operationsQueuedByHand()
     {
         const ExifFileInfoPtr file = load(u"twice/a.jpg"_qs, u"again"_qs);
-        const auto first = ExifRunnerSaveOperation::create(file, 0);
-        const auto second = ExifRunnerSaveOperation::create(file, 0);
+        const auto first = ExifRunnerSaveOperation::create(file, ExifOperationOption::None);
+        const auto second = ExifRunnerSaveOperation::create(file, ExifOperationOption::None);
         const auto throwing = std::make_shared<ThrowingOperation>();
         const auto heard = run([&](ExifBackgroundRunner &runner) {
             return runner.queueOperations({first, second, throwing});
@@ -301,13 +333,14 @@ private Q_SLOTS:
                              u", which this batch already changes, so it was not changed a "
                              u"second time."_qs});
         QVERIFY(isExifFileModified(*second)); // its edits stay for the user to see
+        QCOMPARE(heard->finishedFiles, (QList<ExifFileInfoPtr>{first, second}));
         if (isHardLink)
             return; // the save has made two files of the two names
 
         // Read again: the save gave the file a new inode, which the second record cannot know.
         ExifRunner().loadExifInformation(second);
         const auto removed = run([&](ExifBackgroundRunner &runner) {
-            return runner.removeAllMetadata({second, first}, 1);
+            return runner.removeAllMetadata({second, first}, ExifOperationOption::ReReadFile);
         });
         QCOMPARE(removed->events.last(), u"finish 2"_qs);
         QCOMPARE(removed->messages(second->fileName()), QStringList());
@@ -403,7 +436,7 @@ private:
     {
         auto listener = std::make_unique<RunListener>();
         ExifBackgroundRunner runner(nullptr, kind, tool);
-        runner.setListener(listener.get());
+        listener->listen(runner);
         runner.setMaximumConcurrentOperations(m_concurrent);
         queue(runner);
         if (!listener->wait())
@@ -415,8 +448,11 @@ private:
                                       ExifToolSessionKind kind = Persistent,
                                       const QString &tool = exifToolPath())
     {
-        return run([&](ExifBackgroundRunner &runner) { return runner.saveFiles(files, 1); }, kind,
-                   tool);
+        return run(
+            [&](ExifBackgroundRunner &runner) {
+                return runner.saveFiles(files, ExifOperationOption::ReReadFile);
+            },
+            kind, tool);
     }
 
     QTemporaryDir m_dir;

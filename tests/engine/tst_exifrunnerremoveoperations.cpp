@@ -238,7 +238,8 @@ private Q_SLOTS:
         QVERIFY(Fixtures::readBytes(path) != before);
         const QString keptFolder = folder + u'/' + RevertRecord::KeptFolder;
         QCOMPARE(QDir(keptFolder).entryList(QDir::Files).size(), 1);
-        const auto revert = ExifRunnerRevertOperation::create(file, 1);
+        const auto revert =
+            ExifRunnerRevertOperation::create(file, ExifOperationOption::ReReadFile);
         QVERIFY(revert);
         revert->setExifToolSession(&m_session);
         revert->run();
@@ -311,9 +312,11 @@ private:
     {
         std::shared_ptr<ExifRunnerFileModifiyOperation> op;
         if (strip)
-            op = std::make_shared<ExifRunnerRemoveMetadataOperation>(file, 1);
+            op = std::make_shared<ExifRunnerRemoveMetadataOperation>(
+                file, ExifOperationOption::ReReadFile);
         else
-            op = std::make_shared<ExifRunnerRemoveExifGroupsOperation>(file, 1);
+            op = std::make_shared<ExifRunnerRemoveExifGroupsOperation>(
+                file, ExifOperationOption::ReReadFile);
         op->setExifToolSession(&m_session);
         op->run();
         return op;

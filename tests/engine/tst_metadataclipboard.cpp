@@ -71,8 +71,7 @@ private Q_SLOTS:
             QCOMPARE(tagOf(target->fileName(), u"IPTC:Headline"_qs), QString());
             QVERIFY(clipboard.pasteInto(*target, caption).isEmpty());
 
-            auto save = ExifRunnerSaveOperation::create(
-                target, ExifRunnerFileModifiyOperation::ReReadOption);
+            auto save = ExifRunnerSaveOperation::create(target, ExifOperationOption::ReReadFile);
             QVERIFY(save);
             save->setExifToolSession(&session);
             save->run();

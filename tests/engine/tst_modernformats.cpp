@@ -115,8 +115,8 @@ private Q_SLOTS:
 
         RunListener listener;
         ExifBackgroundRunner runner;
-        runner.setListener(&listener);
-        QCOMPARE(runner.saveFiles({file}, 1), 1);
+        listener.listen(runner);
+        QCOMPARE(runner.saveFiles({file}, ExifOperationOption::ReReadFile), 1);
         QVERIFY(listener.wait());
         const QStringList messages = listener.messages(path);
         // Wrapping a bare codestream is worth telling the user, not a failure.

@@ -144,8 +144,8 @@ private Q_SLOTS:
         // A runner whose ExifTool is already running, as in the window after the first save.
         RunListener listener;
         ExifBackgroundRunner runner;
-        runner.setListener(&listener);
-        runner.saveFiles({load(copyOfTemplate(u"warm.jpg"_qs))}, 1);
+        listener.listen(runner);
+        runner.saveFiles({load(copyOfTemplate(u"warm.jpg"_qs))}, ExifOperationOption::ReReadFile);
         QVERIFY(listener.wait());
         int reported = 0;
         for (int round = 0; round < Rounds; ++round) {
@@ -161,7 +161,7 @@ private Q_SLOTS:
             // ExifTool needs about a quarter of a second before it writes: the rounds sweep
             // the batch's start across that moment.
             QTest::qWait(200 + round * 20);
-            runner.saveFiles(files, 1);
+            runner.saveFiles(files, ExifOperationOption::ReReadFile);
             QVERIFY(listener.wait(round + 2));
             QVERIFY(outside.state() == QProcess::NotRunning || outside.waitForFinished(60'000));
             QCOMPARE(outside.exitCode(), 0);
@@ -245,8 +245,8 @@ private:
     {
         auto listener = std::make_unique<RunListener>();
         ExifBackgroundRunner runner;
-        runner.setListener(listener.get());
-        runner.saveFiles(files, 1);
+        listener->listen(runner);
+        runner.saveFiles(files, ExifOperationOption::ReReadFile);
         if (!listener->wait())
             qWarning("the batch did not finish");
         return listener;

@@ -19,6 +19,7 @@ namespace {
 struct SlowOperation final : ExifRunnerOperation
 {
     QString fileName() const override { return name; }
+    ExifFileInfoPtr file() const override { return nullptr; }
     ErrorMessagesPtr errors() const override { return nullptr; }
     void run() override
     {
@@ -37,7 +38,7 @@ std::unique_ptr<RunListener> runBatch(const QList<ExifRunnerOperationPtr> &opera
     ExifBackgroundRunner runner;
     runner.setMaximumConcurrentOperations(concurrency);
     auto listener = std::make_unique<RunListener>();
-    runner.setListener(listener.get());
+    listener->listen(runner);
     runner.queueOperations(operations);
     listener->wait();
     return listener;
@@ -86,7 +87,8 @@ private Q_SLOTS:
                 file->setExifValue(u"ExifIFD:DateTimeOriginal"_qs, QStringLiteral("+%1d2h").arg(i));
                 if (i == 5)
                     file->setExifValue(u"IPTC:DateCreated"_qs, u"2014:03"_qs);
-                operations << ExifRunnerSaveOperation::create(file, 1);
+                operations << ExifRunnerSaveOperation::create(file,
+                                                              ExifOperationOption::ReReadFile);
             }
             const auto heard = runBatch(operations, concurrency);
             QCOMPARE(heard->events, inOrder(names, 12));

@@ -95,10 +95,13 @@ private Q_SLOTS:
             else
                 file->setExifValue(edit.left(equals), edit.mid(equals + 1));
         }
-        QVERIFY(run([&](ExifBackgroundRunner &r) { return r.saveFiles({file}, 1); }));
+        QVERIFY(run([&](ExifBackgroundRunner &r) {
+            return r.saveFiles({file}, ExifOperationOption::ReReadFile);
+        }));
         QVERIFY(RevertRecord::contains(path));
 
-        const auto revert = ExifRunnerRevertOperation::create(file, 1);
+        const auto revert =
+            ExifRunnerRevertOperation::create(file, ExifOperationOption::ReReadFile);
         QVERIFY(revert);
         QVERIFY(run([&](ExifBackgroundRunner &r) { return r.queueOperations({revert}); }));
         QCOMPARE(dump(path), before);
@@ -113,14 +116,17 @@ private Q_SLOTS:
         QVERIFY(Fixtures::makeImage(path, {u"-IFD0:Software=Old"_qs}).isEmpty());
         ExifFileInfoPtr file = load(path);
         file->setExifValue(u"IFD0:Software"_qs, u"Saved"_qs);
-        QVERIFY(run([&](ExifBackgroundRunner &r) { return r.saveFiles({file}, 1); }));
+        QVERIFY(run([&](ExifBackgroundRunner &r) {
+            return r.saveFiles({file}, ExifOperationOption::ReReadFile);
+        }));
 
         // Another program writes the file afterwards.
         QVERIFY(
             Fixtures::runExifTool({u"-overwrite_original"_qs, u"-IFD0:Software=Elsewhere"_qs, path})
                 .ok());
         const QByteArray bytes = Fixtures::readBytes(path);
-        const auto revert = ExifRunnerRevertOperation::create(file, 1);
+        const auto revert =
+            ExifRunnerRevertOperation::create(file, ExifOperationOption::ReReadFile);
         QVERIFY(revert);
         const auto listener =
             run([&](ExifBackgroundRunner &r) { return r.queueOperations({revert}); });
@@ -143,10 +149,10 @@ private:
     std::unique_ptr<RunListener> run(const std::function<qsizetype(ExifBackgroundRunner &)> &queue)
     {
         auto listener = std::make_unique<RunListener>();
-        m_runner->setListener(listener.get());
+        listener->listen(*m_runner);
         queue(*m_runner);
         const bool finished = listener->wait();
-        m_runner->setListener(nullptr);
+        m_runner->disconnect(listener.get());
         return finished ? std::move(listener) : nullptr;
     }
 

@@ -37,8 +37,8 @@ std::unique_ptr<RunListener> save(const QList<ExifFileInfoPtr> &files)
 {
     auto listener = std::make_unique<RunListener>();
     ExifBackgroundRunner runner;
-    runner.setListener(listener.get());
-    const qsizetype queued = runner.saveFiles(files, 1);
+    listener->listen(runner);
+    const qsizetype queued = runner.saveFiles(files, ExifOperationOption::ReReadFile);
     if (queued > 0 && !listener->wait())
         qWarning("the batch did not finish");
     return listener;

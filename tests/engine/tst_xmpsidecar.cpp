@@ -42,8 +42,7 @@ ExifFileInfoPtr readFile(const QString &path)
 int save(const ExifFileInfoPtr &file)
 {
     static PersistentExifToolSession session(Fixtures::exifTool());
-    auto operation =
-        ExifRunnerSaveOperation::create(file, ExifRunnerFileModifiyOperation::ReReadOption);
+    auto operation = ExifRunnerSaveOperation::create(file, ExifOperationOption::ReReadFile);
     if (!operation)
         return -1;
     operation->setExifToolSession(&session);

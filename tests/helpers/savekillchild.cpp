@@ -17,21 +17,24 @@
 
 namespace {
 
-class Listener final : public ExifBackgroundRunnerListener
+class Listener final : public QObject
 {
 public:
-    void fileToBeProcessed(const ExifFileInfoPtr &, const ExifOperationStatus &) override {}
-    void fileProcessed(const ExifFileInfoPtr &, const ExifOperationStatus &status) override
+    void listen(ExifBackgroundRunner &runner)
     {
-        if (status.errors() && status.errors()->errorsCount() > 0) {
-            std::fprintf(stderr, "%s\n",
-                         qPrintable(status.errors()->messages().constFirst().message()));
-            ++failures;
-        }
-        std::printf("saved %s\n", qPrintable(QFileInfo(status.fileName()).fileName()));
-        std::fflush(stdout);
+        connect(&runner, &ExifBackgroundRunner::fileFinished, this,
+                [this](const ExifFileInfoPtr &file, const ExifOperationStatus &status) {
+                    if (status.errors() && status.errors()->errorsCount() > 0) {
+                        std::fprintf(
+                            stderr, "%s\n",
+                            qPrintable(status.errors()->messages().constFirst().message()));
+                        ++failures;
+                    }
+                    std::printf("saved %s\n", qPrintable(QFileInfo(file->fileName()).fileName()));
+                    std::fflush(stdout);
+                });
+        connect(&runner, &ExifBackgroundRunner::batchFinished, this, [this] { finished = true; });
     }
-    void finishProcessing(const QHash<QString, ErrorMessagesPtr> &) override { finished = true; }
 
     int failures = 0;
     bool finished = false;
@@ -59,7 +62,7 @@ int main(int argc, char **argv)
 
     Listener listener;
     ExifBackgroundRunner runner;
-    runner.setListener(&listener);
+    listener.listen(runner);
     do {
         // Each round starts from what was read, so every file is rewritten.
         for (const ExifFileInfoPtr &file : std::as_const(files)) {
@@ -67,10 +70,9 @@ int main(int argc, char **argv)
             file->setExifValue(QStringLiteral("XMP-dc:Title"), QStringLiteral("new"));
         }
         listener.finished = false;
-        runner.saveFiles(files, 0);
+        runner.saveFiles(files, ExifOperationOption::None);
         while (!listener.finished)
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     } while (qstrcmp(argv[1], "loop") == 0 && listener.failures == 0);
-    runner.setListener(nullptr);
     return listener.failures == 0 ? 0 : 1;
 }

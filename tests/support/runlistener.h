@@ -1,28 +1,37 @@
 #pragma once
 
-#include "engine/exifbackgroundrunnerlistener.h"
+#include "engine/exifbackgroundrunner.h"
 
 #include <QFileInfo>
+#include <QObject>
 #include <QStringList>
 #include <QTest>
 
 // Hears a background batch as lines "before NAME i/n", "after NAME i/n" and "finish N", so one
-// comparison shows order, pairing and counts.
-struct RunListener final : ExifBackgroundRunnerListener
+// comparison shows order, pairing and counts; keeps the records the runner named with each.
+struct RunListener final : QObject
 {
-    void fileToBeProcessed(const ExifFileInfoPtr &, const ExifOperationStatus &s) override
+    RunListener() = default;
+    explicit RunListener(ExifBackgroundRunner &runner) { listen(runner); }
+
+    void listen(ExifBackgroundRunner &runner)
     {
-        events << step("before", s);
-    }
-    void fileProcessed(const ExifFileInfoPtr &, const ExifOperationStatus &s) override
-    {
-        events << step("after", s);
-    }
-    void finishProcessing(const QHash<QString, ErrorMessagesPtr> &map) override
-    {
-        events << u"finish "_qs + QString::number(map.size());
-        results = map;
-        ++finished;
+        connect(&runner, &ExifBackgroundRunner::fileStarted, this,
+                [this](const ExifFileInfoPtr &file, const ExifOperationStatus &s) {
+                    events << step("before", s);
+                    startedFiles << file;
+                });
+        connect(&runner, &ExifBackgroundRunner::fileFinished, this,
+                [this](const ExifFileInfoPtr &file, const ExifOperationStatus &s) {
+                    events << step("after", s);
+                    finishedFiles << file;
+                });
+        connect(&runner, &ExifBackgroundRunner::batchFinished, this,
+                [this](const QHash<QString, ErrorMessagesPtr> &map) {
+                    events << u"finish "_qs + QString::number(map.size());
+                    results = map;
+                    ++finished;
+                });
     }
     bool wait(int batches = 1) const
     {
@@ -46,6 +55,8 @@ struct RunListener final : ExifBackgroundRunnerListener
     }
 
     QStringList events;
+    QList<ExifFileInfoPtr> startedFiles;
+    QList<ExifFileInfoPtr> finishedFiles;
     QHash<QString, ErrorMessagesPtr> results;
     int finished = 0;
 };

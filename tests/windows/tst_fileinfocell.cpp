@@ -8,11 +8,12 @@
 namespace {
 
 // Counts the list's paints, and notes the count when told of a preview after the cell was.
-struct PaintWatcher : QObject, QuickLookImageCacheListener
+struct PaintWatcher : QObject
 {
-    void imageLoaded(const QImage &, const QString &, QuickLookImageCache *) override
+    void listen(QuickLookImageCache &cache)
     {
-        paintsWhenTold = paints;
+        cache.onImageReady(this,
+                           [this](const QString &, const QImage &) { paintsWhenTold = paints; });
     }
     bool eventFilter(QObject *, QEvent *event) override
     {
@@ -83,7 +84,7 @@ private Q_SLOTS:
         // Told after the cell: by then the cell has asked for the repaint that shows the preview.
         PaintWatcher watcher;
         view.viewport()->installEventFilter(&watcher);
-        cache.addListener(&watcher);
+        watcher.listen(cache);
         view.show();
         QVERIFY(QTest::qWaitForWindowExposed(&view));
         QTRY_VERIFY_WITH_TIMEOUT(watcher.paintsWhenTold >= 0, 30000);

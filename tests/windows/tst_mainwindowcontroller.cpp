@@ -9,7 +9,7 @@
 #include "catalogue/exiffieldscontroller.h"
 #include "catalogue/stringtables.h"
 #include "editors/configurationviewcontroller.h"
-#include "editors/exiffilesupdate.h"
+#include "engine/editsession.h"
 #include "editors/texteditor.h"
 #include "engine/exifbackgroundrunner.h"
 #include "engine/exifrunner.h"
@@ -57,18 +57,19 @@ QStringList names(const QList<ExifFileInfoPtr> &files)
 }
 
 // Records what the window asks of the runner ("kind options files"); the test plays
-// the runner's finishProcessing.
+// the runner's batchFinished.
 class FakeRunner : public ExifBackgroundRunner
 {
 public:
-    qsizetype saveFiles(const QList<ExifFileInfoPtr> &files, quint32 options) override
+    qsizetype saveFiles(const QList<ExifFileInfoPtr> &files, ExifOperationOption options) override
     {
-        calls << u"save %1 %2"_s.arg(options).arg(names(files).join(u','));
+        calls << u"save %1 %2"_s.arg(int(options)).arg(names(files).join(u','));
         return files.size();
     }
-    qsizetype removeAllMetadata(const QList<ExifFileInfoPtr> &files, quint32 options) override
+    qsizetype removeAllMetadata(const QList<ExifFileInfoPtr> &files,
+                                ExifOperationOption options) override
     {
-        calls << u"remove %1 %2"_s.arg(options).arg(names(files).join(u','));
+        calls << u"remove %1 %2"_s.arg(int(options)).arg(names(files).join(u','));
         return files.size();
     }
     QStringList calls;
@@ -213,7 +214,7 @@ private Q_SLOTS:
                     messages->addError(u"Error: disk full"_s);
                 else
                     messages->addWarning(u"Warning: minor"_s);
-                window.operations()->finishProcessing({{path, messages}});
+                Q_EMIT m_runner->batchFinished({{path, messages}});
                 if (saveFails)
                     QVERIFY(clickButton(window.window(), failureAnswer));
             }
@@ -242,7 +243,7 @@ private Q_SLOTS:
         window.window()->close();
         QVERIFY(window.window()->isVisible() && !visibleBox(window.window()));
         file->setReadData(file->exifData()); // what a successful save leaves
-        window.operations()->finishProcessing({});
+        Q_EMIT m_runner->batchFinished({});
         QVERIFY(!window.operations()->isSaving() && !window.window()->isVisible());
         QCOMPARE(m_replies, QList<bool>{true});
     }
@@ -353,7 +354,7 @@ private Q_SLOTS:
 
         // An edit made elsewhere reaches the list only through the update notification.
         one->setExifValue(Artist, u"Carl"_s);
-        ExifFilesUpdateCenter::instance().post(Artist, {one}, u"Carl"_s, {one}, nullptr);
+        window.editSession()->post(Artist, {one}, u"Carl"_s, {one}, nullptr);
         QVERIFY(modified(0));
 
         m_store->saveConfiguration(
@@ -431,7 +432,7 @@ private Q_SLOTS:
         if (m_runner->calls.isEmpty())
             return;
         QVERIFY(window.operations()->isSaving() && window.operations()->progressPanel());
-        window.operations()->finishProcessing({});
+        Q_EMIT m_runner->batchFinished({});
         QVERIFY(!window.operations()->isSaving());
         QTRY_VERIFY(!window.operations()->progressPanel());
     }
@@ -459,8 +460,7 @@ private Q_SLOTS:
         edit->selectAll();
         QTest::keyClicks(edit, u"Bob"_s);
 
-        QSignalSpy updates(&ExifFilesUpdateCenter::instance(),
-                           &ExifFilesUpdateCenter::exifFilesUpdated);
+        QSignalSpy updates(window.editSession(), &EditSession::exifFilesUpdated);
         QSignalSpy rowsChanged(window.fileList()->model(), &QAbstractItemModel::dataChanged);
         if (how.startsWith(u"return"))
             QTest::keyClick(edit, Qt::Key_Return);
@@ -478,7 +478,7 @@ private Q_SLOTS:
         QCOMPARE(rowsChanged.size(), 1);
         QCOMPARE(m_runner->calls, QStringList{u"save 1 typed.jpg"_s});
         QCOMPARE(window.fileList()->files().value(0)->exifValue(Artist), u"Bob"_s);
-        window.operations()->finishProcessing({});
+        Q_EMIT m_runner->batchFinished({});
     }
 
     // Files with unsaved edits leave the list only when the user says so; others go at once.

@@ -8,7 +8,7 @@
 #include "catalogue/exiffieldscontroller.h"
 #include "editors/configurationviewcontroller.h"
 #include "editors/texteditor.h"
-#include "editors/exiffilesupdate.h"
+#include "engine/editsession.h"
 #include "values/usersettings.h"
 #include "windows/fileinfocell.h"
 #include "windows/geotagdialog.h"
@@ -87,7 +87,8 @@ private Q_SLOTS:
         QFETCH(int, minutes);
         auto file = std::make_shared<ExifFileInfo>(u"/p/a.jpg"_qs);
         file->setReadData({{u"ExifIFD:DateTimeOriginal"_qs, u"2024:05:02 01:00:00"_qs}});
-        GeotagDialog dialog({file});
+        EditSession session;
+        GeotagDialog dialog({file}, session);
         dialog.zoneCombo()->setCurrentText(u"Europe/Berlin"_qs);
         if (way == u"late" || way == u"early") {
             dialog.lateMinutes()->setValue(minutes);
@@ -139,7 +140,8 @@ private Q_SLOTS:
             file->setReadData(values);
             files << file;
         }
-        GeotagDialog dialog(files);
+        EditSession session;
+        GeotagDialog dialog(files, session);
         dialog.setGpxFiles({gpx});
         if (!typed.isEmpty())
             dialog.zoneCombo()->setCurrentText(typed);
@@ -158,7 +160,8 @@ private Q_SLOTS:
         QVERIFY(Fixtures::writeBytes(gpx, Track));
         auto file = std::make_shared<ExifFileInfo>(u"/p/r.jpg"_qs);
         file->setReadData({{u"ExifIFD:DateTimeOriginal"_qs, u"2024:05:02 02:00:00"_qs}});
-        GeotagDialog dialog({file});
+        EditSession session;
+        GeotagDialog dialog({file}, session);
         dialog.setGpxFiles({gpx});
         QSignalSpy applied(&dialog, &GeotagDialog::applied);
         dialog.show();
@@ -209,8 +212,7 @@ private Q_SLOTS:
                  u"not matched: after the track"_qs);
         QVERIFY(dialog->applyButton()->isEnabled());
 
-        QSignalSpy updates(&ExifFilesUpdateCenter::instance(),
-                           &ExifFilesUpdateCenter::exifFilesUpdated);
+        QSignalSpy updates(window.editSession(), &EditSession::exifFilesUpdated);
         dialog->applyButton()->click();
         QStringList keys;
         for (const QList<QVariant> &arguments : std::as_const(updates)) {

@@ -1,6 +1,6 @@
 #include "windows/mappins.h"
 
-#include "editors/exiffilesupdate.h"
+#include "engine/editsession.h"
 
 #include <QtTest>
 
@@ -40,8 +40,8 @@ QString gpsValues(const ExifFileInfo &info)
 // Every "ExifFilesUpdate" posted while it lives.
 struct UpdateLog : QSignalSpy
 {
-    UpdateLog()
-        : QSignalSpy(&ExifFilesUpdateCenter::instance(), &ExifFilesUpdateCenter::exifFilesUpdated)
+    explicit UpdateLog(EditSession &session)
+        : QSignalSpy(&session, &EditSession::exifFilesUpdated)
     {
     }
     ExifFilesUpdate update(qsizetype i) const { return at(i).at(0).value<ExifFilesUpdate>(); }
@@ -117,12 +117,13 @@ private Q_SLOTS:
         const auto pinned = file(u"a.jpg"_qs, u"20,E,10,N"_qs);
         const auto bare = file(u"b.jpg"_qs);
         const auto noRef = file(u"c.jpg"_qs, u"2,E,1,"_qs);
-        MapPins pins;
+        EditSession session;
+        MapPins pins(session);
         pins.setFiles({pinned, bare, noRef});
         QVERIFY(pins.isAddEnabled());
         pins.setCenter(-48.5, -3.25);
 
-        UpdateLog log;
+        UpdateLog log(session);
         pins.addPin();
         QCOMPARE(gpsValues(*pinned), u"20,E,10,N"_qs);
         const QString atCentre = u"3.250000,W,48.500000,S"_qs;
@@ -152,12 +153,13 @@ private Q_SLOTS:
         const auto timeOnly = file(u"c.jpg"_qs);
         timeOnly->setReadData({{u"IFD0:Make"_qs, u"Canon"_qs}, {u"GPS:GPSTimeStamp"_qs, u"1"_qs}});
         const auto bare = file(u"d.jpg"_qs);
-        MapPins pins;
+        EditSession session;
+        MapPins pins(session);
         pins.setFiles({pinned, halfPinned, timeOnly, bare});
         const Files changed{pinned, halfPinned, timeOnly};
         QCOMPARE(pins.filesWithPinValues(), changed);
 
-        UpdateLog log;
+        UpdateLog log(session);
         pins.removePin();
         for (const ExifFileInfoPtr &info : {pinned, halfPinned, timeOnly, bare})
             QCOMPARE(info->exifData(), (TagDictionary{{u"IFD0:Make"_qs, u"Canon"_qs}}));
@@ -193,12 +195,13 @@ private Q_SLOTS:
         QFETCH(QString, written);
         const auto moved = file(u"a.jpg"_qs, u"1,E,1,N"_qs);
         const auto other = file(u"b.jpg"_qs, u"2,E,2,N"_qs);
-        MapPins pins;
+        EditSession session;
+        MapPins pins(session);
         pins.setFiles({moved, other});
         // A German locale must not turn the full stop into a comma.
         QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
 
-        UpdateLog log;
+        UpdateLog log(session);
         pins.movePin(moved->fileName(), latitude, longitude);
         QLocale::setDefault(QLocale::c());
         QCOMPARE(gpsValues(*moved), written);
@@ -214,14 +217,15 @@ private Q_SLOTS:
     void rebuildsOnlyOnGpsUpdates()
     {
         const auto info = file(u"a.jpg"_qs);
-        MapPins pins;
+        EditSession session;
+        MapPins pins(session);
         pins.setFiles({info});
         QSignalSpy rebuilt(&pins, &MapPins::pinsChanged);
         info->setExifData(file(u"a.jpg"_qs, u"20,W,10,N"_qs)->exifData());
 
-        ExifFilesUpdateCenter::instance().post(u"IFD0:Make"_qs, {info}, u"x"_qs, {info}, nullptr);
+        session.post(u"IFD0:Make"_qs, {info}, u"x"_qs, {info}, nullptr);
         QVERIFY(rebuilt.isEmpty());
-        ExifFilesUpdateCenter::instance().post(Lon, {info}, u"20"_qs, {info}, nullptr);
+        session.post(Lon, {info}, u"20"_qs, {info}, nullptr);
         QCOMPARE(rebuilt.size(), 1);
         QCOMPARE(pins.annotations().value(info->fileName()).longitude, -20.0);
     }

@@ -1,5 +1,7 @@
 #include "windows/mapwindowcontroller.h"
 
+#include "engine/editsession.h"
+
 #include <QAbstractButton>
 #include <QFileInfo>
 #include <QWebEnginePage>
@@ -40,7 +42,8 @@ private Q_SLOTS:
 void TestMapWindow::pinsTravelBothWaysThroughTheChannel()
 {
     QVERIFY(QFileInfo::exists(MapWindowController::pagePath()));
-    MapWindowController window;
+    EditSession session;
+    MapWindowController window(session);
     window.showWindow();
     QWebEnginePage *page = window.mapView()->page();
 

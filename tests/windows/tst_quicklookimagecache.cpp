@@ -17,15 +17,17 @@ namespace {
 
 constexpr int timeoutMs = 30000;
 
-struct Listener : QuickLookImageCacheListener
+struct Listener : QObject
 {
-    void imageLoaded(const QImage &image, const QString &path, QuickLookImageCache *) override
+    void listen(QuickLookImageCache &cache)
     {
-        paths << path;
-        images << image;
-        isOnMainThread = isOnMainThread && QThread::currentThread() == qApp->thread();
-        if (onCall)
-            onCall();
+        cache.onImageReady(this, [this](const QString &path, const QImage &image) {
+            paths << path;
+            images << image;
+            isOnMainThread = isOnMainThread && QThread::currentThread() == qApp->thread();
+            if (onCall)
+                onCall();
+        });
     }
     QStringList paths;
     QList<QImage> images;
@@ -171,7 +173,7 @@ void TestQuickLookImageCache::previewOfEachKindOfFile()
 
     QuickLookImageCache cache;
     Listener listener;
-    cache.addListener(&listener);
+    listener.listen(cache);
     QVERIFY(cache.loadImage(file, box.width(), box.height()).isNull());
     QTRY_COMPARE_WITH_TIMEOUT(listener.paths, QStringList{file}, timeoutMs);
     QVERIFY(listener.isOnMainThread);
@@ -196,7 +198,7 @@ void TestQuickLookImageCache::bigJpegIsMadeOnceAtReducedSize()
     QVERIFY(halves(6000, 4000).save(file, "jpg", 90));
     QuickLookImageCache cache;
     Listener listener;
-    cache.addListener(&listener);
+    listener.listen(cache);
     QElapsedTimer timer;
     timer.start();
     for (int ask = 0; ask < 3; ++ask) { // later paints ask again while it is being made
@@ -229,7 +231,7 @@ void TestQuickLookImageCache::listenerExceptionsAreLoggedAndOthersAreTold()
     };
     standard.onCall = [] { throw std::runtime_error("boom"); };
     for (Listener *listener : {gone.get(), &named, &standard, &next})
-        cache.addListener(listener);
+        listener->listen(cache);
     gone.reset(); // a listener that went away is skipped, not called
 
     QTest::ignoreMessage(QtWarningMsg, "Exception cought: listener broke");
@@ -249,7 +251,7 @@ void TestQuickLookImageCache::manyRequestsNeverBlockAndNewestComeFirst()
     const QString late = files.takeLast();
     QuickLookImageCache cache;
     Listener listener;
-    cache.addListener(&listener);
+    listener.listen(cache);
     QElapsedTimer timer;
     timer.start();
     for (const QString &file : std::as_const(files))

@@ -23,16 +23,18 @@ struct ExifFilesUpdate
 
 Q_DECLARE_METATYPE(ExifFilesUpdate)
 
-// The process-wide hub of "ExifFilesUpdate". Delivery is synchronous, on the main thread: when
-// post() returns every receiver has seen the change.
-class ExifFilesUpdateCenter : public QObject
+// The edits of one window's files: everything that changes their values outside a row of its
+// own (the form's rows, the date panel, the map, geotagging, pasting) posts here, and the file
+// list, the map and dependent rows follow. Delivery is synchronous, in the session's thread:
+// when post() returns every receiver has seen the change.
+class EditSession : public QObject
 {
     Q_OBJECT
 
 public:
     static inline const QString NotificationName = QStringLiteral("ExifFilesUpdate");
 
-    static ExifFilesUpdateCenter &instance();
+    explicit EditSession(QObject *parent = nullptr);
 
     void post(const ExifFilesUpdate &update);
     void post(const QString &xmlName, const QList<ExifFileInfoPtr> &changedFiles,
@@ -41,7 +43,4 @@ public:
 
 Q_SIGNALS:
     void exifFilesUpdated(const ExifFilesUpdate &update);
-
-private:
-    ExifFilesUpdateCenter() = default;
 };
