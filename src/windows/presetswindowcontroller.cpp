@@ -75,13 +75,10 @@ PresetsWindowController::PresetsWindowController(QWidget *parent, ExifSettings &
     commands->setPopupMode(QToolButton::InstantPopup);
     commands->setFocusPolicy(Qt::NoFocus);
     auto *menu = new QMenu(commands);
-    const auto text = [](const char *key) {
-        return StringTables::instance().localizedString(QString::fromLatin1(key));
-    };
-    menu->addAction(text("Rename"), this, &PresetsWindowController::renameConfiguration);
-    menu->addAction(text("Duplicate"), this, &PresetsWindowController::duplicateConfiguration);
-    menu->addAction(text("Import..."), this, &PresetsWindowController::importConfigurations);
-    menu->addAction(text("Export..."), this, &PresetsWindowController::exportConfigurations);
+    menu->addAction(localized("Rename"), this, &PresetsWindowController::renameConfiguration);
+    menu->addAction(localized("Duplicate"), this, &PresetsWindowController::duplicateConfiguration);
+    menu->addAction(localized("Import..."), this, &PresetsWindowController::importConfigurations);
+    menu->addAction(localized("Export..."), this, &PresetsWindowController::exportConfigurations);
     commands->setMenu(menu);
     buttons->addStretch();
     buttons->addWidget(commands);
