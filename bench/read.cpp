@@ -1,10 +1,10 @@
-// Times reading a batch of JPEG files through ExifRunner against the bare ExifTool read command
+// Times reading a batch of JPEG files through MetadataReader against the bare ExifTool read command
 // on the same files, so the cost of parsing and formatting shows as a ratio.
 //   bench_read [files=1000] [rounds=5]
 
 #include "engine/exiffileinfo.h"
 #include "engine/exifreportparser.h"
-#include "engine/exifrunner.h"
+#include "engine/metadatareader.h"
 #include "catalogue/exiffieldscontroller.h"
 
 #include "benchexiftool.h"
@@ -104,8 +104,8 @@ int main(int argc, char *argv[])
     }
     ExifFieldsController::defaultInstance()->initializeConfigurations();
 
-    ExifRunner runner(exifTool);
-    const QStringList bareArguments = ExifRunner::readCommandArguments(paths);
+    MetadataReader runner(exifTool);
+    const QStringList bareArguments = MetadataReader::readCommandArguments(paths);
     QList<double> bareTimes;
     QList<double> runnerTimes;
     QList<double> parseTimes;
@@ -128,7 +128,7 @@ int main(int argc, char *argv[])
         for (const QString &path : paths)
             files.append(std::make_shared<ExifFileInfo>(path));
         timer.restart();
-        const ExifReadResult result = runner.loadExifInformations(files);
+        const ExifReadResult result = runner.readRecords(files);
         runnerTimes.append(timer.nsecsElapsed() / 1e6);
         if (!result.ok()) {
             out << result.errorMessage << "\n";
@@ -136,7 +136,7 @@ int main(int argc, char *argv[])
         }
         tagCount = files.first()->exifData().size();
         out << "round " << round + 1 << ": bare " << Qt::fixed << qSetRealNumberPrecision(1)
-            << bareTimes.last() << " ms, loadExifInformations " << runnerTimes.last() << " ms\n";
+            << bareTimes.last() << " ms, readRecords " << runnerTimes.last() << " ms\n";
         out.flush();
     }
 
@@ -155,7 +155,7 @@ int main(int argc, char *argv[])
     out << count << " files, " << tagCount << " tags each, report " << lastReport.size() / 1024
         << " KiB\n"
         << "median bare read command:     " << bare << " ms\n"
-        << "median loadExifInformations:  " << loaded << " ms\n"
+        << "median readRecords:  " << loaded << " ms\n"
         << "median parse and format only: " << median(parseTimes) << " ms\n"
         << "ratio: " << qSetRealNumberPrecision(3) << loaded / bare << " (limit 1.10)\n";
     return loaded / bare <= 1.10 ? 0 : 3;

@@ -1,4 +1,4 @@
-// Times saving a batch of JPEG files through ExifBackgroundRunner (a caption, a date shift and
+// Times saving a batch of JPEG files through WriteQueue (a caption, a date shift and
 // a GPS position changed in each) against ExifTool writing the same values to copies of the
 // same files in one batch command, against one ExifTool process per file, and against one batch
 // write followed by one batch read (the work a save with its re-read asks for). Also prints
@@ -6,9 +6,9 @@
 //   bench_save [files=500] [rounds=3] [single-process sample=20]
 
 #include "catalogue/exiffieldscontroller.h"
-#include "engine/exifbackgroundrunner.h"
+#include "engine/writequeue.h"
 #include "engine/exiffileinfo.h"
-#include "engine/exifrunner.h"
+#include "engine/metadatareader.h"
 #include "values/usersettings.h"
 
 #include "benchexiftool.h"
@@ -87,15 +87,15 @@ const QStringList WriteArguments{
 class WaitingListener final : public QObject
 {
 public:
-    void listen(ExifBackgroundRunner &runner)
+    void listen(WriteQueue &runner)
     {
-        connect(&runner, &ExifBackgroundRunner::fileFinished, this,
+        connect(&runner, &WriteQueue::fileFinished, this,
                 [this](const ExifFileInfoPtr &, const ExifOperationStatus &status) {
                     if (status.errors())
                         problems += qsizetype(status.errors()->errorsCount() +
                                               status.errors()->warnsCount());
                 });
-        connect(&runner, &ExifBackgroundRunner::batchFinished, &loop, &QEventLoop::quit);
+        connect(&runner, &WriteQueue::batchFinished, &loop, &QEventLoop::quit);
     }
     QEventLoop loop;
     qsizetype problems = 0;
@@ -164,7 +164,7 @@ int main(int argc, char *argv[])
     const double megabytes = QFileInfo(templatePath).size() / (1024.0 * 1024.0);
 
     QList<double> runnerTimes, batchTimes, singleTimes, batchReadTimes, hashTimes;
-    ExifBackgroundRunner runner(nullptr, ExifToolSessionKind::Persistent, exifTool);
+    WriteQueue runner(nullptr, ExifToolSessionKind::Persistent, exifTool);
     for (int round = 0; round < rounds; ++round) {
         const QString base = dir.filePath(QStringLiteral("round%1").arg(round));
 
@@ -173,7 +173,7 @@ int main(int argc, char *argv[])
         QList<ExifFileInfoPtr> files;
         for (const QString &path : ours)
             files.append(std::make_shared<ExifFileInfo>(path));
-        ExifRunner(exifTool).loadExifInformations(files);
+        MetadataReader(exifTool).readRecords(files);
         for (const ExifFileInfoPtr &file : std::as_const(files)) {
             file->setExifValue(QStringLiteral("IPTC:Caption-Abstract"),
                                QStringLiteral("Evening light over the harbour"));
@@ -200,7 +200,7 @@ int main(int argc, char *argv[])
         const QStringList pair = copies(templatePath, base + QStringLiteral("/pair"), count);
         batchReadTimes.append(timed([&] {
             return runExifTool(WriteArguments + pair) &&
-                   runExifTool(ExifRunner::readCommandArguments(pair));
+                   runExifTool(MetadataReader::readCommandArguments(pair));
         }));
 
         // A sample of one-process-per-file runs, scaled to the batch.
@@ -215,11 +215,11 @@ int main(int argc, char *argv[])
                            count / sample);
 
         const double plain =
-            timed([&] { return runExifTool(ExifRunner::readCommandArguments(pair)); });
+            timed([&] { return runExifTool(MetadataReader::readCommandArguments(pair)); });
         const double hashed = timed([&] {
             return runExifTool(
                 QStringList{QStringLiteral("-api"), QStringLiteral("requesttags=ImageDataHash")} +
-                ExifRunner::readCommandArguments(pair));
+                MetadataReader::readCommandArguments(pair));
         });
         hashTimes.append((hashed - plain) / (megabytes * count));
 
@@ -238,7 +238,7 @@ int main(int argc, char *argv[])
     const double single = median(singleTimes);
     out << count << " files of " << qSetRealNumberPrecision(2) << megabytes << " MB, " << rounds
         << " rounds\n"
-        << qSetRealNumberPrecision(0) << "median ExifBackgroundRunner save:      " << ours
+        << qSetRealNumberPrecision(0) << "median WriteQueue save:      " << ours
         << " ms\n"
         << "median one batch write:               " << batch << " ms\n"
         << "median one batch write + batch read:  " << pair << " ms\n"

@@ -22,8 +22,8 @@
 #include "catalogue/exiffieldscontroller.h"
 #include "editors/configurationviewcontroller.h"
 #include "editors/texteditor.h"
-#include "engine/exifbackgroundrunner.h"
-#include "engine/exifrunner.h"
+#include "engine/writequeue.h"
+#include "engine/metadatareader.h"
 #include "values/usersettings.h"
 #include "windows/fileinfocell.h"
 
@@ -253,15 +253,15 @@ TextEditor *captionRow(ConfigurationViewController &form)
 class WaitingListener final : public QObject
 {
 public:
-    void listen(ExifBackgroundRunner &runner)
+    void listen(WriteQueue &runner)
     {
-        connect(&runner, &ExifBackgroundRunner::fileFinished, this,
+        connect(&runner, &WriteQueue::fileFinished, this,
                 [this](const ExifFileInfoPtr &, const ExifOperationStatus &status) {
                     ++processed;
                     if (status.errors())
                         problems += qsizetype(status.errors()->errorsCount());
                 });
-        connect(&runner, &ExifBackgroundRunner::batchFinished, &loop, &QEventLoop::quit);
+        connect(&runner, &WriteQueue::batchFinished, &loop, &QEventLoop::quit);
     }
     QEventLoop loop;
     qsizetype processed = 0;
@@ -314,7 +314,7 @@ int main(int argc, char *argv[])
     double bare = 0;
     if (bareRead) {
         timer.restart();
-        if (!runExifTool(ExifRunner::readCommandArguments(paths))) {
+        if (!runExifTool(MetadataReader::readCommandArguments(paths))) {
             std::printf("the bare read command failed\n");
             return 1;
         }
@@ -330,8 +330,8 @@ int main(int argc, char *argv[])
         for (const QString &path : paths)
             files.append(std::make_shared<ExifFileInfo>(path));
         timer.restart();
-        ExifRunner(exifTool).loadExifInformations(files);
-        std::printf("one ExifRunner read of all files: %.0f ms, ratio %.3f\n",
+        MetadataReader(exifTool).readRecords(files);
+        std::printf("one MetadataReader read of all files: %.0f ms, ratio %.3f\n",
                     timer.nsecsElapsed() / 1e6, timer.nsecsElapsed() / 1e6 / bare);
         std::fflush(stdout);
         // The same chunks as the window's, without the window.
@@ -438,7 +438,7 @@ int main(int argc, char *argv[])
             batch);
         const double batchMs = timer.nsecsElapsed() / 1e6;
         timer.restart();
-        const bool read = runExifTool(ExifRunner::readCommandArguments(batch));
+        const bool read = runExifTool(MetadataReader::readCommandArguments(batch));
         const double batchReadMs = timer.nsecsElapsed() / 1e6;
         if (!wrote || !read) {
             std::printf("the batch write or read failed\n");
@@ -456,11 +456,11 @@ int main(int argc, char *argv[])
         QList<ExifFileInfoPtr> small;
         for (const QString &path : makeCopies(templateBytes, smallFolder, std::min(Small, count)))
             small.append(std::make_shared<ExifFileInfo>(path));
-        ExifRunner(exifTool).loadExifInformations(small);
+        MetadataReader(exifTool).readRecords(small);
         for (const ExifFileInfoPtr &file : std::as_const(small))
             file->setExifValue(QStringLiteral("IPTC:Caption-Abstract"), caption);
 
-        ExifBackgroundRunner runner(nullptr, ExifToolSessionKind::Persistent, exifTool);
+        WriteQueue runner(nullptr, ExifToolSessionKind::Persistent, exifTool);
         WaitingListener listener;
         listener.listen(runner);
         timer.restart();
@@ -491,7 +491,7 @@ int main(int argc, char *argv[])
         ticker.stop();
         peakKiB = std::max(peakKiB, residentKiB());
         const double saved = timer.nsecsElapsed() / 1e6;
-        std::printf("ExifBackgroundRunner save of all files: %.0f ms, %lld told per file, %lld "
+        std::printf("WriteQueue save of all files: %.0f ms, %lld told per file, %lld "
                     "errors\n",
                     saved, static_cast<long long>(listener.processed),
                     static_cast<long long>(listener.problems));

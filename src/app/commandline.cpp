@@ -1,8 +1,8 @@
 #include "app/commandline.h"
 
-#include "catalogue/exifconfiguration.h"
+#include "catalogue/preset.h"
 #include "catalogue/exiffieldscontroller.h"
-#include "catalogue/exifsettings.h"
+#include "catalogue/presetstore.h"
 #include "engine/exiftoolpath.h"
 #include "engine/exiftoolversion.h"
 #include "engine/presetbatch.h"
@@ -59,11 +59,11 @@ int printVersion()
 int applyPreset(const CommandLine &line)
 {
     ExifFieldsController::defaultInstance()->initializeConfigurations();
-    ExifSettings &store = ExifSettings::instance();
+    PresetStore &store = PresetStore::instance();
     store.initializeSettings();
-    ExifConfigurationPtr preset;
+    PresetPtr preset;
     QStringList names;
-    for (const ExifConfigurationPtr &candidate : store.configurations()) {
+    for (const PresetPtr &candidate : store.configurations()) {
         names.append(candidate->name());
         if (candidate->name() == line.presetName)
             preset = candidate;

@@ -4,7 +4,7 @@
 #include "windows/mainwindowcontroller.h"
 #include "windows/mainwindowmenus.h"
 #include "windows/preferenceswindowcontroller.h"
-#include "catalogue/exifsettings.h"
+#include "catalogue/presetstore.h"
 #include "catalogue/exiffieldscontroller.h"
 #include "controls/aperturetheme.h"
 #include "engine/exiftoolversion.h"
@@ -82,7 +82,7 @@ void TagsmithAppDelegate::applicationWillFinishLaunching(const QList<QByteArray>
     m_labelBoldFont = ApertureTheme::labelFont(true);
 
     ExifFieldsController::defaultInstance()->initializeConfigurations();
-    ExifSettings::instance().initializeSettings();
+    PresetStore::instance().initializeSettings();
 
     // Closing the main window ends the program even while the preferences window is open,
     // which is kept out of the count of windows that hold the program open.
@@ -98,7 +98,7 @@ void TagsmithAppDelegate::applicationWillFinishLaunching(const QList<QByteArray>
 
 std::unique_ptr<AppMainWindow> TagsmithAppDelegate::createMainWindow()
 {
-    auto window = std::make_unique<MainWindowController>(nullptr, ExifSettings::instance(), m_debug);
+    auto window = std::make_unique<MainWindowController>(nullptr, PresetStore::instance(), m_debug);
     window->setTerminateReply(
         [this](bool terminate) { replyToApplicationShouldTerminate(terminate); });
     // The application's own commands, in the window's menus.

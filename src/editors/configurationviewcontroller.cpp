@@ -289,7 +289,7 @@ void ConfigurationViewController::layoutForm(const std::optional<QString> &maker
     setFormHeight(top);
 }
 
-void ConfigurationViewController::setExifConfiguration(const ExifConfiguration *configuration)
+void ConfigurationViewController::setExifConfiguration(const Preset *configuration)
 {
     if (!configuration) {
         clearEditors();
@@ -302,7 +302,7 @@ void ConfigurationViewController::setExifConfiguration(const ExifConfiguration *
     }
 }
 
-bool ConfigurationViewController::copyToConfiguration(ExifConfiguration &configuration)
+bool ConfigurationViewController::copyToConfiguration(Preset &configuration)
 {
     bool changed = false;
     for (FieldEditor *editor : std::as_const(m_fields))

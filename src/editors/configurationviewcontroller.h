@@ -13,7 +13,7 @@
 
 class ConfigurationView;
 class EditSession;
-class ExifConfiguration;
+class Preset;
 class ExifFieldsController;
 class FieldEditor;
 class GroupEditor;
@@ -61,8 +61,8 @@ public:
     // The one maker name all files map to, or none for mixed or no files.
     static std::optional<QString> gatherImageMaker(const QList<ExifFileInfoPtr> &files);
 
-    void setExifConfiguration(const ExifConfiguration *configuration);
-    bool copyToConfiguration(ExifConfiguration &configuration);
+    void setExifConfiguration(const Preset *configuration);
+    bool copyToConfiguration(Preset &configuration);
     bool copyToFileInfos(const QList<ExifFileInfoPtr> &files);
 
     // Ends an edit still in progress in a row (typed text not yet confirmed), so it reaches the

@@ -106,11 +106,11 @@ void DateEditor::updateExifFileValue(const ExifFileInfoPtr &)
 }
 
 // Presets edit dates with the offset editor; this row has nothing to keep in one.
-void DateEditor::setExifConfiguration(const ExifConfiguration *)
+void DateEditor::setExifConfiguration(const Preset *)
 {
 }
 
-bool DateEditor::copyToConfiguration(ExifConfiguration &)
+bool DateEditor::copyToConfiguration(Preset &)
 {
     return false;
 }

@@ -33,8 +33,8 @@ public:
     void clearEditor() override;
     void setExifFiles(const QList<ExifFileInfoPtr> &files) override;
     void updateExifFileValue(const ExifFileInfoPtr &file) override;
-    void setExifConfiguration(const ExifConfiguration *configuration) override;
-    bool copyToConfiguration(ExifConfiguration &configuration) override;
+    void setExifConfiguration(const Preset *configuration) override;
+    bool copyToConfiguration(Preset &configuration) override;
     int createEditorContent(QWidget *parent, QRect frame) override;
     int hideEditor(int top) override;
     void focusControl() override;

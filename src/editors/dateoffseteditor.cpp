@@ -1,6 +1,6 @@
 #include "editors/dateoffseteditor.h"
 
-#include "catalogue/exifconfiguration.h"
+#include "catalogue/preset.h"
 
 DateOffsetEditor::DateOffsetEditor(ExifFieldPtr field, QObject *parent)
     : FieldEditor(std::move(field), parent)
@@ -47,7 +47,7 @@ void DateOffsetEditor::showZeroShift()
     m_editor->setPlusMinus(true);
 }
 
-void DateOffsetEditor::setExifConfiguration(const ExifConfiguration *configuration)
+void DateOffsetEditor::setExifConfiguration(const Preset *configuration)
 {
     setEnabled(true);
     const QString &key = field()->xmlName();
@@ -69,7 +69,7 @@ void DateOffsetEditor::controlDateOffsetDidChange()
     setRemoveButtonChecked(true);
 }
 
-bool DateOffsetEditor::copyToConfiguration(ExifConfiguration &configuration)
+bool DateOffsetEditor::copyToConfiguration(Preset &configuration)
 {
     const QString &key = field()->xmlName();
     if (!isRemoveButtonChecked()) {

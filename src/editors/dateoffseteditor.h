@@ -20,8 +20,8 @@ public:
     DateOffsetField *editor() const { return m_editor; }
 
     void clearEditor() override;
-    void setExifConfiguration(const ExifConfiguration *configuration) override;
-    bool copyToConfiguration(ExifConfiguration &configuration) override;
+    void setExifConfiguration(const Preset *configuration) override;
+    bool copyToConfiguration(Preset &configuration) override;
     void setEnabled(bool enabled) override;
     int createEditorContent(QWidget *parent, QRect frame) override;
     void focusControl() override;

@@ -2,7 +2,7 @@
 
 #include "engine/editsession.h"
 
-#include "catalogue/exifconfiguration.h"
+#include "catalogue/preset.h"
 #include "catalogue/stringtables.h"
 #include "controls/aperturetheme.h"
 #include "values/tagsmithexception.h"
@@ -189,7 +189,7 @@ void EnumEditor::receiveFilesUpdateNotification(const ExifFilesUpdate &update)
     doSetValues(gatherExifFilesValues(exifFiles()));
 }
 
-void EnumEditor::setExifConfiguration(const ExifConfiguration *configuration)
+void EnumEditor::setExifConfiguration(const Preset *configuration)
 {
     setEnabled(true);
     if (!configuration || !m_popupButton) {
@@ -217,7 +217,7 @@ void EnumEditor::setExifConfiguration(const ExifConfiguration *configuration)
     }
 }
 
-bool EnumEditor::copyToConfiguration(ExifConfiguration &configuration)
+bool EnumEditor::copyToConfiguration(Preset &configuration)
 {
     const QString &key = field()->xmlName();
     const int tag = selectedTag();

@@ -1,6 +1,6 @@
 #include "editors/fieldeditor.h"
 
-#include "catalogue/exifconfiguration.h"
+#include "catalogue/preset.h"
 #include "catalogue/stringtables.h"
 #include "controls/aperturetheme.h"
 #include "engine/editsession.h"
@@ -282,7 +282,7 @@ void FieldEditor::updateRemovalHint()
     bool removes = false;
     if (isRemoveButtonChecked()) {
         // What the row would store is the one answer every kind of row gives alike.
-        ExifConfiguration scratch;
+        Preset scratch;
         copyToConfiguration(scratch);
         removes = scratch.removedValues().contains(m_field->xmlName());
     }
@@ -420,12 +420,12 @@ void FieldEditor::setEnabled(bool enabled)
         m_removeButton->setEnabled(enabled);
 }
 
-void FieldEditor::setExifConfiguration(const ExifConfiguration *)
+void FieldEditor::setExifConfiguration(const Preset *)
 {
     throw TagsmithException(u"Not implemented"_qs, u"Not implemented"_qs);
 }
 
-bool FieldEditor::copyToConfiguration(ExifConfiguration &)
+bool FieldEditor::copyToConfiguration(Preset &)
 {
     return false;
 }

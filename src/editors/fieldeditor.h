@@ -17,7 +17,7 @@
 #include <functional>
 
 class EditSession;
-class ExifConfiguration;
+class Preset;
 struct ExifFilesUpdate;
 class QCheckBox;
 class QLabel;
@@ -116,9 +116,9 @@ public:
 
     virtual void clearEditor();
     virtual void setEnabled(bool enabled);
-    virtual void setExifConfiguration(const ExifConfiguration *configuration);
+    virtual void setExifConfiguration(const Preset *configuration);
     // True when anything was written into the preset.
-    virtual bool copyToConfiguration(ExifConfiguration &configuration);
+    virtual bool copyToConfiguration(Preset &configuration);
     // Writes the row's value into every file; true when any file now differs from its original.
     virtual bool copyToExifFiles(const QList<ExifFileInfoPtr> &files);
     virtual void updateExifFileValue(const ExifFileInfoPtr &file);

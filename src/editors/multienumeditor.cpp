@@ -1,6 +1,6 @@
 #include "editors/multienumeditor.h"
 
-#include "catalogue/exifconfiguration.h"
+#include "catalogue/preset.h"
 #include "controls/aperturetheme.h"
 #include "values/logging.h"
 #include "values/taglist.h"
@@ -171,7 +171,7 @@ void MultiEnumEditor::setEnabled(bool enabled)
         box->setEnabled(enabled);
 }
 
-void MultiEnumEditor::setExifConfiguration(const ExifConfiguration *configuration)
+void MultiEnumEditor::setExifConfiguration(const Preset *configuration)
 {
     setEnabled(true);
     if (!configuration) {
@@ -192,7 +192,7 @@ void MultiEnumEditor::setExifConfiguration(const ExifConfiguration *configuratio
     setRemoveButtonChecked(removed || it != configuration->changedValues().cend());
 }
 
-bool MultiEnumEditor::copyToConfiguration(ExifConfiguration &configuration)
+bool MultiEnumEditor::copyToConfiguration(Preset &configuration)
 {
     const QString &key = field()->xmlName();
     if (removeButtonState() != Qt::Checked) {

@@ -86,7 +86,7 @@ void ReadonlyEditor::setExifFiles(const QList<ExifFileInfoPtr> &files)
         m_editor->setText(values.isEmpty() ? QString() : displayText(*values.cbegin()));
 }
 
-void ReadonlyEditor::setExifConfiguration(const ExifConfiguration *)
+void ReadonlyEditor::setExifConfiguration(const Preset *)
 {
     // A preset cannot write this field: the row stays empty.
     clearEditor();

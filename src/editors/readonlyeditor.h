@@ -23,7 +23,7 @@ public:
     bool isModified() const override;
     void clearEditor() override;
     void setExifFiles(const QList<ExifFileInfoPtr> &files) override;
-    void setExifConfiguration(const ExifConfiguration *configuration) override;
+    void setExifConfiguration(const Preset *configuration) override;
     int createEditorContent(QWidget *parent, QRect frame) override;
 
     // A number field's value in the user's locale with the field's decimals; other text as is.

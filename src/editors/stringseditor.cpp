@@ -1,6 +1,6 @@
 #include "editors/stringseditor.h"
 
-#include "catalogue/exifconfiguration.h"
+#include "catalogue/preset.h"
 #include "controls/aperturetheme.h"
 #include "controls/tokenfield.h"
 #include "values/taglist.h"
@@ -188,7 +188,7 @@ bool StringsEditor::eventFilter(QObject *watched, QEvent *event)
     return FieldEditor::eventFilter(watched, event);
 }
 
-void StringsEditor::setExifConfiguration(const ExifConfiguration *configuration)
+void StringsEditor::setExifConfiguration(const Preset *configuration)
 {
     setEnabled(true);
     if (!configuration || !m_editor) {
@@ -210,7 +210,7 @@ void StringsEditor::setExifConfiguration(const ExifConfiguration *configuration)
     setRemoveButtonChecked(has);
 }
 
-bool StringsEditor::copyToConfiguration(ExifConfiguration &configuration)
+bool StringsEditor::copyToConfiguration(Preset &configuration)
 {
     const QString &key = field()->xmlName();
     const QString text = m_editor ? m_editor->text().trimmed() : QString();

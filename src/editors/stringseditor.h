@@ -29,8 +29,8 @@ public:
     void clearEditor() override;
     void setExifFiles(const QList<ExifFileInfoPtr> &files) override;
     void updateExifFileValue(const ExifFileInfoPtr &file) override;
-    void setExifConfiguration(const ExifConfiguration *configuration) override;
-    bool copyToConfiguration(ExifConfiguration &configuration) override;
+    void setExifConfiguration(const Preset *configuration) override;
+    bool copyToConfiguration(Preset &configuration) override;
     void setEnabled(bool enabled) override;
     int createEditorContent(QWidget *parent, QRect frame) override;
     int showEditor(int top) override;

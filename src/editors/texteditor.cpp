@@ -2,7 +2,7 @@
 
 #include "engine/editsession.h"
 
-#include "catalogue/exifconfiguration.h"
+#include "catalogue/preset.h"
 #include "catalogue/stringtables.h"
 #include "controls/aperturetheme.h"
 #include "controls/attachedwindow.h"
@@ -336,7 +336,7 @@ void TextEditor::receiveFilesUpdateNotification(const ExifFilesUpdate &update)
     updateModifiedLabel();
 }
 
-void TextEditor::setExifConfiguration(const ExifConfiguration *configuration)
+void TextEditor::setExifConfiguration(const Preset *configuration)
 {
     setEnabled(true);
     if (m_editor)
@@ -361,7 +361,7 @@ void TextEditor::setExifConfiguration(const ExifConfiguration *configuration)
     }
 }
 
-bool TextEditor::copyToConfiguration(ExifConfiguration &configuration)
+bool TextEditor::copyToConfiguration(Preset &configuration)
 {
     const QString &key = field()->xmlName();
     const Qt::CheckState state = removeButtonState();

@@ -31,8 +31,8 @@ public:
     int hideEditor(int top) override;
     void setExifFiles(const QList<ExifFileInfoPtr> &files) override;
     void updateExifFileValue(const ExifFileInfoPtr &file) override;
-    void setExifConfiguration(const ExifConfiguration *configuration) override;
-    bool copyToConfiguration(ExifConfiguration &configuration) override;
+    void setExifConfiguration(const Preset *configuration) override;
+    bool copyToConfiguration(Preset &configuration) override;
     void setEnabled(bool enabled) override;
     int createEditorContent(QWidget *parent, QRect frame) override;
     // Writes, relabels and announces only after the user typed: an untouched row writes nothing.

@@ -2,7 +2,7 @@
 
 ExifRunnerRemoveExifGroupsOperation::ExifRunnerRemoveExifGroupsOperation(
     ExifFileInfoPtr efi, ExifOperationOption options)
-    : ExifRunnerFileModifiyOperation(std::move(efi), options)
+    : FileRewriteOperation(std::move(efi), options)
 {
 }
 

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "engine/exifrunnerfilemodifiyoperation.h"
+#include "engine/filerewriteoperation.h"
 
 #include <QStringList>
 
 // Removes the maker notes, with the camera make and model, from a file.
-class ExifRunnerRemoveExifGroupsOperation : public ExifRunnerFileModifiyOperation
+class ExifRunnerRemoveExifGroupsOperation : public FileRewriteOperation
 {
 public:
     ExifRunnerRemoveExifGroupsOperation(ExifFileInfoPtr efi, ExifOperationOption options);

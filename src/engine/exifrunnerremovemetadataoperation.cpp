@@ -61,7 +61,7 @@ bool isKeptKey(const QString &key)
 
 ExifRunnerRemoveMetadataOperation::ExifRunnerRemoveMetadataOperation(ExifFileInfoPtr efi,
                                                                      ExifOperationOption options)
-    : ExifRunnerFileModifiyOperation(std::move(efi), options)
+    : FileRewriteOperation(std::move(efi), options)
 {
 }
 

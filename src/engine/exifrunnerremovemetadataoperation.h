@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/exifrunnerfilemodifiyoperation.h"
+#include "engine/filerewriteoperation.h"
 
 #include <QSet>
 #include <QString>
@@ -10,7 +10,7 @@
 // PNG, GIF, WebP, HEIF, AVIF, JPEG XL); a raw file, which needs its tags to be read at all, is
 // left alone and reported. The file as it was is kept beside it until its next save, so Revert
 // Last Save can put it back byte for byte.
-class ExifRunnerRemoveMetadataOperation : public ExifRunnerFileModifiyOperation
+class ExifRunnerRemoveMetadataOperation : public FileRewriteOperation
 {
 public:
     ExifRunnerRemoveMetadataOperation(ExifFileInfoPtr efi, ExifOperationOption options);

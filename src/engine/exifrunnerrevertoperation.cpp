@@ -32,7 +32,7 @@ ExifRunnerRevertOperation::create(ExifFileInfoPtr efi, ExifOperationOption optio
 
 ExifRunnerRevertOperation::ExifRunnerRevertOperation(ExifFileInfoPtr efi,
                                                      ExifOperationOption options, RevertEntry entry)
-    : ExifRunnerFileModifiyOperation(std::move(efi), options)
+    : FileRewriteOperation(std::move(efi), options)
     , m_entry(std::move(entry))
 {
 }
@@ -140,7 +140,7 @@ void ExifRunnerRevertOperation::postProcessInMainThread()
         for (const QString &key : m_entry.absent)
             adopt(key);
     }
-    ExifRunnerFileModifiyOperation::postProcessInMainThread();
+    FileRewriteOperation::postProcessInMainThread();
 }
 
 void ExifRunnerRevertOperation::verifyWrittenValues(const TagDictionary &written,
@@ -168,7 +168,7 @@ std::optional<QDateTime> ExifRunnerRevertOperation::findDateForFile(const QStrin
         return std::nullopt;
     const auto previous = m_entry.previous.constFind(key);
     if (previous == m_entry.previous.constEnd())
-        return ExifRunnerFileModifiyOperation::findDateForFile(key);
+        return FileRewriteOperation::findDateForFile(key);
     const auto components = parseDateTimeValue(previous.value().toString());
     if (!components)
         return std::nullopt;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/exifrunnerfilemodifiyoperation.h"
+#include "engine/filerewriteoperation.h"
 #include "engine/revertrecord.h"
 
 #include <memory>
@@ -8,7 +8,7 @@
 // Writes back what a file held before its last save, through the same road as the save, or puts
 // back the whole file that a removal of all metadata kept, and then forgets the record. A file
 // changed on disk since that save is left alone.
-class ExifRunnerRevertOperation : public ExifRunnerFileModifiyOperation
+class ExifRunnerRevertOperation : public FileRewriteOperation
 {
 public:
     // Null when the file has no record.

@@ -2,7 +2,7 @@
 
 #include "catalogue/exiffield.h"
 #include "catalogue/exiffieldscontroller.h"
-#include "engine/exifrunner.h"
+#include "engine/metadatareader.h"
 #include "engine/exifutil.h"
 #include "engine/revertrecord.h"
 #include "values/cameramakers.h"
@@ -94,7 +94,7 @@ ExifRunnerSaveOperation::create(ExifFileInfoPtr efi, ExifOperationOption options
 }
 
 ExifRunnerSaveOperation::ExifRunnerSaveOperation(ExifFileInfoPtr efi, ExifOperationOption options)
-    : ExifRunnerFileModifiyOperation(std::move(efi), options)
+    : FileRewriteOperation(std::move(efi), options)
 {
     m_itemsToRemove = gatherFieldsToRemove();
     m_itemsToChange = ExifUtil::changedFieldsDictionary(*this->efi());
@@ -146,7 +146,7 @@ void ExifRunnerSaveOperation::run()
 
 void ExifRunnerSaveOperation::postProcessInMainThread()
 {
-    ExifRunnerFileModifiyOperation::postProcessInMainThread();
+    FileRewriteOperation::postProcessInMainThread();
     const std::optional<TagDictionary> data = oldData();
     if (!reReads() || !data)
         return;

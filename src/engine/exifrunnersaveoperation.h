@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/exifrunnerfilemodifiyoperation.h"
+#include "engine/filerewriteoperation.h"
 
 #include <QSet>
 #include <QString>
@@ -12,7 +12,7 @@
 class ExifField;
 
 // Writes one file's pending edits with a single ExifTool run.
-class ExifRunnerSaveOperation : public ExifRunnerFileModifiyOperation
+class ExifRunnerSaveOperation : public FileRewriteOperation
 {
 public:
     // Null for a file without edits: such a file gets no operation.

@@ -4,7 +4,7 @@
 
 #include "engine/errormessages.h"
 #include "engine/exifreportparser.h"
-#include "engine/exifrunner.h"
+#include "engine/metadatareader.h"
 #include "engine/exiftoolsession.h"
 #include "engine/filereplacement.h"
 #include "engine/xmpsidecar.h"
@@ -103,14 +103,14 @@ void ExifRunnerSaveOperation::writeSidecar(ErrorMessages &errors, WriteResult &r
         sidecar = readSidecar(onDisk, errors);
     if (sidecar)
         result.reRead =
-            ExifRunner::withSidecarValues(*result.reRead, XmpSidecar::xmpPart(*sidecar));
+            MetadataReader::withSidecarValues(*result.reRead, XmpSidecar::xmpPart(*sidecar));
 }
 
 std::optional<TagDictionary> ExifRunnerSaveOperation::readSidecar(const QString &path,
                                                                   ErrorMessages &errors)
 {
     const ExifToolResult run =
-        exifToolSession().execute(ExifRunner::readCommandArguments({path}), commandTimeout());
+        exifToolSession().execute(MetadataReader::readCommandArguments({path}), commandTimeout());
     const QHash<QString, TagDictionary> records = ExifReportParser::parse(run.standardOutput);
     TagDictionary values = records.value(path);
     if (values.isEmpty() && records.size() == 1)
@@ -119,7 +119,7 @@ std::optional<TagDictionary> ExifRunnerSaveOperation::readSidecar(const QString 
         errors.addError(tr("The sidecar “%1” could not be read back as XMP.").arg(path));
         return std::nullopt;
     }
-    ExifRunner formatter(exifToolSession().program());
+    MetadataReader formatter(exifToolSession().program());
     return formatter.preformatValues(values);
 }
 

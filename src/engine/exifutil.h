@@ -23,7 +23,7 @@ public:
     // Stops at the first modified file.
     static bool exifFilesInArrayModified(const QList<ExifFileInfoPtr> &files);
     // The dirty question over many files, under the name the main window knows it by.
-    static bool hasDiretyFiles(const QList<ExifFileInfoPtr> &files)
+    static bool hasModifiedFiles(const QList<ExifFileInfoPtr> &files)
     {
         return exifFilesInArrayModified(files);
     }

@@ -1,6 +1,6 @@
 #include "engine/fileadmission.h"
 
-#include "engine/exifrunner.h"
+#include "engine/metadatareader.h"
 #include "engine/fileidentity.h"
 #include "engine/filekey.h"
 #include "engine/filereplacement.h"
@@ -287,7 +287,7 @@ QString FileAdmission::reasonText(const FileRejection &rejection)
     case FileRejection::Reason::TimedOut:
         return QCoreApplication::translate("Localizable",
                                            "reading it took longer than %n second(s)", nullptr,
-                                           ExifRunner::readTimeout() / 1000);
+                                           MetadataReader::readTimeout() / 1000);
     }
     return {};
 }

@@ -88,10 +88,10 @@ void FileReadQueue::startChunk()
     m_watcher.setFuture(promise->future());
     promise->start();
     QThreadPool::globalInstance()->start([promise, chunk, progress = &m_chunkProgress] {
-        ExifRunner runner;
+        MetadataReader runner;
         runner.setRecordsReadHandler(
             [progress](qsizetype records) { progress->storeRelaxed(qint32(records)); });
-        promise->addResult(runner.loadExifInformations(chunk));
+        promise->addResult(runner.readRecords(chunk));
         promise->finish();
     });
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "engine/exiffileinfo.h"
-#include "engine/exifrunner.h"
+#include "engine/metadatareader.h"
 #include "engine/fileadmission.h"
 
 #include <QAtomicInteger>

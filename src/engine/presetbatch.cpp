@@ -1,9 +1,9 @@
 #include "engine/presetbatch.h"
 
-#include "catalogue/exifconfiguration.h"
+#include "catalogue/preset.h"
 #include "engine/errormessages.h"
-#include "engine/exifbackgroundrunner.h"
-#include "engine/exifrunner.h"
+#include "engine/writequeue.h"
+#include "engine/metadatareader.h"
 #include "engine/exifutil.h"
 #include "engine/fileadmission.h"
 #include "values/trcontext.h"
@@ -26,7 +26,7 @@ QStringList messagesOfType(const ErrorMessages &messages, qint32 type)
 
 } // namespace
 
-void applyPreset(const ExifConfiguration &preset, ExifFileInfo &file)
+void applyPreset(const Preset &preset, ExifFileInfo &file)
 {
     for (auto it = preset.changedValues().cbegin(); it != preset.changedValues().cend(); ++it)
         file.setExifValue(it.key(), it.value());
@@ -34,7 +34,7 @@ void applyPreset(const ExifConfiguration &preset, ExifFileInfo &file)
         file.removeExifValue(key);
 }
 
-QList<PresetBatch::FileResult> PresetBatch::run(const ExifConfiguration &preset,
+QList<PresetBatch::FileResult> PresetBatch::run(const Preset &preset,
                                                 const QStringList &paths)
 {
     QList<FileResult> results;
@@ -50,8 +50,8 @@ QList<PresetBatch::FileResult> PresetBatch::run(const ExifConfiguration &preset,
     QList<ExifFileInfoPtr> files;
     for (const QString &path : admitted.accepted)
         files.append(std::make_shared<ExifFileInfo>(path));
-    ExifRunner reader;
-    const ExifReadResult read = reader.loadExifInformations(files);
+    MetadataReader reader;
+    const ExifReadResult read = reader.readRecords(files);
 
     QList<ExifFileInfoPtr> toSave;
     for (const ExifFileInfoPtr &file : std::as_const(files)) {
@@ -71,10 +71,10 @@ QList<PresetBatch::FileResult> PresetBatch::run(const ExifConfiguration &preset,
     }
 
     if (!toSave.isEmpty()) {
-        ExifBackgroundRunner runner;
+        WriteQueue runner;
         QEventLoop loop;
         QHash<QString, ErrorMessagesPtr> saved;
-        QObject::connect(&runner, &ExifBackgroundRunner::batchFinished, &loop,
+        QObject::connect(&runner, &WriteQueue::batchFinished, &loop,
                          [&](const QHash<QString, ErrorMessagesPtr> &results) {
                              saved = results;
                              loop.quit();

@@ -6,11 +6,11 @@
 #include <QString>
 #include <QStringList>
 
-class ExifConfiguration;
+class Preset;
 
 // Sets a preset's values in a file's current values and removes the tags it removes; nothing is
 // written until the file is saved.
-void applyPreset(const ExifConfiguration &preset, ExifFileInfo &file);
+void applyPreset(const Preset &preset, ExifFileInfo &file);
 
 // Applies a preset to files without a window (the command line's --apply-preset): admits the
 // paths as the window would, reads them, applies the preset and saves the files it changes
@@ -27,7 +27,7 @@ public:
         QStringList messages;
     };
 
-    static QList<FileResult> run(const ExifConfiguration &preset, const QStringList &paths);
+    static QList<FileResult> run(const Preset &preset, const QStringList &paths);
     // "PATH: saved", "PATH: unchanged", or "PATH: " and what went wrong.
     static QString describe(const FileResult &result);
 };

@@ -14,7 +14,7 @@
 #include <QPushButton>
 
 AuxiliaryWindows::AuxiliaryWindows(MainWindow *window, MainWindowMenus *menus,
-                                   FileListPresenter *list, ExifSettings &store,
+                                   FileListPresenter *list, PresetStore &store,
                                    EditSession &session, QObject *parent)
     : QObject(parent)
     , m_window(window)

@@ -8,7 +8,7 @@
 #include <QPointer>
 
 class EditSession;
-class ExifSettings;
+class PresetStore;
 class FileListPresenter;
 class MainWindow;
 class MainWindowMenus;
@@ -26,7 +26,7 @@ class AuxiliaryWindows : public QObject
 
 public:
     AuxiliaryWindows(MainWindow *window, MainWindowMenus *menus, FileListPresenter *list,
-                     ExifSettings &store, EditSession &session, QObject *parent);
+                     PresetStore &store, EditSession &session, QObject *parent);
 
     void showConfigurations();
     void showMap();
@@ -50,7 +50,7 @@ private:
     MainWindow *m_window;
     MainWindowMenus *m_menus;
     FileListPresenter *m_list;
-    ExifSettings &m_store;
+    PresetStore &m_store;
     EditSession &m_session;
     bool m_saving = false;
     QPointer<MapWindowController> m_map;

@@ -4,7 +4,7 @@
 #include "windows/mainwindow.h"
 #include "windows/mainwindowmenus.h"
 #include "windows/windowsheets.h"
-#include "engine/exifbackgroundrunner.h"
+#include "engine/writequeue.h"
 #include "engine/exifrunnerremovemetadataoperation.h"
 #include "engine/exifrunnerrevertoperation.h"
 #include "engine/revertrecord.h"
@@ -23,7 +23,7 @@ const QString MimeTypeKey = QStringLiteral("File:MIMEType");
 } // namespace
 
 FileOperations::FileOperations(MainWindow *window, MainWindowMenus *menus,
-                               FileListPresenter *list, ExifBackgroundRunner &runner,
+                               FileListPresenter *list, WriteQueue &runner,
                                QObject *parent)
     : QObject(parent)
     , m_window(window)
@@ -38,11 +38,11 @@ FileOperations::FileOperations(MainWindow *window, MainWindowMenus *menus,
     m_menus->onTriggered(C::RevertLastSave, this, &FileOperations::revertLastSave);
     connect(m_window->processButton(), &QPushButton::clicked, this,
             &FileOperations::processFiles);
-    connect(&m_runner, &ExifBackgroundRunner::fileStarted, this,
+    connect(&m_runner, &WriteQueue::fileStarted, this,
             &FileOperations::handleFileStarted);
-    connect(&m_runner, &ExifBackgroundRunner::fileFinished, this,
+    connect(&m_runner, &WriteQueue::fileFinished, this,
             &FileOperations::handleFileFinished);
-    connect(&m_runner, &ExifBackgroundRunner::batchFinished, this,
+    connect(&m_runner, &WriteQueue::batchFinished, this,
             &FileOperations::handleBatchFinished);
 }
 

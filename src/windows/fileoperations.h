@@ -9,7 +9,7 @@
 
 #include <functional>
 
-class ExifBackgroundRunner;
+class WriteQueue;
 class FileListPresenter;
 class MainWindow;
 class MainWindowMenus;
@@ -23,7 +23,7 @@ class FileOperations : public QObject
 
 public:
     FileOperations(MainWindow *window, MainWindowMenus *menus, FileListPresenter *list,
-                   ExifBackgroundRunner &runner, QObject *parent);
+                   WriteQueue &runner, QObject *parent);
 
     bool isSaving() const { return m_saving; }
     ProgressPanel *progressPanel() const;
@@ -53,7 +53,7 @@ private:
     MainWindow *m_window;
     MainWindowMenus *m_menus;
     FileListPresenter *m_list;
-    ExifBackgroundRunner &m_runner;
+    WriteQueue &m_runner;
     QPointer<ProgressPanel> m_progressPanel;
     bool m_saving = false;
 };

@@ -11,7 +11,7 @@
 #include "windows/windowsheets.h"
 #include "editors/configurationviewcontroller.h"
 #include "engine/editsession.h"
-#include "engine/exifbackgroundrunner.h"
+#include "engine/writequeue.h"
 #include "engine/exifutil.h"
 
 #include <QAction>
@@ -23,17 +23,17 @@
 
 #include <algorithm>
 
-MainWindowController::MainWindowController(std::unique_ptr<ExifBackgroundRunner> runner,
-                                           ExifSettings &store, bool debug)
+MainWindowController::MainWindowController(std::unique_ptr<WriteQueue> runner,
+                                           PresetStore &store, bool debug)
     : m_debug(debug)
-    , m_runner(runner ? std::move(runner) : std::make_unique<ExifBackgroundRunner>())
+    , m_runner(runner ? std::move(runner) : std::make_unique<WriteQueue>())
 {
     buildParts(store);
 }
 
 MainWindowController::~MainWindowController() = default;
 
-void MainWindowController::buildParts(ExifSettings &store)
+void MainWindowController::buildParts(PresetStore &store)
 {
     m_window = std::make_unique<MainWindow>(m_debug);
     m_window->setCloseHandler([this] { return windowShouldClose(); });
@@ -86,7 +86,7 @@ QWidget *MainWindowController::window()
 
 bool MainWindowController::hasModifiedFiles() const
 {
-    return ExifUtil::hasDiretyFiles(m_list->files());
+    return ExifUtil::hasModifiedFiles(m_list->files());
 }
 
 bool MainWindowController::openFile(const QString &path)

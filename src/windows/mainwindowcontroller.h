@@ -1,9 +1,9 @@
 #pragma once
 
 #include "windows/appmainwindow.h"
-#include "catalogue/exifsettings.h"
+#include "catalogue/presetstore.h"
 #include "engine/closeflow.h"
-#include "engine/exifbackgroundrunner.h"
+#include "engine/writequeue.h"
 #include "engine/exifoperationstatus.h"
 
 #include <QHash>
@@ -32,8 +32,8 @@ class MainWindowController : public AppMainWindow
 
 public:
     // A null runner makes the real one; tests pass a stand-in.
-    explicit MainWindowController(std::unique_ptr<ExifBackgroundRunner> runner = nullptr,
-                                  ExifSettings &store = ExifSettings::instance(),
+    explicit MainWindowController(std::unique_ptr<WriteQueue> runner = nullptr,
+                                  PresetStore &store = PresetStore::instance(),
                                   bool debug = false);
     ~MainWindowController() override;
 
@@ -62,7 +62,7 @@ public:
     void updateWindowModified();
 
 private:
-    void buildParts(ExifSettings &store);
+    void buildParts(PresetStore &store);
     bool windowShouldClose();
     void askToSave();
     // Does what the close flow decided; true when the window may close now.
@@ -74,7 +74,7 @@ private:
     void reply(bool terminate);
 
     bool m_debug;
-    std::unique_ptr<ExifBackgroundRunner> m_runner;
+    std::unique_ptr<WriteQueue> m_runner;
     EditSession *m_session = nullptr;
     std::unique_ptr<MainWindow> m_window;
     MainWindowMenus *m_menus = nullptr;

@@ -1,6 +1,6 @@
 #include "windows/presetslistmodel.h"
 
-#include "catalogue/exifsettings.h"
+#include "catalogue/presetstore.h"
 
 namespace {
 
@@ -26,7 +26,7 @@ qsizetype runEnd(QStringView text, qsizetype start, bool digits)
 
 } // namespace
 
-PresetsListModel::PresetsListModel(ExifSettings &store, QObject *parent)
+PresetsListModel::PresetsListModel(PresetStore &store, QObject *parent)
     : QAbstractListModel(parent)
     , m_store(store)
 {
@@ -50,7 +50,7 @@ QVariant PresetsListModel::data(const QModelIndex &index, int role) const
         (role != Qt::DisplayRole && role != Qt::EditRole)) {
         return {};
     }
-    const ExifConfigurationPtr preset = m_store.loadConfiguration(m_configNames.at(index.row()));
+    const PresetPtr preset = m_store.loadConfiguration(m_configNames.at(index.row()));
     return preset ? preset->name() : QString();
 }
 

@@ -5,7 +5,7 @@
 
 #include <functional>
 
-class ExifSettings;
+class PresetStore;
 
 // The presets as one column of names, rows in configNames order. Renaming in place goes back to
 // the window, which saves and re-sorts.
@@ -14,7 +14,7 @@ class PresetsListModel : public QAbstractListModel
 public:
     using RenameHandler = std::function<void(const QString &identifier, const QString &name)>;
 
-    PresetsListModel(ExifSettings &store, QObject *parent = nullptr);
+    PresetsListModel(PresetStore &store, QObject *parent = nullptr);
 
     void setRenameHandler(RenameHandler handler) { m_renameHandler = std::move(handler); }
     void setConfigNames(const QStringList &identifiers);
@@ -29,7 +29,7 @@ public:
     static bool nameLess(const QString &a, const QString &b);
 
 private:
-    ExifSettings &m_store;
+    PresetStore &m_store;
     QStringList m_configNames;
     RenameHandler m_renameHandler;
 };

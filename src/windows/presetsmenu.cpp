@@ -10,7 +10,7 @@
 
 #include <algorithm>
 
-PresetsMenu::PresetsMenu(MainWindowMenus *menus, FileListPresenter *list, ExifSettings &store,
+PresetsMenu::PresetsMenu(MainWindowMenus *menus, FileListPresenter *list, PresetStore &store,
                          QObject *parent)
     : QObject(parent)
     , m_menus(menus)
@@ -36,9 +36,9 @@ void PresetsMenu::updateConfigurations()
         }
     }
     m_configIds.clear();
-    QList<ExifConfigurationPtr> presets = m_store.configurations().values();
+    QList<PresetPtr> presets = m_store.configurations().values();
     std::stable_sort(presets.begin(), presets.end(),
-                     [](const ExifConfigurationPtr &a, const ExifConfigurationPtr &b) {
+                     [](const PresetPtr &a, const PresetPtr &b) {
                          return a->name() > b->name();
                      });
     // Each goes in at position 1, so the menu ends up in ascending order.
@@ -56,11 +56,11 @@ void PresetsMenu::handleConfigurationClick(int tag)
 {
     if (tag < 0 || tag >= m_configIds.size())
         return;
-    if (const ExifConfigurationPtr preset = m_store.loadConfiguration(m_configIds.at(tag)))
+    if (const PresetPtr preset = m_store.loadConfiguration(m_configIds.at(tag)))
         applyConfiguration(*preset);
 }
 
-void PresetsMenu::applyConfiguration(const ExifConfiguration &configuration)
+void PresetsMenu::applyConfiguration(const Preset &configuration)
 {
     m_list->commitPendingInput();
     for (const ExifFileInfoPtr &file : m_list->currentFiles())

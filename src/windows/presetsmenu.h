@@ -1,7 +1,7 @@
 #pragma once
 
 #include "windows/commandstate.h"
-#include "catalogue/exifsettings.h"
+#include "catalogue/presetstore.h"
 
 #include <QObject>
 #include <QStringList>
@@ -16,12 +16,12 @@ class PresetsMenu : public QObject
     Q_OBJECT
 
 public:
-    PresetsMenu(MainWindowMenus *menus, FileListPresenter *list, ExifSettings &store,
+    PresetsMenu(MainWindowMenus *menus, FileListPresenter *list, PresetStore &store,
                 QObject *parent);
     void updateConfigurations();
     const QStringList &configIds() const { return m_configIds; }
     void handleConfigurationClick(int tag);
-    void applyConfiguration(const ExifConfiguration &configuration);
+    void applyConfiguration(const Preset &configuration);
     void updateEnablement(const CommandState &state);
 
 Q_SIGNALS:
@@ -31,6 +31,6 @@ Q_SIGNALS:
 private:
     MainWindowMenus *m_menus;
     FileListPresenter *m_list;
-    ExifSettings &m_store;
+    PresetStore &m_store;
     QStringList m_configIds;
 };

@@ -35,7 +35,7 @@ QToolButton *segmentButton(const QString &text, QWidget *parent)
 
 } // namespace
 
-PresetsWindowController::PresetsWindowController(QWidget *parent, ExifSettings &store)
+PresetsWindowController::PresetsWindowController(QWidget *parent, PresetStore &store)
     : QWidget(parent, Qt::Window)
     , m_store(store)
 {
@@ -117,7 +117,7 @@ void PresetsWindowController::showWindow()
     activateWindow();
 }
 
-QString PresetsWindowController::menuTitle(const ExifConfiguration &preset)
+QString PresetsWindowController::menuTitle(const Preset &preset)
 {
     const int removals = int(preset.removedValues().size());
     if (removals == 0)
@@ -158,7 +158,7 @@ void PresetsWindowController::reloadConfigurations()
     const QString selected = selectedIdentifier();
     QStringList names = m_store.configurations().keys();
     const auto nameOf = [this](const QString &identifier) {
-        const ExifConfigurationPtr preset = m_store.loadConfiguration(identifier);
+        const PresetPtr preset = m_store.loadConfiguration(identifier);
         return preset ? preset->name() : QString();
     };
     std::stable_sort(names.begin(), names.end(), [&nameOf](const QString &a, const QString &b) {
@@ -194,7 +194,7 @@ void PresetsWindowController::addRemoveConfigurationPressed(int segment)
 
 void PresetsWindowController::addConfiguration()
 {
-    auto preset = std::make_shared<ExifConfiguration>(
+    auto preset = std::make_shared<Preset>(
         m_store.findUnusedNewIdentifier(),
         StringTables::instance().localizedString(u"New Configuration"_qs));
     m_store.saveConfiguration(preset);
@@ -237,7 +237,7 @@ void PresetsWindowController::editName(const QString &identifier, bool selectTex
 
 void PresetsWindowController::renameInPlace(const QString &identifier, const QString &name)
 {
-    const ExifConfigurationPtr preset = m_store.loadConfiguration(identifier);
+    const PresetPtr preset = m_store.loadConfiguration(identifier);
     if (!preset)
         return;
     preset->setName(name);
@@ -249,7 +249,7 @@ void PresetsWindowController::saveConfiguration()
 {
     if (m_currentConfigName.isNull())
         return;
-    const ExifConfigurationPtr preset = m_store.loadConfiguration(m_currentConfigName);
+    const PresetPtr preset = m_store.loadConfiguration(m_currentConfigName);
     if (!preset) {
         m_currentConfigName.clear();
         return;
@@ -268,7 +268,7 @@ void PresetsWindowController::tableViewSelectionDidChange()
         return;
     }
     m_currentConfigName = selected;
-    const ExifConfigurationPtr preset = m_store.loadConfiguration(selected);
+    const PresetPtr preset = m_store.loadConfiguration(selected);
     m_configController->setExifConfiguration(preset.get());
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "catalogue/exifsettings.h"
+#include "catalogue/presetstore.h"
 
 #include <QString>
 #include <QStringList>
@@ -19,13 +19,13 @@ class PresetsWindowController : public QWidget
 
 public:
     explicit PresetsWindowController(QWidget *parent = nullptr,
-                                     ExifSettings &store = ExifSettings::instance());
+                                     PresetStore &store = PresetStore::instance());
     ~PresetsWindowController() override;
 
     // Brings the window to the front.
     void showWindow();
     // The preset's name as menus show it, saying how many tags it removes.
-    static QString menuTitle(const ExifConfiguration &preset);
+    static QString menuTitle(const Preset &preset);
 
     void reloadConfigurations();
     void selectFirstPreset();
@@ -58,7 +58,7 @@ private:
     void selectIdentifier(const QString &identifier);
     void editName(const QString &identifier, bool selectText);
 
-    ExifSettings &m_store;
+    PresetStore &m_store;
     ConfigurationViewController *m_configController = nullptr;
     QTableView *m_configurationsTable = nullptr;
     PresetsListModel *m_model = nullptr;

@@ -1,6 +1,6 @@
 #include "app/commandline.h"
-#include "catalogue/exifconfiguration.h"
-#include "catalogue/exifsettings.h"
+#include "catalogue/preset.h"
+#include "catalogue/presetstore.h"
 #include "values/usersettings.h"
 
 #include "../support/fixtures.h"
@@ -138,9 +138,9 @@ private Q_SLOTS:
         const QString ownStore = UserSettings::storeFile();
         UserSettings::setStoreFile(configHome + u"/Tagsmith/Tagsmith.ini"_s);
         {
-            ExifSettings store;
+            PresetStore store;
             store.initializeSettings();
-            auto preset = std::make_shared<ExifConfiguration>(store.findUnusedNewIdentifier(),
+            auto preset = std::make_shared<Preset>(store.findUnusedNewIdentifier(),
                                                               u"Agency credit"_s);
             preset->changedValues().insert(u"IFD0:Artist"_s, u"Jane Doe"_s);
             preset->removedValues().insert(u"IFD0:ImageDescription"_s);

@@ -1,5 +1,5 @@
-#include "catalogue/exifconfiguration.h"
-#include "catalogue/exifsettings.h"
+#include "catalogue/preset.h"
+#include "catalogue/presetstore.h"
 #include "engine/exiftoolpath.h"
 #include "values/usersettings.h"
 
@@ -152,9 +152,9 @@ private Q_SLOTS:
         const QString ownStore = UserSettings::storeFile();
         UserSettings::setStoreFile(configHome + u"/Tagsmith/Tagsmith.ini"_s);
         {
-            ExifSettings store;
+            PresetStore store;
             store.initializeSettings();
-            auto preset = std::make_shared<ExifConfiguration>(store.findUnusedNewIdentifier(),
+            auto preset = std::make_shared<Preset>(store.findUnusedNewIdentifier(),
                                                               u"Credit"_s);
             preset->changedValues().insert(u"IFD0:Artist"_s, u"Jane Doe"_s);
             store.saveConfiguration(preset);

@@ -1,6 +1,6 @@
 #include "windows/preferenceswindowcontroller.h"
 #include "app/tagsmithappdelegate.h"
-#include "catalogue/exifsettings.h"
+#include "catalogue/presetstore.h"
 #include "values/debugmode.h"
 #include "values/usersettings.h"
 
@@ -108,7 +108,7 @@ private Q_SLOTS:
             start(delegate, {u"tagsmith"_s, u"/photos/a.jpg"_s, u"-debug"_s, u"/photos/b b.nef"_s});
         QVERIFY(fake && fake->window()->isVisible());
         QCOMPARE(fake->openedFiles, (QStringList{u"/photos/a.jpg"_s, u"/photos/b b.nef"_s}));
-        const auto preset = ExifSettings::instance().loadConfiguration(u"configuration-4"_s);
+        const auto preset = PresetStore::instance().loadConfiguration(u"configuration-4"_s);
         QVERIFY(preset);
         QCOMPARE(preset->changedValues().value(u"IPTC:City"_s), u"Roma"_s);
         QVERIFY(delegate.debug() && DebugMode::isEnabled());

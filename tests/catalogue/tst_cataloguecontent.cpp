@@ -1,7 +1,7 @@
 #include "catalogue/exiffieldscontroller.h"
 #include "catalogue/stringtables.h"
 #include "engine/exifreportparser.h"
-#include "engine/exifrunner.h"
+#include "engine/metadatareader.h"
 
 #include "../support/fixtures.h"
 
@@ -73,7 +73,7 @@ private Q_SLOTS:
                              QString::fromUtf8(tag.value);
         const QString error = Fixtures::makeImage(path, arguments);
         QVERIFY2(error.isEmpty(), qPrintable(error));
-        const auto run = Fixtures::runExifTool(ExifRunner::readCommandArguments({path}));
+        const auto run = Fixtures::runExifTool(MetadataReader::readCommandArguments({path}));
         QVERIFY2(run.ok(), run.err.constData());
         const auto records = ExifReportParser::parse(run.out);
         QCOMPARE(records.size(), 1);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "catalogue/exifconfiguration.h"
+#include "catalogue/preset.h"
 #include "catalogue/exiffield.h"
 #include "editors/fieldeditor.h"
 #include "engine/editsession.h"
@@ -87,7 +87,7 @@ inline void typeAndCommit(QLineEdit *edit, const QString &text)
 }
 
 // What a row leaves in a preset: the value, "<removed>", or "" when it leaves the tag alone.
-inline QString presetEntry(FieldEditor &editor, ExifConfiguration &preset, const QString &key)
+inline QString presetEntry(FieldEditor &editor, Preset &preset, const QString &key)
 {
     if (!editor.copyToConfiguration(preset))
         return u"<refused>"_qs;

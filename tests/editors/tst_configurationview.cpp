@@ -334,7 +334,7 @@ private Q_SLOTS:
         auto form = std::make_unique<ConfigurationViewController>(nullptr, &m_catalogue);
         form->setShowRemove(true);
         form->createUserInterface();
-        ExifConfiguration preset(u"configuration-1"_qs, u"P"_qs);
+        Preset preset(u"configuration-1"_qs, u"P"_qs);
         preset.changedValues().insert(u"XMP-dc:Rights"_qs, u"old"_qs);
         preset.removedValues().insert(u"Nikon:Lens"_qs);
         form->setExifConfiguration(&preset);
@@ -347,7 +347,7 @@ private Q_SLOTS:
         title->editor()->setText(u"new title"_qs);
         textRow(*form, u"Nikon:Lens"_qs)->removeButton()->setChecked(false);
 
-        ExifConfiguration result(u"configuration-1"_qs, u"P"_qs);
+        Preset result(u"configuration-1"_qs, u"P"_qs);
         QVERIFY(form->copyToConfiguration(result));
         QCOMPARE(result.changedValues(),
                  (QMap<QString, QString>{{u"XMP-dc:Rights"_qs, u"old"_qs},

@@ -5,12 +5,12 @@
 #include "../support/fixtures.h"
 #include "../support/runlistener.h"
 #include "editorfixtures.h"
-#include "catalogue/exifconfiguration.h"
+#include "catalogue/preset.h"
 #include "catalogue/exiffieldscontroller.h"
 #include "controls/dateoffsetfield.h"
 #include "engine/editsession.h"
-#include "engine/exifbackgroundrunner.h"
-#include "engine/exifrunner.h"
+#include "engine/writequeue.h"
+#include "engine/metadatareader.h"
 #include "engine/revertrecord.h"
 #include "values/tagsmithexception.h"
 
@@ -75,7 +75,7 @@ QList<ExifFileInfoPtr> realFiles(const QTemporaryDir &dir, const QString &tag,
     }
     if (!args.isEmpty() && !Fixtures::runExifTool(args).ok())
         qFatal("fixture: cannot date the files");
-    ExifRunner().loadExifInformations(files);
+    MetadataReader().readRecords(files);
     return files;
 }
 
@@ -167,7 +167,7 @@ private Q_SLOTS:
             QCOMPARE(panel.editorFocus(), int(DateEditorView::FocusOffset));
             press(panel.offsetField(), keys); // every key replaces the previous shift
         } else if (picked.startsWith(u'+')) {
-            ExifConfiguration preset(u"configuration-1"_qs, u"Shift"_qs);
+            Preset preset(u"configuration-1"_qs, u"Shift"_qs);
             preset.changedValues().insert(tag, picked);
             for (const ExifFileInfoPtr &file : files)
                 file->setExifValue(tag, preset.changedValues().value(tag));
@@ -184,7 +184,7 @@ private Q_SLOTS:
         }
         QCOMPARE(diskValues(files, tag), before);
 
-        ExifBackgroundRunner runner;
+        WriteQueue runner;
         RunListener window(runner);
         QVERIFY(runner.saveFiles(files, ExifOperationOption::ReReadFile) > 0);
         QVERIFY(window.wait());
@@ -327,7 +327,7 @@ private Q_SLOTS:
         QFETCH(QString, stored);
         QFETCH(Keys, keys);
 
-        ExifConfiguration preset(u"configuration-1"_qs, u"Trip"_qs);
+        Preset preset(u"configuration-1"_qs, u"Trip"_qs);
         if (stored == u"<removed>")
             preset.removedValues().insert(DateTimeOriginal);
         else if (!stored.isEmpty())

@@ -4,8 +4,8 @@
 #include "../support/runlistener.h"
 #include "catalogue/exiffieldscontroller.h"
 #include "controls/dateoffsetfield.h"
-#include "engine/exifbackgroundrunner.h"
-#include "engine/exifrunner.h"
+#include "engine/writequeue.h"
+#include "engine/metadatareader.h"
 #include "engine/revertrecord.h"
 #include "values/dateoffset.h"
 #include "values/zoneshift.h"
@@ -82,7 +82,7 @@ private Q_SLOTS:
                             u"-GPSDateStamp=2024:05:01"_qs, u"-GPSTimeStamp=08:00:00"_qs}),
                  QString());
         const QList<ExifFileInfoPtr> files{std::make_shared<ExifFileInfo>(path)};
-        ExifRunner().loadExifInformations(files);
+        MetadataReader().readRecords(files);
 
         DateEditorView panel(ExifFieldsController::defaultInstance()->field(key),
                              DateEditorTypeDateTime);
@@ -105,7 +105,7 @@ private Q_SLOTS:
             }
         }
 
-        ExifBackgroundRunner runner;
+        WriteQueue runner;
         RunListener listener;
         listener.listen(runner);
         QCOMPARE(runner.saveFiles(files, ExifOperationOption::ReReadFile), 1);

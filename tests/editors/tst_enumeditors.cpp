@@ -1,6 +1,6 @@
 #include "editorfixtures.h"
 
-#include "catalogue/exifconfiguration.h"
+#include "catalogue/preset.h"
 #include "editors/enumeditor.h"
 #include "editors/multienumeditor.h"
 
@@ -148,7 +148,7 @@ private Q_SLOTS:
     {
         QFETCH(bool, flags);
         QFETCH(QStringList, picked);
-        ExifConfiguration preset;
+        Preset preset;
         const bool on = !picked.contains(u"<off>"_qs);
         if (flags) {
             Row<MultiEnumEditor> row(flagsField(), true);

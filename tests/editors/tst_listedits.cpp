@@ -3,8 +3,8 @@
 #include "catalogue/exiffieldscontroller.h"
 #include "controls/tokenfield.h"
 #include "editors/stringseditor.h"
-#include "engine/exifbackgroundrunner.h"
-#include "engine/exifrunner.h"
+#include "engine/writequeue.h"
+#include "engine/metadatareader.h"
 #include "engine/exifutil.h"
 #include "values/usersettings.h"
 
@@ -90,7 +90,7 @@ private Q_SLOTS:
             QCOMPARE(Fixtures::makeImage(path, arguments), QString());
             files.append(std::make_shared<ExifFileInfo>(path));
         }
-        QVERIFY(ExifRunner(Fixtures::exifTool()).loadExifInformations(files).ok());
+        QVERIFY(MetadataReader(Fixtures::exifTool()).readRecords(files).ok());
 
         EditorFixtures::Row<StringsEditor> row(ExifFieldsController::defaultInstance()->field(key));
         row.editor.setExifFiles(files);
@@ -106,7 +106,7 @@ private Q_SLOTS:
             QCOMPARE(isExifFileModified(*files.at(i)), after.at(i) != before.at(i));
 
         RunListener listener;
-        ExifBackgroundRunner runner;
+        WriteQueue runner;
         listener.listen(runner);
         if (runner.saveFiles(files, ExifOperationOption::ReReadFile) > 0)
             QVERIFY(listener.wait());

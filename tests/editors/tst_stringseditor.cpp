@@ -1,6 +1,6 @@
 #include "editorfixtures.h"
 
-#include "catalogue/exifconfiguration.h"
+#include "catalogue/preset.h"
 #include "controls/tokenfield.h"
 #include "editors/readonlyeditor.h"
 #include "editors/stringseditor.h"
@@ -201,7 +201,7 @@ private Q_SLOTS:
         QFETCH(QString, entry);
 
         Row<StringsEditor> row(makeField(Keywords, FieldDataRepresentation::Strings), true);
-        ExifConfiguration preset;
+        Preset preset;
         preset.removedValues().insert(Keywords);
         row.editor.setExifConfiguration(&preset);
         QVERIFY(row.editor.removeButton()->isChecked());

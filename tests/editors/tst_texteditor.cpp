@@ -1,6 +1,6 @@
 #include "editorfixtures.h"
 
-#include "catalogue/exifconfiguration.h"
+#include "catalogue/preset.h"
 #include "controls/attachedwindow.h"
 #include "editors/texteditor.h"
 #include "values/usersettings.h"
@@ -180,7 +180,7 @@ private Q_SLOTS:
         QFETCH(QString, typed);
         const QString key = u"XMP-dc:Test"_qs;
         Row<TextEditor> row(makeField(key, representation), true);
-        ExifConfiguration preset;
+        Preset preset;
         preset.changedValues().insert(key, u"0.5"_qs);
         row.editor.setExifConfiguration(&preset);
         QTEST(row.editor.editor()->text(), "shownBefore");

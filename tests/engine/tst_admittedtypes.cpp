@@ -1,6 +1,6 @@
 #include "catalogue/exiffieldscontroller.h"
-#include "engine/exifbackgroundrunner.h"
-#include "engine/exifrunner.h"
+#include "engine/writequeue.h"
+#include "engine/metadatareader.h"
 #include "engine/fileadmission.h"
 #include "values/usersettings.h"
 
@@ -69,7 +69,7 @@ class TestAdmittedTypes : public QObject
 
     QTemporaryDir m_dir;
     QString m_png;
-    std::unique_ptr<ExifBackgroundRunner> m_runner;
+    std::unique_ptr<WriteQueue> m_runner;
 
 private Q_SLOTS:
     void initTestCase()
@@ -79,7 +79,7 @@ private Q_SLOTS:
         ExifFieldsController::defaultInstance()->initializeConfigurations();
         m_png = m_dir.filePath(u"source.png"_qs);
         QCOMPARE(Fixtures::makeImage(m_png), QString());
-        m_runner = std::make_unique<ExifBackgroundRunner>();
+        m_runner = std::make_unique<WriteQueue>();
     }
 
     void everyAdmittedTypeIsTestedHere()
@@ -121,7 +121,7 @@ private Q_SLOTS:
         const QString type = typeAndCaption(path).constFirst();
 
         auto file = std::make_shared<ExifFileInfo>(path);
-        QVERIFY(ExifRunner().loadExifInformation(file).ok());
+        QVERIFY(MetadataReader().readRecord(file).ok());
         QVERIFY(FileAdmission::supportsFile(path));
         QVERIFY(!FileAdmission::rejectionAfterReading(file->originalExifData()));
         file->setExifValue(u"XMP-dc:Description"_qs, Caption);

@@ -1,4 +1,4 @@
-#include "engine/exifrunner.h"
+#include "engine/metadatareader.h"
 #include "engine/exifrunnerremoveexifgroupsoperation.h"
 #include "engine/exifrunnerremovemetadataoperation.h"
 #include "engine/exifrunnerrevertoperation.h"
@@ -97,7 +97,7 @@ bool hasOldTime(const QString &path)
 ExifFileInfoPtr loaded(const QString &path)
 {
     auto file = std::make_shared<ExifFileInfo>(path);
-    ExifRunner(Fixtures::exifTool()).loadExifInformation(file);
+    MetadataReader(Fixtures::exifTool()).readRecord(file);
     return file;
 }
 
@@ -308,9 +308,9 @@ private Q_SLOTS:
     }
 
 private:
-    std::shared_ptr<ExifRunnerFileModifiyOperation> run(bool strip, const ExifFileInfoPtr &file)
+    std::shared_ptr<FileRewriteOperation> run(bool strip, const ExifFileInfoPtr &file)
     {
-        std::shared_ptr<ExifRunnerFileModifiyOperation> op;
+        std::shared_ptr<FileRewriteOperation> op;
         if (strip)
             op = std::make_shared<ExifRunnerRemoveMetadataOperation>(
                 file, ExifOperationOption::ReReadFile);

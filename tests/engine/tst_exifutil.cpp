@@ -2,7 +2,7 @@
 
 #include "../support/fixtures.h"
 #include "catalogue/exiffieldscontroller.h"
-#include "engine/exifrunner.h"
+#include "engine/metadatareader.h"
 #include "values/taglist.h"
 
 #include <QElapsedTimer>
@@ -159,7 +159,7 @@ private Q_SLOTS:
         QVERIFY2(error.isEmpty(), qPrintable(error));
 
         const auto file = std::make_shared<ExifFileInfo>(path);
-        QVERIFY(ExifRunner(Fixtures::exifTool()).loadExifInformations({file}).ok());
+        QVERIFY(MetadataReader(Fixtures::exifTool()).readRecords({file}).ok());
         const QString value = file->exifValue(u"IPTC:Keywords"_qs);
         QCOMPARE(splitStringsItems(value), keywords);
         file->setExifValue(u"IPTC:Keywords"_qs, joinStringsValue(splitStringsItems(value)));

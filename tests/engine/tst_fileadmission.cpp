@@ -1,7 +1,7 @@
 #include "engine/fileadmission.h"
 
 #include "engine/exiffileinfo.h"
-#include "engine/exifrunner.h"
+#include "engine/metadatareader.h"
 
 #include "../support/fixtures.h"
 
@@ -231,7 +231,7 @@ private Q_SLOTS:
         else
             QVERIFY(Fixtures::writeBytes(path, content));
         auto file = std::make_shared<ExifFileInfo>(path);
-        QVERIFY(ExifRunner().loadExifInformation(file).ok());
+        QVERIFY(MetadataReader().readRecord(file).ok());
         const auto reason = FileAdmission::rejectionAfterReading(file->originalExifData());
         QTEST(reason ? int(*reason) : -1, "reason");
     }

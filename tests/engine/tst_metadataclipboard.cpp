@@ -1,7 +1,7 @@
 #include "engine/metadataclipboard.h"
 
 #include "catalogue/exiffieldscontroller.h"
-#include "engine/exifrunner.h"
+#include "engine/metadatareader.h"
 #include "engine/exifrunnersaveoperation.h"
 #include "engine/exiftoolsession.h"
 #include "../support/fixtures.h"
@@ -52,8 +52,8 @@ private Q_SLOTS:
             targets.append(std::make_shared<ExifFileInfo>(path));
         }
         auto sourceInfo = std::make_shared<ExifFileInfo>(source);
-        ExifRunner reader;
-        QVERIFY(reader.loadExifInformations(QList<ExifFileInfoPtr>{sourceInfo} + targets).ok());
+        MetadataReader reader;
+        QVERIFY(reader.readRecords(QList<ExifFileInfoPtr>{sourceInfo} + targets).ok());
 
         MetadataClipboard clipboard;
         clipboard.copyFrom(*sourceInfo);

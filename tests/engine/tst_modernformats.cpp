@@ -1,6 +1,6 @@
 #include "catalogue/exiffieldscontroller.h"
-#include "engine/exifbackgroundrunner.h"
-#include "engine/exifrunner.h"
+#include "engine/writequeue.h"
+#include "engine/metadatareader.h"
 #include "values/usersettings.h"
 
 #include "../support/fixtures.h"
@@ -108,13 +108,13 @@ private Q_SLOTS:
                         .ok());
 
         auto file = std::make_shared<ExifFileInfo>(path);
-        QVERIFY(ExifRunner().loadExifInformation(file).ok());
+        QVERIFY(MetadataReader().readRecord(file).ok());
         QVERIFY(file->isValid());
         file->setExifValue(u"XMP-dc:Description"_qs, Caption);
         file->setExifValue(u"ExifIFD:DateTimeOriginal"_qs, Date);
 
         RunListener listener;
-        ExifBackgroundRunner runner;
+        WriteQueue runner;
         listener.listen(runner);
         QCOMPARE(runner.saveFiles({file}, ExifOperationOption::ReReadFile), 1);
         QVERIFY(listener.wait());

@@ -1,6 +1,6 @@
 #include "catalogue/exiffieldscontroller.h"
-#include "engine/exifbackgroundrunner.h"
-#include "engine/exifrunner.h"
+#include "engine/writequeue.h"
+#include "engine/metadatareader.h"
 #include "engine/exifutil.h"
 #include "engine/filereplacement.h"
 #include "values/usersettings.h"
@@ -32,7 +32,7 @@ QString tagOf(const QString &path, const QString &tag)
 ExifFileInfoPtr load(const QString &path)
 {
     auto file = std::make_shared<ExifFileInfo>(path);
-    ExifRunner().loadExifInformation(file);
+    MetadataReader().readRecord(file);
     return file;
 }
 
@@ -143,7 +143,7 @@ private Q_SLOTS:
         constexpr int Rounds = 24;
         // A runner whose ExifTool is already running, as in the window after the first save.
         RunListener listener;
-        ExifBackgroundRunner runner;
+        WriteQueue runner;
         listener.listen(runner);
         runner.saveFiles({load(copyOfTemplate(u"warm.jpg"_qs))}, ExifOperationOption::ReReadFile);
         QVERIFY(listener.wait());
@@ -244,7 +244,7 @@ private:
     std::unique_ptr<RunListener> save(const QList<ExifFileInfoPtr> &files)
     {
         auto listener = std::make_unique<RunListener>();
-        ExifBackgroundRunner runner;
+        WriteQueue runner;
         listener->listen(runner);
         runner.saveFiles(files, ExifOperationOption::ReReadFile);
         if (!listener->wait())

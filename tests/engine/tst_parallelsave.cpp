@@ -1,6 +1,6 @@
 #include "catalogue/exiffieldscontroller.h"
-#include "engine/exifbackgroundrunner.h"
-#include "engine/exifrunner.h"
+#include "engine/writequeue.h"
+#include "engine/metadatareader.h"
 #include "engine/exifrunnersaveoperation.h"
 #include "values/usersettings.h"
 
@@ -35,7 +35,7 @@ struct SlowOperation final : ExifRunnerOperation
 std::unique_ptr<RunListener> runBatch(const QList<ExifRunnerOperationPtr> &operations,
                                       int concurrency = 2)
 {
-    ExifBackgroundRunner runner;
+    WriteQueue runner;
     runner.setMaximumConcurrentOperations(concurrency);
     auto listener = std::make_unique<RunListener>();
     listener->listen(runner);
@@ -82,7 +82,7 @@ private Q_SLOTS:
                     dir.filePath(QStringLiteral("%1/%2.jpg").arg(concurrency).arg(i));
                 QVERIFY(QDir().mkpath(QFileInfo(path).path()) && QFile::copy(source, path));
                 auto file = std::make_shared<ExifFileInfo>(path);
-                ExifRunner().loadExifInformation(file);
+                MetadataReader().readRecord(file);
                 file->setExifValue(u"IFD0:Artist"_qs, QStringLiteral("Artist %1, ü").arg(i));
                 file->setExifValue(u"ExifIFD:DateTimeOriginal"_qs, QStringLiteral("+%1d2h").arg(i));
                 if (i == 5)

@@ -1,6 +1,6 @@
 #include "catalogue/exiffieldscontroller.h"
-#include "engine/exifbackgroundrunner.h"
-#include "engine/exifrunner.h"
+#include "engine/writequeue.h"
+#include "engine/metadatareader.h"
 #include "engine/exifrunnerrevertoperation.h"
 #include "engine/exifutil.h"
 #include "engine/revertrecord.h"
@@ -36,7 +36,7 @@ private Q_SLOTS:
         UserSettings::setStoreFile(m_dir.filePath(u"settings.ini"_qs));
         RevertRecord::setDirectory(m_dir.filePath(u"records"_qs));
         ExifFieldsController::defaultInstance()->initializeConfigurations();
-        m_runner = std::make_unique<ExifBackgroundRunner>();
+        m_runner = std::make_unique<WriteQueue>();
         m_runner->setMaximumConcurrentOperations(1);
     }
 
@@ -95,7 +95,7 @@ private Q_SLOTS:
             else
                 file->setExifValue(edit.left(equals), edit.mid(equals + 1));
         }
-        QVERIFY(run([&](ExifBackgroundRunner &r) {
+        QVERIFY(run([&](WriteQueue &r) {
             return r.saveFiles({file}, ExifOperationOption::ReReadFile);
         }));
         QVERIFY(RevertRecord::contains(path));
@@ -103,7 +103,7 @@ private Q_SLOTS:
         const auto revert =
             ExifRunnerRevertOperation::create(file, ExifOperationOption::ReReadFile);
         QVERIFY(revert);
-        QVERIFY(run([&](ExifBackgroundRunner &r) { return r.queueOperations({revert}); }));
+        QVERIFY(run([&](WriteQueue &r) { return r.queueOperations({revert}); }));
         QCOMPARE(dump(path), before);
         QVERIFY(!RevertRecord::contains(path));
         // Nothing is left pending: the window shows the file as it is.
@@ -116,7 +116,7 @@ private Q_SLOTS:
         QVERIFY(Fixtures::makeImage(path, {u"-IFD0:Software=Old"_qs}).isEmpty());
         ExifFileInfoPtr file = load(path);
         file->setExifValue(u"IFD0:Software"_qs, u"Saved"_qs);
-        QVERIFY(run([&](ExifBackgroundRunner &r) {
+        QVERIFY(run([&](WriteQueue &r) {
             return r.saveFiles({file}, ExifOperationOption::ReReadFile);
         }));
 
@@ -129,7 +129,7 @@ private Q_SLOTS:
             ExifRunnerRevertOperation::create(file, ExifOperationOption::ReReadFile);
         QVERIFY(revert);
         const auto listener =
-            run([&](ExifBackgroundRunner &r) { return r.queueOperations({revert}); });
+            run([&](WriteQueue &r) { return r.queueOperations({revert}); });
         QVERIFY(listener);
         QCOMPARE(Fixtures::readBytes(path), bytes);
         const QStringList messages = listener->messages(path);
@@ -142,11 +142,11 @@ private:
     ExifFileInfoPtr load(const QString &path)
     {
         auto file = std::make_shared<ExifFileInfo>(path);
-        ExifRunner().loadExifInformation(file);
+        MetadataReader().readRecord(file);
         return file;
     }
 
-    std::unique_ptr<RunListener> run(const std::function<qsizetype(ExifBackgroundRunner &)> &queue)
+    std::unique_ptr<RunListener> run(const std::function<qsizetype(WriteQueue &)> &queue)
     {
         auto listener = std::make_unique<RunListener>();
         listener->listen(*m_runner);
@@ -158,7 +158,7 @@ private:
 
     QTemporaryDir m_dir;
     // One for the whole test: ExifTool starts once.
-    std::unique_ptr<ExifBackgroundRunner> m_runner;
+    std::unique_ptr<WriteQueue> m_runner;
 };
 
 QTEST_GUILESS_MAIN(TestRevert)

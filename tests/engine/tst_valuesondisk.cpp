@@ -1,6 +1,6 @@
 #include "catalogue/exiffieldscontroller.h"
-#include "engine/exifbackgroundrunner.h"
-#include "engine/exifrunner.h"
+#include "engine/writequeue.h"
+#include "engine/metadatareader.h"
 #include "engine/exifutil.h"
 #include "engine/fileidentity.h"
 #include "values/usersettings.h"
@@ -21,7 +21,7 @@ namespace {
 ExifFileInfoPtr load(const QString &path)
 {
     auto file = std::make_shared<ExifFileInfo>(path);
-    ExifRunner().loadExifInformation(file);
+    MetadataReader().readRecord(file);
     return file;
 }
 
@@ -36,7 +36,7 @@ QJsonObject tagsOf(const QString &path)
 std::unique_ptr<RunListener> save(const QList<ExifFileInfoPtr> &files)
 {
     auto listener = std::make_unique<RunListener>();
-    ExifBackgroundRunner runner;
+    WriteQueue runner;
     listener->listen(runner);
     const qsizetype queued = runner.saveFiles(files, ExifOperationOption::ReReadFile);
     if (queued > 0 && !listener->wait())

@@ -1,7 +1,7 @@
 #include "engine/xmpsidecar.h"
 
 #include "catalogue/exiffieldscontroller.h"
-#include "engine/exifrunner.h"
+#include "engine/metadatareader.h"
 #include "engine/exifrunnersaveoperation.h"
 #include "engine/exiftoolsession.h"
 #include "engine/exifutil.h"
@@ -33,7 +33,7 @@ QString makeRaw(const QString &path, const QStringList &arguments)
 ExifFileInfoPtr readFile(const QString &path)
 {
     auto file = std::make_shared<ExifFileInfo>(path);
-    ExifRunner().loadExifInformation(file);
+    MetadataReader().readRecord(file);
     return file;
 }
 

@@ -4,8 +4,8 @@
 // reading, then one "saved NAME" line per file.
 #include "catalogue/exiffieldscontroller.h"
 #include "engine/errormessages.h"
-#include "engine/exifbackgroundrunner.h"
-#include "engine/exifrunner.h"
+#include "engine/writequeue.h"
+#include "engine/metadatareader.h"
 #include "engine/scratchjournal.h"
 #include "values/usersettings.h"
 
@@ -20,9 +20,9 @@ namespace {
 class Listener final : public QObject
 {
 public:
-    void listen(ExifBackgroundRunner &runner)
+    void listen(WriteQueue &runner)
     {
-        connect(&runner, &ExifBackgroundRunner::fileFinished, this,
+        connect(&runner, &WriteQueue::fileFinished, this,
                 [this](const ExifFileInfoPtr &file, const ExifOperationStatus &status) {
                     if (status.errors() && status.errors()->errorsCount() > 0) {
                         std::fprintf(
@@ -33,7 +33,7 @@ public:
                     std::printf("saved %s\n", qPrintable(QFileInfo(file->fileName()).fileName()));
                     std::fflush(stdout);
                 });
-        connect(&runner, &ExifBackgroundRunner::batchFinished, this, [this] { finished = true; });
+        connect(&runner, &WriteQueue::batchFinished, this, [this] { finished = true; });
     }
 
     int failures = 0;
@@ -55,13 +55,13 @@ int main(int argc, char **argv)
     QList<ExifFileInfoPtr> files;
     for (const QString &name : folder.entryList({QStringLiteral("*.jpg")}, QDir::Files, QDir::Name))
         files << std::make_shared<ExifFileInfo>(folder.filePath(name));
-    if (files.isEmpty() || !ExifRunner().loadExifInformations(files).ok())
+    if (files.isEmpty() || !MetadataReader().readRecords(files).ok())
         return 3;
     std::printf("ready\n");
     std::fflush(stdout);
 
     Listener listener;
-    ExifBackgroundRunner runner;
+    WriteQueue runner;
     listener.listen(runner);
     do {
         // Each round starts from what was read, so every file is rewritten.

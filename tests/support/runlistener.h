@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/exifbackgroundrunner.h"
+#include "engine/writequeue.h"
 
 #include <QFileInfo>
 #include <QObject>
@@ -12,21 +12,21 @@
 struct RunListener final : QObject
 {
     RunListener() = default;
-    explicit RunListener(ExifBackgroundRunner &runner) { listen(runner); }
+    explicit RunListener(WriteQueue &runner) { listen(runner); }
 
-    void listen(ExifBackgroundRunner &runner)
+    void listen(WriteQueue &runner)
     {
-        connect(&runner, &ExifBackgroundRunner::fileStarted, this,
+        connect(&runner, &WriteQueue::fileStarted, this,
                 [this](const ExifFileInfoPtr &file, const ExifOperationStatus &s) {
                     events << step("before", s);
                     startedFiles << file;
                 });
-        connect(&runner, &ExifBackgroundRunner::fileFinished, this,
+        connect(&runner, &WriteQueue::fileFinished, this,
                 [this](const ExifFileInfoPtr &file, const ExifOperationStatus &s) {
                     events << step("after", s);
                     finishedFiles << file;
                 });
-        connect(&runner, &ExifBackgroundRunner::batchFinished, this,
+        connect(&runner, &WriteQueue::batchFinished, this,
                 [this](const QHash<QString, ErrorMessagesPtr> &map) {
                     events << u"finish "_qs + QString::number(map.size());
                     results = map;

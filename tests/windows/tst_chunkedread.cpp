@@ -8,9 +8,9 @@
 #include "windows/mainwindow.h"
 #include "windows/mainwindowcontroller.h"
 #include "catalogue/exiffieldscontroller.h"
-#include "catalogue/exifsettings.h"
+#include "catalogue/presetstore.h"
 #include "engine/exifreportparser.h"
-#include "engine/exifrunner.h"
+#include "engine/metadatareader.h"
 #include "../support/fixtures.h"
 #include "../support/readfixtures.h"
 #include "values/usersettings.h"
@@ -108,7 +108,7 @@ private Q_SLOTS:
             paths.insert(1, m_missing);
 
         // The reference: the bare report, parsed and formatted without any sharing of texts.
-        ExifRunner runner;
+        MetadataReader runner;
         const ExifToolResult bare = runner.executeRawCommand_FileInfo(m_paths);
         QVERIFY(bare.hasSucceeded());
         const QHash<QString, TagDictionary> report = ExifReportParser::parse(bare.standardOutput);
@@ -152,7 +152,7 @@ private Q_SLOTS:
     void equalTextsAreSharedUntilEdited()
     {
         QList<ExifFileInfoPtr> files = records(m_paths.mid(0, 2));
-        QVERIFY(ExifRunner().loadExifInformations(files).ok());
+        QVERIFY(MetadataReader().readRecords(files).ok());
         const TagDictionary first = files.at(0)->exifData();
         const TagDictionary second = files.at(1)->exifData();
         const QString key = u"IFD0:Artist"_s;
@@ -205,7 +205,7 @@ private Q_SLOTS:
     // Through the window: Cancel in the reading bar adds and selects what was read.
     void windowCancelAddsWhatWasRead()
     {
-        ExifSettings store;
+        PresetStore store;
         MainWindowController controller(nullptr, store);
         auto *window = qobject_cast<MainWindow *>(controller.window());
         QVERIFY(window);

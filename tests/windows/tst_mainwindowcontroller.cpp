@@ -11,8 +11,8 @@
 #include "editors/configurationviewcontroller.h"
 #include "engine/editsession.h"
 #include "editors/texteditor.h"
-#include "engine/exifbackgroundrunner.h"
-#include "engine/exifrunner.h"
+#include "engine/writequeue.h"
+#include "engine/metadatareader.h"
 #include "../support/fixtures.h"
 #include "values/usersettings.h"
 #include "windows/addfilesnote.h"
@@ -58,7 +58,7 @@ QStringList names(const QList<ExifFileInfoPtr> &files)
 
 // Records what the window asks of the runner ("kind options files"); the test plays
 // the runner's batchFinished.
-class FakeRunner : public ExifBackgroundRunner
+class FakeRunner : public WriteQueue
 {
 public:
     qsizetype saveFiles(const QList<ExifFileInfoPtr> &files, ExifOperationOption options) override
@@ -113,7 +113,7 @@ class TestMainWindowController : public QObject
 
     QTemporaryDir m_dir;
     int m_number = 0;
-    std::unique_ptr<ExifSettings> m_store;
+    std::unique_ptr<PresetStore> m_store;
     std::unique_ptr<MainWindowController> m_controller;
     FakeRunner *m_runner = nullptr;
     QList<bool> m_replies;
@@ -151,7 +151,7 @@ private Q_SLOTS:
     void init()
     {
         UserSettings::setStoreFile(m_dir.filePath(u"store-%1.ini"_s.arg(++m_number)));
-        m_store = std::make_unique<ExifSettings>();
+        m_store = std::make_unique<PresetStore>();
         m_replies.clear();
     }
     void cleanup()
@@ -323,7 +323,7 @@ private Q_SLOTS:
     {
         for (const QString &name : {u"b"_s, u"a"_s, u"c"_s}) {
             auto preset =
-                std::make_shared<ExifConfiguration>(m_store->findUnusedNewIdentifier(), name);
+                std::make_shared<Preset>(m_store->findUnusedNewIdentifier(), name);
             preset->changedValues().insert(Artist, u"Preset "_s + name);
             preset->removedValues().insert(u"IFD0:Software"_s);
             m_store->saveConfiguration(preset);
@@ -358,7 +358,7 @@ private Q_SLOTS:
         QVERIFY(modified(0));
 
         m_store->saveConfiguration(
-            std::make_shared<ExifConfiguration>(m_store->findUnusedNewIdentifier(), u"0"_s));
+            std::make_shared<Preset>(m_store->findUnusedNewIdentifier(), u"0"_s));
         QCOMPARE(presetTitles(), (QStringList{u"0"_s, u"a (removes 1 tag)"_s,
                                               u"b (removes 1 tag)"_s, u"c (removes 1 tag)"_s}));
     }
@@ -558,8 +558,8 @@ private Q_SLOTS:
         QVERIFY(QFile::remove(b));
         QCOMPARE(::mkfifo(QFile::encodeName(b).constData(), 0644), 0);
 
-        const int limit = ExifRunner::readTimeout();
-        ExifRunner::setReadTimeout(2000);
+        const int limit = MetadataReader::readTimeout();
+        MetadataReader::setReadTimeout(2000);
         int ticks = 0;
         QTimer ticker;
         connect(&ticker, &QTimer::timeout, this, [&ticks] { ++ticks; });
@@ -568,7 +568,7 @@ private Q_SLOTS:
         QVERIFY(window.fileList()->readQueue()->isBusy());
         QVERIFY(window.fileList()->waitForPendingReads());
         const QStringList note = window.fileList()->addFilesNote()->detailLines();
-        ExifRunner::setReadTimeout(limit);
+        MetadataReader::setReadTimeout(limit);
 
         QVERIFY2(ticks > 30, qPrintable(QString::number(ticks))); // not frozen for 2 s
         QCOMPARE(window.fileList()->files().size(), 1);

@@ -55,7 +55,7 @@ class TestMainWindowGeotag : public QObject
     Q_OBJECT
 
     QTemporaryDir m_dir;
-    std::unique_ptr<ExifSettings> m_store;
+    std::unique_ptr<PresetStore> m_store;
 
 private Q_SLOTS:
     void initTestCase()
@@ -64,7 +64,7 @@ private Q_SLOTS:
         QGuiApplication::setQuitOnLastWindowClosed(false);
         QVERIFY(m_dir.isValid());
         UserSettings::setStoreFile(m_dir.filePath(u"store.ini"_qs));
-        m_store = std::make_unique<ExifSettings>();
+        m_store = std::make_unique<PresetStore>();
         ExifFieldsController::defaultInstance()->initializeConfigurations();
     }
     void cleanupTestCase() { m_store.reset(); }

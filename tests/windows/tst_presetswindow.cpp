@@ -1,5 +1,5 @@
 #include "catalogue/exiffieldscontroller.h"
-#include "catalogue/exifsettings.h"
+#include "catalogue/presetstore.h"
 #include "windows/presetswindowcontroller.h"
 #include "editors/configurationviewcontroller.h"
 #include "editors/texteditor.h"
@@ -62,11 +62,11 @@ class TestPresetsWindow : public QObject
 
     QTemporaryDir m_dir;
     int m_storeNumber = 0;
-    std::unique_ptr<ExifSettings> m_store;
+    std::unique_ptr<PresetStore> m_store;
 
-    ExifConfigurationPtr addPreset(const QString &name)
+    PresetPtr addPreset(const QString &name)
     {
-        auto preset = std::make_shared<ExifConfiguration>(m_store->findUnusedNewIdentifier(), name);
+        auto preset = std::make_shared<Preset>(m_store->findUnusedNewIdentifier(), name);
         m_store->saveConfiguration(preset);
         return preset;
     }
@@ -80,7 +80,7 @@ private Q_SLOTS:
     void init()
     {
         UserSettings::setStoreFile(m_dir.filePath(u"store-%1.ini"_qs.arg(++m_storeNumber)));
-        m_store = std::make_unique<ExifSettings>();
+        m_store = std::make_unique<PresetStore>();
     }
 
     // However the user leaves a preset, what they typed is in the settings store.
@@ -93,7 +93,7 @@ private Q_SLOTS:
     void leavingAPresetStoresIt()
     {
         QFETCH(QString, leaveBy);
-        const ExifConfigurationPtr first = addPreset(u"First"_qs);
+        const PresetPtr first = addPreset(u"First"_qs);
         first->changedValues().insert(ArtistKey, u"kept artist"_qs);
         first->removedValues().insert(u"IFD0:Copyright"_qs);
         m_store->saveConfiguration(first);
@@ -113,9 +113,9 @@ private Q_SLOTS:
         } else
             window.close();
 
-        ExifSettings reopened;
+        PresetStore reopened;
         reopened.initializeSettings();
-        const ExifConfigurationPtr stored = reopened.loadConfiguration(first->identifier());
+        const PresetPtr stored = reopened.loadConfiguration(first->identifier());
         QVERIFY(stored);
         QCOMPARE(stored->changedValues(),
                  (QMap<QString, QString>{{ArtistKey, u"kept artist"_qs},
@@ -136,7 +136,7 @@ private Q_SLOTS:
     void menuTitleCountsRemovedTags()
     {
         QFETCH(QStringList, removed);
-        ExifConfiguration preset(u"configuration-1"_qs, u"Studio"_qs);
+        Preset preset(u"configuration-1"_qs, u"Studio"_qs);
         preset.changedValues().insert(TitleKey, u"kept"_qs);
         for (const QString &key : removed)
             preset.removedValues().insert(key);
@@ -146,7 +146,7 @@ private Q_SLOTS:
     // A ticked row left empty removes the tag when the preset is applied, and says so.
     void tickedEmptyRowsSayTheyRemove()
     {
-        const ExifConfigurationPtr preset = addPreset(u"Strip camera"_qs);
+        const PresetPtr preset = addPreset(u"Strip camera"_qs);
         preset->removedValues().insert(u"IFD0:Make"_qs);
         preset->changedValues().insert(ArtistKey, u"Ann"_qs);
         m_store->saveConfiguration(preset);
@@ -211,7 +211,7 @@ private Q_SLOTS:
 
     void addingWhileEditingSavesTheEditedPresetFirst()
     {
-        const ExifConfigurationPtr edited = addPreset(u"Edited"_qs);
+        const PresetPtr edited = addPreset(u"Edited"_qs);
         PresetsWindowController window(nullptr, *m_store);
         window.show();
         typeIntoPresetRow(window, TitleKey, u"typed title"_qs);

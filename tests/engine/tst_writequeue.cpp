@@ -1,8 +1,8 @@
-#include "engine/exifbackgroundrunner.h"
+#include "engine/writequeue.h"
 
 #include "catalogue/exiffieldscontroller.h"
-#include "engine/exifrunner.h"
-#include "engine/exifrunnerfilemodifiyoperation.h"
+#include "engine/metadatareader.h"
+#include "engine/filerewriteoperation.h"
 #include "engine/exifrunnersaveoperation.h"
 #include "engine/exifutil.h"
 #include "engine/filereplacement.h"
@@ -52,7 +52,7 @@ struct ThrowingOperation final : ExifRunnerOperation
 
 } // namespace
 
-class TestExifBackgroundRunner : public QObject
+class TestWriteQueue : public QObject
 {
     Q_OBJECT
 
@@ -75,7 +75,7 @@ private Q_SLOTS:
     void init()
     {
         UserSettings::setValue(UserSettings::FileModifyDate, 2);
-        ExifRunnerFileModifiyOperation::setCommandTimeouts(120'000, 10'000);
+        FileRewriteOperation::setCommandTimeouts(120'000, 10'000);
         m_concurrent = 2;
     }
 
@@ -160,7 +160,7 @@ private Q_SLOTS:
         const QList files{load(u"two/a.jpg"_qs, u"A"_qs), load(u"two/b.jpg"_qs, u"B"_qs)};
         RunListener window, panel, late;
         {
-            ExifBackgroundRunner runner;
+            WriteQueue runner;
             window.listen(runner);
             panel.listen(runner);
             QCOMPARE(runner.saveFiles(files, ExifOperationOption::ReReadFile), 2);
@@ -273,7 +273,7 @@ private Q_SLOTS:
         const auto first = ExifRunnerSaveOperation::create(file, ExifOperationOption::None);
         const auto second = ExifRunnerSaveOperation::create(file, ExifOperationOption::None);
         const auto throwing = std::make_shared<ThrowingOperation>();
-        const auto heard = run([&](ExifBackgroundRunner &runner) {
+        const auto heard = run([&](WriteQueue &runner) {
             return runner.queueOperations({first, second, throwing});
         });
         // Two saves within one second must not share a temporary file.
@@ -281,7 +281,7 @@ private Q_SLOTS:
         QVERIFY(first->tempFileName() != second->tempFileName());
         QCOMPARE(RunListener::texts(first->errors()) + RunListener::texts(second->errors()),
                  QStringList());
-        QVERIFY(throwing->threadName.startsWith(ExifBackgroundRunner::ThreadName));
+        QVERIFY(throwing->threadName.startsWith(WriteQueue::ThreadName));
         QCOMPARE(heard->messages(throwing->fileName()),
                  QStringList{u"3 Unknown error occured during processing"_qs});
     }
@@ -338,8 +338,8 @@ private Q_SLOTS:
             return; // the save has made two files of the two names
 
         // Read again: the save gave the file a new inode, which the second record cannot know.
-        ExifRunner().loadExifInformation(second);
-        const auto removed = run([&](ExifBackgroundRunner &runner) {
+        MetadataReader().readRecord(second);
+        const auto removed = run([&](WriteQueue &runner) {
             return runner.removeAllMetadata({second, first}, ExifOperationOption::ReReadFile);
         });
         QCOMPARE(removed->events.last(), u"finish 2"_qs);
@@ -372,7 +372,7 @@ private Q_SLOTS:
         QFETCH(QString, message);
         QVERIFY2(QFileInfo(Faulty).isExecutable(), "build the test helpers first");
         if (fault == u"hang")
-            ExifRunnerFileModifiyOperation::setCommandTimeouts(8000, 0);
+            FileRewriteOperation::setCommandTimeouts(8000, 0);
         const QString tag = QString::fromLatin1(QTest::currentDataTag());
         const QList files{load(tag + u"/a.jpg"_qs, u"New"_qs), load(tag + u"/b.jpg"_qs, u"New"_qs)};
         const QByteArray original = readBytes(files[0]->fileName());
@@ -424,18 +424,18 @@ private:
             QFile::copy(m_template, copy);
         }
         auto file = std::make_shared<ExifFileInfo>(copy);
-        ExifRunner().loadExifInformation(file);
+        MetadataReader().readRecord(file);
         if (!artist.isEmpty())
             file->setExifValue(u"IFD0:Artist"_qs, artist);
         return file;
     }
 
-    std::unique_ptr<RunListener> run(const std::function<qsizetype(ExifBackgroundRunner &)> &queue,
+    std::unique_ptr<RunListener> run(const std::function<qsizetype(WriteQueue &)> &queue,
                                      ExifToolSessionKind kind = Persistent,
                                      const QString &tool = exifToolPath())
     {
         auto listener = std::make_unique<RunListener>();
-        ExifBackgroundRunner runner(nullptr, kind, tool);
+        WriteQueue runner(nullptr, kind, tool);
         listener->listen(runner);
         runner.setMaximumConcurrentOperations(m_concurrent);
         queue(runner);
@@ -449,7 +449,7 @@ private:
                                       const QString &tool = exifToolPath())
     {
         return run(
-            [&](ExifBackgroundRunner &runner) {
+            [&](WriteQueue &runner) {
                 return runner.saveFiles(files, ExifOperationOption::ReReadFile);
             },
             kind, tool);
@@ -460,5 +460,5 @@ private:
     const QString m_template = m_dir.filePath(u"template.jpg"_qs);
 };
 
-QTEST_GUILESS_MAIN(TestExifBackgroundRunner)
-#include "tst_exifbackgroundrunner.moc"
+QTEST_GUILESS_MAIN(TestWriteQueue)
+#include "tst_writequeue.moc"

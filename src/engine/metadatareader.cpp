@@ -1,4 +1,4 @@
-#include "engine/exifrunner.h"
+#include "engine/metadatareader.h"
 
 #include "engine/errormessages.h"
 #include "engine/exifreportparser.h"
@@ -30,14 +30,14 @@ bool existsOnDisk(const QString &path)
 
 } // namespace
 
-ExifRunner::ExifRunner(QString exifToolProgram)
+MetadataReader::MetadataReader(QString exifToolProgram)
     : m_command(std::move(exifToolProgram))
 {
 }
 
-ExifRunner::~ExifRunner() = default;
+MetadataReader::~MetadataReader() = default;
 
-QStringList ExifRunner::readCommandArguments(const QStringList &paths)
+QStringList MetadataReader::readCommandArguments(const QStringList &paths)
 {
     QStringList arguments{QStringLiteral("-g1"), QStringLiteral("-X"), QStringLiteral("-n"),
                           QStringLiteral("-charset"), QStringLiteral("UTF-8")};
@@ -45,23 +45,23 @@ QStringList ExifRunner::readCommandArguments(const QStringList &paths)
     return arguments;
 }
 
-void ExifRunner::setReadTimeout(int milliseconds)
+void MetadataReader::setReadTimeout(int milliseconds)
 {
     s_readTimeoutMs = milliseconds;
 }
 
-int ExifRunner::readTimeout()
+int MetadataReader::readTimeout()
 {
     return s_readTimeoutMs;
 }
 
-ExifToolResult ExifRunner::executeRawCommand_FileInfo(const QStringList &paths) const
+ExifToolResult MetadataReader::executeRawCommand_FileInfo(const QStringList &paths) const
 {
     return m_command.run(readCommandArguments(paths));
 }
 
-ExifRunner::Report
-ExifRunner::readReport(const QStringList &paths,
+MetadataReader::Report
+MetadataReader::readReport(const QStringList &paths,
                        const std::function<void(const QString &, TagDictionary)> &onRecord)
 {
     // One run for the batch, unless its paths would pass the kernel's limit on the size of an
@@ -127,7 +127,7 @@ ExifRunner::readReport(const QStringList &paths,
     return report;
 }
 
-ExifReadResult ExifRunner::loadExifInformations(const QList<ExifFileInfoPtr> &files)
+ExifReadResult MetadataReader::readRecords(const QList<ExifFileInfoPtr> &files)
 {
     QList<ExifFileInfoPtr> kept;
     QStringList paths;
@@ -210,7 +210,7 @@ ExifReadResult ExifRunner::loadExifInformations(const QList<ExifFileInfoPtr> &fi
     return report.result;
 }
 
-TagDictionary ExifRunner::withSidecarValues(TagDictionary fileValues,
+TagDictionary MetadataReader::withSidecarValues(TagDictionary fileValues,
                                             const TagDictionary &sidecarXmp)
 {
     // The sidecar is the raw file's XMP as far as it goes.
@@ -218,12 +218,12 @@ TagDictionary ExifRunner::withSidecarValues(TagDictionary fileValues,
     return fileValues;
 }
 
-ExifReadResult ExifRunner::loadExifInformation(const ExifFileInfoPtr &file)
+ExifReadResult MetadataReader::readRecord(const ExifFileInfoPtr &file)
 {
-    return loadExifInformations({file});
+    return readRecords({file});
 }
 
-ExifReadResult ExifRunner::updateOriginalExifInformation(const ExifFileInfoPtr &file)
+ExifReadResult MetadataReader::rereadOriginal(const ExifFileInfoPtr &file)
 {
     if (!existsOnDisk(file->fileName()))
         return {};
@@ -242,14 +242,14 @@ ExifReadResult ExifRunner::updateOriginalExifInformation(const ExifFileInfoPtr &
     return report.result;
 }
 
-QString ExifRunner::formatValue(const QString &value, const ExifField &field)
+QString MetadataReader::formatValue(const QString &value, const ExifField &field)
 {
     if (field.dataRepresentation() == FieldDataRepresentation::Number)
         return formatNumberFromExifTool(value, field);
     return value;
 }
 
-QString ExifRunner::formatNumberFromExifTool(const QString &value, const ExifField &field)
+QString MetadataReader::formatNumberFromExifTool(const QString &value, const ExifField &field)
 {
     if (value.isEmpty())
         return QString(QLatin1String(""));
@@ -261,7 +261,7 @@ QString ExifRunner::formatNumberFromExifTool(const QString &value, const ExifFie
     return formatter->stringFromNumber(leadingNumber(value));
 }
 
-TagDictionary ExifRunner::preformatValues(const TagDictionary &values, StringPool *pool)
+TagDictionary MetadataReader::preformatValues(const TagDictionary &values, StringPool *pool)
 {
     const ExifFieldsController *catalogue = ExifFieldsController::defaultInstance();
     // Without a pool (one file read back after its save), tag names still share the copy every
@@ -291,7 +291,7 @@ TagDictionary ExifRunner::preformatValues(const TagDictionary &values, StringPoo
     return formatted;
 }
 
-void ExifRunner::filterLeicaLensData(TagDictionary &values)
+void MetadataReader::filterLeicaLensData(TagDictionary &values)
 {
     static const QString lensTypeKey = QStringLiteral("Leica:LensType");
     auto lensType = values.find(lensTypeKey);
@@ -304,7 +304,7 @@ void ExifRunner::filterLeicaLensData(TagDictionary &values)
     *lensType = lensType->section(QLatin1Char(' '), 0, 0);
 }
 
-bool ExifRunner::backupExifFile(const ExifFileInfo &file, ErrorMessages &errors)
+bool MetadataReader::backupExifFile(const ExifFileInfo &file, ErrorMessages &errors)
 {
     const QString backupPath = file.backupFileName();
     QFile source(file.fileName());

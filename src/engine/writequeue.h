@@ -20,18 +20,18 @@ class QThread;
 // each file fileStarted then fileFinished, the batch's batchFinished last. Each thread keeps one
 // ExifTool session for all of its operations. The thread that made the runner must run an event
 // loop for any signal to come; none comes once the runner is destroyed.
-class ExifBackgroundRunner : public QObject
+class WriteQueue : public QObject
 {
     Q_OBJECT
 
 public:
     static inline const QString ThreadName = QStringLiteral("Exif Operations Background Runner");
 
-    explicit ExifBackgroundRunner(QObject *parent = nullptr,
+    explicit WriteQueue(QObject *parent = nullptr,
                                   ExifToolSessionKind sessionKind = ExifToolSessionKind::Persistent,
                                   QString exifToolProgram = exifToolPath());
     // Lets queued batches finish (a file is never left half-written), then stops the thread.
-    ~ExifBackgroundRunner() override;
+    ~WriteQueue() override;
 
     // Each queues one batch (also when it is empty) and returns how many operations it holds.
     virtual qsizetype saveFiles(const QList<ExifFileInfoPtr> &files, ExifOperationOption options);

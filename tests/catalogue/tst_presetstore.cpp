@@ -1,4 +1,4 @@
-#include "catalogue/exifsettings.h"
+#include "catalogue/presetstore.h"
 #include "values/tagsmithexception.h"
 #include "values/usersettings.h"
 
@@ -19,7 +19,7 @@ struct RecordingListener : QObject
         , name(name)
     {
     }
-    void listen(ExifSettings &store)
+    void listen(PresetStore &store)
     {
         store.onPresetsChanged(this, [this] {
             calls->append(QLatin1String(name));
@@ -31,21 +31,21 @@ struct RecordingListener : QObject
     const char *name;
 };
 
-ExifConfigurationPtr preset(const char *identifier, const QString &name = u"P"_s)
+PresetPtr preset(const char *identifier, const QString &name = u"P"_s)
 {
-    return std::make_shared<ExifConfiguration>(QLatin1String(identifier), name);
+    return std::make_shared<Preset>(QLatin1String(identifier), name);
 }
 
 QString storedNames()
 {
     return QSettings(UserSettings::storeFile(), QSettings::IniFormat)
-        .value(ExifSettings::SettingsNamesKey)
+        .value(PresetStore::SettingsNamesKey)
         .toString();
 }
 
 } // namespace
 
-class TestExifSettings : public QObject
+class TestPresetStore : public QObject
 {
     Q_OBJECT
 
@@ -78,17 +78,17 @@ private Q_SLOTS:
     {
         QFETCH(QString, text);
         QFETCH(QString, nameBack);
-        ExifSettings store;
+        PresetStore store;
         const auto saved = preset("configuration-0", text);
         saved->changedValues().insert(u"IPTC:City"_s, text);
         saved->changedValues().insert(u"IFD0:Make"_s, u"Canon"_s);
         saved->removedValues() = {u"GPS:GPSLatitude"_s, u"XMP-x:Odd\"Key<&>"_s};
         store.saveConfiguration(saved);
 
-        ExifSettings reopened;
+        PresetStore reopened;
         reopened.initializeSettings();
         QCOMPARE(reopened.configurations().keys(), QStringList{u"configuration-0"_s});
-        const ExifConfigurationPtr loaded = reopened.loadConfiguration(u"configuration-0"_s);
+        const PresetPtr loaded = reopened.loadConfiguration(u"configuration-0"_s);
         QVERIFY(loaded);
         QCOMPARE(loaded->name(), nameBack.isNull() ? saved->name() : nameBack);
         QCOMPARE(loaded->changedValues(), saved->changedValues());
@@ -97,7 +97,7 @@ private Q_SLOTS:
 
     void storesTheDocumentLayout()
     {
-        ExifSettings store;
+        PresetStore store;
         const auto holiday = preset("configuration-3", u"Holiday"_s);
         holiday->changedValues().insert(u"IPTC:City"_s, u"Rome"_s);
         holiday->removedValues().insert(u"GPS:GPSLatitude"_s);
@@ -119,7 +119,7 @@ private Q_SLOTS:
     {
         // The listed identifier is the key, whatever the document says.
         UserSettings::setValue(
-            ExifSettings::SettingsNamesKey,
+            PresetStore::SettingsNamesKey,
             u"configuration-0,configuration-1,configuration-2,configuration-7"_s);
         UserSettings::setValue(u"configuration-0"_s,
                                u"<configuration name=\"A\" identifier=\"other\"/>"_s);
@@ -128,7 +128,7 @@ private Q_SLOTS:
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"^Preset document unreadable"_s));
         QTest::ignoreMessage(
             QtWarningMsg, QRegularExpression(u"Skipping the unreadable preset.*configuration-1"_s));
-        ExifSettings store;
+        PresetStore store;
         store.initializeSettings();
         QCOMPARE(store.configurations().keys(),
                  (QStringList{u"configuration-0"_s, u"configuration-2"_s}));
@@ -140,7 +140,7 @@ private Q_SLOTS:
 
     void identifiersOfRemovedPresetsAreReused()
     {
-        ExifSettings store;
+        PresetStore store;
         for (int i = 0; i < 3; ++i)
             store.saveConfiguration(preset(qPrintable(store.findUnusedNewIdentifier())));
         store.removeConfigurationIdentifier(u"configuration-1"_s);
@@ -154,7 +154,7 @@ private Q_SLOTS:
     {
         QStringList calls;
         RecordingListener first(&calls, "first"), broken(&calls, "broken"), last(&calls, "last");
-        ExifSettings store;
+        PresetStore store;
         for (auto *listener : {&first, &broken, &last})
             listener->listen(store);
         QTest::ignoreMessage(QtWarningMsg,
@@ -169,5 +169,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestExifSettings)
-#include "tst_exifsettings.moc"
+QTEST_GUILESS_MAIN(TestPresetStore)
+#include "tst_presetstore.moc"

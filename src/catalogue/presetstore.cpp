@@ -1,4 +1,4 @@
-#include "catalogue/exifsettings.h"
+#include "catalogue/presetstore.h"
 
 #include "catalogue/xmlwriter.h"
 #include "values/logging.h"
@@ -37,18 +37,18 @@ QString storableName(QString name)
 
 } // namespace
 
-ExifSettings::ExifSettings(QObject *parent)
+PresetStore::PresetStore(QObject *parent)
     : QObject(parent)
 {
 }
 
-ExifSettings &ExifSettings::instance()
+PresetStore &PresetStore::instance()
 {
-    static ExifSettings settings;
+    static PresetStore settings;
     return settings;
 }
 
-void ExifSettings::initializeSettings()
+void PresetStore::initializeSettings()
 {
     const QString names = storedText(UserSettings::value(SettingsNamesKey));
     if (names.isEmpty())
@@ -57,19 +57,19 @@ void ExifSettings::initializeSettings()
         const QString document = storedText(UserSettings::value(identifier));
         if (document.isEmpty())
             continue;
-        if (ExifConfigurationPtr configuration = loadConfigurationFromXml(document))
+        if (PresetPtr configuration = loadConfigurationFromXml(document))
             m_configurations.insert(identifier, configuration);
         else
             qCWarning(lcTagsmith) << "Skipping the unreadable preset" << identifier;
     }
 }
 
-ExifConfigurationPtr ExifSettings::loadConfiguration(const QString &identifier) const
+PresetPtr PresetStore::loadConfiguration(const QString &identifier) const
 {
     return m_configurations.value(identifier);
 }
 
-void ExifSettings::saveConfiguration(const ExifConfigurationPtr &configuration)
+void PresetStore::saveConfiguration(const PresetPtr &configuration)
 {
     if (!m_configurations.contains(configuration->identifier())) {
         m_configurations.insert(configuration->identifier(), configuration);
@@ -79,7 +79,7 @@ void ExifSettings::saveConfiguration(const ExifConfigurationPtr &configuration)
     fireConfigurationChangeEvent();
 }
 
-void ExifSettings::removeConfigurationIdentifier(const QString &identifier)
+void PresetStore::removeConfigurationIdentifier(const QString &identifier)
 {
     m_configurations.remove(identifier);
     writeConfigurationNames();
@@ -87,7 +87,7 @@ void ExifSettings::removeConfigurationIdentifier(const QString &identifier)
     fireConfigurationChangeEvent();
 }
 
-QString ExifSettings::findUnusedNewIdentifier() const
+QString PresetStore::findUnusedNewIdentifier() const
 {
     for (qint64 n = 0;; ++n) {
         const QString identifier = QStringLiteral("configuration-%1").arg(n);
@@ -96,10 +96,10 @@ QString ExifSettings::findUnusedNewIdentifier() const
     }
 }
 
-QMetaObject::Connection ExifSettings::onPresetsChanged(const QObject *context,
+QMetaObject::Connection PresetStore::onPresetsChanged(const QObject *context,
                                                        std::function<void()> receiver)
 {
-    return connect(this, &ExifSettings::presetsChanged, context, [receiver = std::move(receiver)] {
+    return connect(this, &PresetStore::presetsChanged, context, [receiver = std::move(receiver)] {
         try {
             receiver();
         } catch (const TagsmithException &e) {
@@ -114,7 +114,7 @@ QMetaObject::Connection ExifSettings::onPresetsChanged(const QObject *context,
     });
 }
 
-QString ExifSettings::configurationToXml(const ExifConfiguration &configuration)
+QString PresetStore::configurationToXml(const Preset &configuration)
 {
     XMLWriter writer;
     writer.startElement(configurationElement);
@@ -139,10 +139,10 @@ QString ExifSettings::configurationToXml(const ExifConfiguration &configuration)
     return writer.output();
 }
 
-ExifConfigurationPtr ExifSettings::loadConfigurationFromXml(const QString &text)
+PresetPtr PresetStore::loadConfigurationFromXml(const QString &text)
 {
     QXmlStreamReader reader(text);
-    ExifConfigurationPtr configuration;
+    PresetPtr configuration;
     QString fieldName;
     QString textBuffer;
     while (!reader.atEnd()) {
@@ -152,7 +152,7 @@ ExifConfigurationPtr ExifSettings::loadConfigurationFromXml(const QString &text)
             const auto attributes = reader.attributes();
             const auto name = reader.name();
             if (name == configurationElement) {
-                configuration = std::make_shared<ExifConfiguration>(
+                configuration = std::make_shared<Preset>(
                     attributes.value(identifierAttribute).toString(),
                     attributes.value(nameAttribute).toString());
             } else if (!configuration) {
@@ -191,12 +191,12 @@ ExifConfigurationPtr ExifSettings::loadConfigurationFromXml(const QString &text)
     return configuration;
 }
 
-void ExifSettings::writeConfigurationNames()
+void PresetStore::writeConfigurationNames()
 {
     UserSettings::setValue(SettingsNamesKey, m_configurations.keys().join(u','));
 }
 
-void ExifSettings::fireConfigurationChangeEvent()
+void PresetStore::fireConfigurationChangeEvent()
 {
     Q_EMIT presetsChanged();
 }

@@ -19,11 +19,11 @@ class FileReplacement;
 // Base of the operations that rewrite one file: ExifTool writes a new file ("-o"), which is
 // checked and then put in place of the old one; the file's dates are restored as the settings
 // ask, and the file is re-read so the window shows what is on disk.
-class ExifRunnerFileModifiyOperation : public ExifRunnerOperation
+class FileRewriteOperation : public ExifRunnerOperation
 {
 public:
-    ExifRunnerFileModifiyOperation(ExifFileInfoPtr efi, ExifOperationOption options);
-    ~ExifRunnerFileModifiyOperation() override;
+    FileRewriteOperation(ExifFileInfoPtr efi, ExifOperationOption options);
+    ~FileRewriteOperation() override;
 
     QString fileName() const override { return m_fileName; }
     ExifFileInfoPtr file() const override { return m_efi; }
@@ -94,7 +94,7 @@ private:
     // original. typeDiffers: ExifTool named its type apart from the original's only because the
     // temporary name has no extension.
     std::optional<TagDictionary> checkNewFile(ErrorMessages &errors, bool &typeDiffers);
-    // Reads files through the operation's session, the way ExifRunner reads them.
+    // Reads files through the operation's session, the way MetadataReader reads them.
     QHash<QString, TagDictionary> readFiles(const QStringList &paths, const QStringList &extra,
                                             ExifToolResult &result);
     void describeFinalFile(TagDictionary &values) const;

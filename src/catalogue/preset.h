@@ -7,11 +7,11 @@
 #include <memory>
 
 // One preset: tag values to write and tags to delete, applied to any number of files.
-class ExifConfiguration
+class Preset
 {
 public:
-    ExifConfiguration() = default;
-    ExifConfiguration(QString identifier, QString name)
+    Preset() = default;
+    Preset(QString identifier, QString name)
         : m_name(std::move(name))
         , m_identifier(std::move(identifier))
     {
@@ -29,7 +29,7 @@ public:
     QSet<QString> &removedValues() { return m_removedValues; }
     const QSet<QString> &removedValues() const { return m_removedValues; }
 
-    friend bool operator==(const ExifConfiguration &, const ExifConfiguration &) = default;
+    friend bool operator==(const Preset &, const Preset &) = default;
 
 private:
     QString m_name;
@@ -39,4 +39,4 @@ private:
 };
 
 // Shared because the presets window edits the very object the store holds.
-using ExifConfigurationPtr = std::shared_ptr<ExifConfiguration>;
+using PresetPtr = std::shared_ptr<Preset>;

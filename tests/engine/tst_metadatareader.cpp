@@ -1,5 +1,5 @@
 #include "engine/errormessages.h"
-#include "engine/exifrunner.h"
+#include "engine/metadatareader.h"
 #include "catalogue/exiffield.h"
 #include "catalogue/exiffieldscontroller.h"
 
@@ -46,7 +46,7 @@ QByteArray loggingScript(const QString &log, const QByteArray &then)
 
 } // namespace
 
-class TestExifRunner : public QObject
+class TestMetadataReader : public QObject
 {
     Q_OBJECT
 
@@ -64,7 +64,7 @@ private Q_SLOTS:
                           true));
         for (const QString &path : {m_set.jpeg, m_set.missing, m_set.tiff, m_set.png, m_set.text})
             m_files.append(std::make_shared<ExifFileInfo>(path));
-        m_result = ExifRunner(wrapper).loadExifInformations(m_files);
+        m_result = MetadataReader(wrapper).readRecords(m_files);
     }
 
     void oneRunReadsTheWholeBatch()
@@ -119,7 +119,7 @@ private Q_SLOTS:
     void pathSpeltDifferentlyFindsNoRecord()
     {
         const auto file = std::make_shared<ExifFileInfo>(m_dir.path() + u"//-dash.png"_qs);
-        QVERIFY(ExifRunner().loadExifInformation(file).ok());
+        QVERIFY(MetadataReader().readRecord(file).ok());
         QVERIFY(file->isValid());
         QVERIFY(file->exifData().isEmpty() && file->originalExifData().isEmpty());
     }
@@ -130,39 +130,39 @@ private Q_SLOTS:
         const QString caption = u"IFD0:ImageDescription"_qs;
         QCOMPARE(Fixtures::makeImage(path, {u"-IFD0:ImageDescription=Before"_qs}), QString());
         const auto file = std::make_shared<ExifFileInfo>(path);
-        ExifRunner runner;
-        QVERIFY(runner.loadExifInformation(file).ok());
+        MetadataReader runner;
+        QVERIFY(runner.readRecord(file).ok());
         file->setExifValue(u"IFD0:Artist"_qs, u"Pending edit"_qs);
         QVERIFY(Fixtures::runExifTool(
                     {u"-overwrite_original"_qs, u"-"_qs + caption + u"=After"_qs, path})
                     .ok());
 
-        QVERIFY(runner.updateOriginalExifInformation(file).ok());
+        QVERIFY(runner.rereadOriginal(file).ok());
         QCOMPARE(file->originalExifData().value(caption), u"After"_qs);
         QCOMPARE(file->exifValue(caption), u"Before"_qs);
         QCOMPARE(file->exifValue(u"IFD0:Artist"_qs), u"Pending edit"_qs);
-        QVERIFY(runner.loadExifInformation(file).ok()); // a reload replaces both
+        QVERIFY(runner.readRecord(file).ok()); // a reload replaces both
         QCOMPARE(file->exifValue(caption), u"After"_qs);
         QVERIFY(!file->hasExifValue(u"IFD0:Artist"_qs));
 
         // Once the file is gone a reload marks it invalid.
         QVERIFY(QFile::remove(path));
-        runner.loadExifInformation(file);
+        runner.readRecord(file);
         QVERIFY(!file->isValid());
     }
 
     void unstartableExifToolIsReportedAndLeavesRecordsAlone()
     {
-        ExifRunner runner(u"/nonexistent/exiftool"_qs);
+        MetadataReader runner(u"/nonexistent/exiftool"_qs);
         const auto file = std::make_shared<ExifFileInfo>(m_set.jpeg);
         QElapsedTimer timer;
         timer.start();
-        const ExifReadResult result = runner.loadExifInformations({file});
+        const ExifReadResult result = runner.readRecords({file});
         QVERIFY(timer.elapsed() < 10000);
         QVERIFY2(!result.ok() && result.errorMessage.contains(u"/nonexistent/exiftool"_qs),
                  qPrintable(result.errorMessage));
         QVERIFY(!file->isValid() && file->exifData().isEmpty());
-        QVERIFY(!runner.updateOriginalExifInformation(file).ok());
+        QVERIFY(!runner.rereadOriginal(file).ok());
         QVERIFY(!runner.executeRawCommand_FileInfo({m_set.jpeg}).hasStarted());
     }
 
@@ -180,7 +180,7 @@ private Q_SLOTS:
             files.append(std::make_shared<ExifFileInfo>(paths.last()));
         }
         const ExifReadResult result =
-            ExifRunner(dir.filePath(u"fake"_qs)).loadExifInformations(files);
+            MetadataReader(dir.filePath(u"fake"_qs)).readRecords(files);
         QVERIFY2(result.ok(), qPrintable(result.errorMessage));
         QVERIFY(files.last()->isValid());
 
@@ -209,13 +209,13 @@ private Q_SLOTS:
                 QCOMPARE(Fixtures::makeImage(path, {u"-Artist=Ann"_qs}), QString());
             files.append(std::make_shared<ExifFileInfo>(path));
         }
-        const int limit = ExifRunner::readTimeout();
-        ExifRunner::setReadTimeout(2000);
+        const int limit = MetadataReader::readTimeout();
+        MetadataReader::setReadTimeout(2000);
         QElapsedTimer clock;
         clock.start();
-        const ExifReadResult result = ExifRunner().loadExifInformations(files);
+        const ExifReadResult result = MetadataReader().readRecords(files);
         const qint64 elapsed = clock.elapsed();
-        ExifRunner::setReadTimeout(limit);
+        MetadataReader::setReadTimeout(limit);
 
         QVERIFY2(result.ok(), qPrintable(result.errorMessage));
         QCOMPARE(result.timedOut, QStringList{folder + u"/stuck.jpg"_qs});
@@ -252,7 +252,7 @@ private Q_SLOTS:
         field.setDataType(FieldDataType(type));
         field.setDataRepresentation(FieldDataRepresentation::Number);
         field.setDecimals(decimals);
-        ExifRunner runner;
+        MetadataReader runner;
         QTEST(runner.formatValue(raw, field), "formatted");
         field.setDataRepresentation(FieldDataRepresentation::Fraction);
         QCOMPARE(runner.formatValue(raw, field), raw);
@@ -289,7 +289,7 @@ private Q_SLOTS:
         if (!backup.isNull())
             QVERIFY(writeFile(path, bytes));
         ErrorMessages errors(path);
-        QCOMPARE(ExifRunner::backupExifFile(ExifFileInfo(path), errors), !backup.isNull());
+        QCOMPARE(MetadataReader::backupExifFile(ExifFileInfo(path), errors), !backup.isNull());
         QCOMPARE(errors.errorsCount(), backup.isNull() ? 1u : 0u);
         if (backup.isNull()) {
             QCOMPARE(errors.messages().first().fileName(), path);
@@ -348,5 +348,5 @@ private:
     ExifReadResult m_result;
 };
 
-QTEST_GUILESS_MAIN(TestExifRunner)
-#include "tst_exifrunner.moc"
+QTEST_GUILESS_MAIN(TestMetadataReader)
+#include "tst_metadatareader.moc"

@@ -1,8 +1,8 @@
-#include "engine/exifrunnerfilemodifiyoperation.h"
+#include "engine/filerewriteoperation.h"
 
 #include "catalogue/exiffieldscontroller.h"
 #include "engine/exifreportparser.h"
-#include "engine/exifrunner.h"
+#include "engine/metadatareader.h"
 #include "engine/exiftoolsession.h"
 #include "engine/filereplacement.h"
 #include "values/dateoffset.h"
@@ -34,7 +34,7 @@ const QStringList DimensionKeys{QStringLiteral("File:ImageWidth"),
                                 QStringLiteral("File:ImageHeight"),
                                 QStringLiteral("Composite:ImageSize")};
 
-constexpr TrContext tr{"ExifRunnerFileModifiyOperation"};
+constexpr TrContext tr{"FileRewriteOperation"};
 
 // ExifTool names a record "<Directory>/<FileName>" as it printed them, which is the path it was
 // given; the file name alone is the fallback should it ever print the folder differently.
@@ -91,7 +91,7 @@ QString exifToolFileDate(const QDateTime &date)
 
 } // namespace
 
-ExifRunnerFileModifiyOperation::ExifRunnerFileModifiyOperation(ExifFileInfoPtr efi,
+FileRewriteOperation::FileRewriteOperation(ExifFileInfoPtr efi,
                                                                ExifOperationOption options)
     : m_fileName(efi->fileName())
     , m_efi(std::move(efi))
@@ -99,27 +99,27 @@ ExifRunnerFileModifiyOperation::ExifRunnerFileModifiyOperation(ExifFileInfoPtr e
 {
 }
 
-ExifRunnerFileModifiyOperation::~ExifRunnerFileModifiyOperation() = default;
+FileRewriteOperation::~FileRewriteOperation() = default;
 
-void ExifRunnerFileModifiyOperation::setCommandTimeouts(int baseMs, int perMegabyteMs)
+void FileRewriteOperation::setCommandTimeouts(int baseMs, int perMegabyteMs)
 {
     s_timeoutBaseMs = baseMs;
     s_timeoutPerMegabyteMs = perMegabyteMs;
 }
 
-ErrorMessagesPtr ExifRunnerFileModifiyOperation::errors() const
+ErrorMessagesPtr FileRewriteOperation::errors() const
 {
     QMutexLocker locker(&m_lock);
     return m_errors;
 }
 
-std::optional<TagDictionary> ExifRunnerFileModifiyOperation::oldData() const
+std::optional<TagDictionary> FileRewriteOperation::oldData() const
 {
     QMutexLocker locker(&m_lock);
     return m_oldData;
 }
 
-void ExifRunnerFileModifiyOperation::storeResults(ErrorMessagesPtr errors,
+void FileRewriteOperation::storeResults(ErrorMessagesPtr errors,
                                                   std::optional<TagDictionary> oldData)
 {
     if (oldData && oldData->contains(QStringLiteral("System:FileModifyDate"))) {
@@ -135,7 +135,7 @@ void ExifRunnerFileModifiyOperation::storeResults(ErrorMessagesPtr errors,
     m_oldData = std::move(oldData);
 }
 
-void ExifRunnerFileModifiyOperation::postProcessInMainThread()
+void FileRewriteOperation::postProcessInMainThread()
 {
     const std::optional<TagDictionary> data = oldData();
     if (!reReads() || !data)
@@ -160,7 +160,7 @@ void ExifRunnerFileModifiyOperation::postProcessInMainThread()
     replaceDateTimeOffsets();
 }
 
-void ExifRunnerFileModifiyOperation::replaceDateTimeOffsets()
+void FileRewriteOperation::replaceDateTimeOffsets()
 {
     // Every date field, changed or not: a shift just written must not be applied again.
     const TagDictionary original = m_efi->originalExifData();
@@ -178,8 +178,8 @@ void ExifRunnerFileModifiyOperation::replaceDateTimeOffsets()
     }
 }
 
-ExifRunnerFileModifiyOperation::WriteResult
-ExifRunnerFileModifiyOperation::writeFile(const QStringList &arguments, ErrorMessages &errors)
+FileRewriteOperation::WriteResult
+FileRewriteOperation::writeFile(const QStringList &arguments, ErrorMessages &errors)
 {
     WriteResult result;
     const qint64 megabytes = QFileInfo(m_fileName).size() / (1024 * 1024);
@@ -232,12 +232,12 @@ ExifRunnerFileModifiyOperation::writeFile(const QStringList &arguments, ErrorMes
     return result;
 }
 
-QString ExifRunnerFileModifiyOperation::keptFile() const
+QString FileRewriteOperation::keptFile() const
 {
     return m_replacement ? m_replacement->keptFile() : QString();
 }
 
-bool ExifRunnerFileModifiyOperation::mayWrite(ErrorMessages &errors) const
+bool FileRewriteOperation::mayWrite(ErrorMessages &errors) const
 {
     const std::optional<FileIdentity> expected = m_efi->identity();
     const std::optional<FileIdentity> current = FileIdentity::of(m_fileName);
@@ -260,7 +260,7 @@ bool ExifRunnerFileModifiyOperation::mayWrite(ErrorMessages &errors) const
     return true;
 }
 
-std::optional<TagDictionary> ExifRunnerFileModifiyOperation::checkNewFile(ErrorMessages &errors,
+std::optional<TagDictionary> FileRewriteOperation::checkNewFile(ErrorMessages &errors,
                                                                           bool &typeDiffers)
 {
     const QString newPath = m_replacement->temporaryPath();
@@ -339,24 +339,24 @@ std::optional<TagDictionary> ExifRunnerFileModifiyOperation::checkNewFile(ErrorM
     return written;
 }
 
-QHash<QString, TagDictionary> ExifRunnerFileModifiyOperation::readFiles(const QStringList &paths,
+QHash<QString, TagDictionary> FileRewriteOperation::readFiles(const QStringList &paths,
                                                                         const QStringList &extra,
                                                                         ExifToolResult &result)
 {
-    QStringList arguments = extra + ExifRunner::readCommandArguments(paths);
+    QStringList arguments = extra + MetadataReader::readCommandArguments(paths);
     result = exifToolSession().execute(arguments, commandTimeout());
     if (DebugMode::isEnabled()) {
         debugPrintArguments(arguments);
         debugPrintExifToolOut(result.standardError);
     }
     QHash<QString, TagDictionary> records = ExifReportParser::parse(result.standardOutput);
-    ExifRunner formatter(exifToolSession().program());
+    MetadataReader formatter(exifToolSession().program());
     for (TagDictionary &record : records)
         record = formatter.preformatValues(record);
     return records;
 }
 
-void ExifRunnerFileModifiyOperation::describeFinalFile(TagDictionary &values) const
+void FileRewriteOperation::describeFinalFile(TagDictionary &values) const
 {
     // The read-back named the temporary file; the window shows the file itself.
     const TagDictionary original = m_efi->originalExifData();
@@ -373,11 +373,11 @@ void ExifRunnerFileModifiyOperation::describeFinalFile(TagDictionary &values) co
     }
 }
 
-void ExifRunnerFileModifiyOperation::verifyWrittenValues(const TagDictionary &, ErrorMessages &)
+void FileRewriteOperation::verifyWrittenValues(const TagDictionary &, ErrorMessages &)
 {
 }
 
-TagDictionary ExifRunnerFileModifiyOperation::loadOldDataWithErrors(ErrorMessages &)
+TagDictionary FileRewriteOperation::loadOldDataWithErrors(ErrorMessages &)
 {
     if (!QFileInfo::exists(m_fileName))
         return {};
@@ -385,12 +385,12 @@ TagDictionary ExifRunnerFileModifiyOperation::loadOldDataWithErrors(ErrorMessage
     return recordOf(readFiles({m_fileName}, {}, run), m_fileName);
 }
 
-bool ExifRunnerFileModifiyOperation::moveTempToFinal(ErrorMessages &errors)
+bool FileRewriteOperation::moveTempToFinal(ErrorMessages &errors)
 {
     return m_replacement->commit(errors);
 }
 
-void ExifRunnerFileModifiyOperation::updateFileDates()
+void FileRewriteOperation::updateFileDates()
 {
     std::optional<timespec> modified;
     switch (UserSettings::fileModifyDateMode()) {
@@ -413,7 +413,7 @@ void ExifRunnerFileModifiyOperation::updateFileDates()
         qCWarning(lcTagsmith).noquote() << error;
 }
 
-std::optional<QDateTime> ExifRunnerFileModifiyOperation::findDateForFile(const QString &key) const
+std::optional<QDateTime> FileRewriteOperation::findDateForFile(const QString &key) const
 {
     const QString value = m_efi->exifValue(key);
     if (value.isNull())
@@ -430,7 +430,7 @@ std::optional<QDateTime> ExifRunnerFileModifiyOperation::findDateForFile(const Q
     return date;
 }
 
-QString ExifRunnerFileModifiyOperation::createTempFilePathForPath(const QString &path)
+QString FileRewriteOperation::createTempFilePathForPath(const QString &path)
 {
     m_replacement = std::make_unique<FileReplacement>(path);
     m_tempFileName.clear();
@@ -439,7 +439,7 @@ QString ExifRunnerFileModifiyOperation::createTempFilePathForPath(const QString 
     return m_tempFileName;
 }
 
-void ExifRunnerFileModifiyOperation::debugPrintArguments(const QStringList &arguments) const
+void FileRewriteOperation::debugPrintArguments(const QStringList &arguments) const
 {
     QString text;
     for (const QString &argument : arguments)
@@ -448,7 +448,7 @@ void ExifRunnerFileModifiyOperation::debugPrintArguments(const QStringList &argu
 }
 
 std::optional<TagDictionary>
-ExifRunnerFileModifiyOperation::adoptRewrittenFile(const WriteResult &result)
+FileRewriteOperation::adoptRewrittenFile(const WriteResult &result)
 {
     QMutexLocker locker(&m_lock);
     std::optional<TagDictionary> reRead;

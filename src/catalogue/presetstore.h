@@ -1,6 +1,6 @@
 #pragma once
 
-#include "catalogue/exifconfiguration.h"
+#include "catalogue/preset.h"
 
 #include <QMap>
 #include <QObject>
@@ -10,7 +10,7 @@
 
 // The presets, kept in the user settings store: "settings-names" lists the identifiers, and each
 // identifier's entry holds that preset as an XML document. Main thread only.
-class ExifSettings : public QObject
+class PresetStore : public QObject
 {
     Q_OBJECT
 
@@ -18,14 +18,14 @@ public:
     static inline const QString SettingsNamesKey = QStringLiteral("settings-names");
 
     // A separate store is only for tests; the program uses instance().
-    explicit ExifSettings(QObject *parent = nullptr);
-    static ExifSettings &instance();
+    explicit PresetStore(QObject *parent = nullptr);
+    static PresetStore &instance();
 
     void initializeSettings();
 
-    const QMap<QString, ExifConfigurationPtr> &configurations() const { return m_configurations; }
-    ExifConfigurationPtr loadConfiguration(const QString &identifier) const;
-    void saveConfiguration(const ExifConfigurationPtr &configuration);
+    const QMap<QString, PresetPtr> &configurations() const { return m_configurations; }
+    PresetPtr loadConfiguration(const QString &identifier) const;
+    void saveConfiguration(const PresetPtr &configuration);
     void removeConfigurationIdentifier(const QString &identifier);
     QString findUnusedNewIdentifier() const;
 
@@ -34,9 +34,9 @@ public:
     QMetaObject::Connection onPresetsChanged(const QObject *context,
                                              std::function<void()> receiver);
 
-    static QString configurationToXml(const ExifConfiguration &configuration);
+    static QString configurationToXml(const Preset &configuration);
     // Null when the text holds no well-formed preset document.
-    static ExifConfigurationPtr loadConfigurationFromXml(const QString &text);
+    static PresetPtr loadConfigurationFromXml(const QString &text);
 
 Q_SIGNALS:
     // After every change of the presets (a save or a removal).
@@ -46,5 +46,5 @@ private:
     void writeConfigurationNames();
     void fireConfigurationChangeEvent();
 
-    QMap<QString, ExifConfigurationPtr> m_configurations;
+    QMap<QString, PresetPtr> m_configurations;
 };

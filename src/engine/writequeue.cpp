@@ -1,4 +1,4 @@
-#include "engine/exifbackgroundrunner.h"
+#include "engine/writequeue.h"
 
 #include "engine/exifrunnerremoveexifgroupsoperation.h"
 #include "engine/exifrunnerremovemetadataoperation.h"
@@ -63,10 +63,10 @@ using BatchRunPtr = std::shared_ptr<BatchRun>;
 // The runner's threads and its FIFO of batches. The first thread takes the batches one after
 // another; while it runs one, a second thread may help with its files. Each thread makes and
 // ends its own ExifTool session, as a process must stay with the thread that started it.
-class ExifBackgroundRunner::Worker
+class WriteQueue::Worker
 {
 public:
-    Worker(ExifBackgroundRunner *runner, ExifToolSessionKind kind, QString program)
+    Worker(WriteQueue *runner, ExifToolSessionKind kind, QString program)
         : m_runner(runner)
         , m_kind(kind)
         , m_program(std::move(program))
@@ -314,7 +314,7 @@ private:
         QMetaObject::invokeMethod(m_runner, std::move(call), Qt::QueuedConnection);
     }
 
-    ExifBackgroundRunner *m_runner;
+    WriteQueue *m_runner;
     const ExifToolSessionKind m_kind;
     const QString m_program;
     std::unique_ptr<QThread> m_thread;
@@ -332,35 +332,35 @@ private:
     std::atomic<int> m_concurrency{2};
 };
 
-ExifBackgroundRunner::ExifBackgroundRunner(QObject *parent, ExifToolSessionKind sessionKind,
+WriteQueue::WriteQueue(QObject *parent, ExifToolSessionKind sessionKind,
                                            QString exifToolProgram)
     : QObject(parent)
     , m_worker(std::make_unique<Worker>(this, sessionKind, std::move(exifToolProgram)))
 {
 }
 
-ExifBackgroundRunner::~ExifBackgroundRunner() = default;
+WriteQueue::~WriteQueue() = default;
 
-qsizetype ExifBackgroundRunner::saveFiles(const QList<ExifFileInfoPtr> &files,
+qsizetype WriteQueue::saveFiles(const QList<ExifFileInfoPtr> &files,
                                           ExifOperationOption options)
 {
     return queueOperations(createSaveOperations(files, options));
 }
 
-qsizetype ExifBackgroundRunner::removeAllMetadata(const QList<ExifFileInfoPtr> &files,
+qsizetype WriteQueue::removeAllMetadata(const QList<ExifFileInfoPtr> &files,
                                                   ExifOperationOption options)
 {
     return queueOperations(createRemoveOperations(files, options));
 }
 
-qsizetype ExifBackgroundRunner::removeMakerNotesFromFiles(const QList<ExifFileInfoPtr> &files,
+qsizetype WriteQueue::removeMakerNotesFromFiles(const QList<ExifFileInfoPtr> &files,
                                                           ExifOperationOption options)
 {
     return queueOperations(createRemoveMakerNotesOperations(files, options));
 }
 
 QList<ExifRunnerOperationPtr>
-ExifBackgroundRunner::createSaveOperations(const QList<ExifFileInfoPtr> &files,
+WriteQueue::createSaveOperations(const QList<ExifFileInfoPtr> &files,
                                            ExifOperationOption options) const
 {
     QList<ExifRunnerOperationPtr> operations;
@@ -372,7 +372,7 @@ ExifBackgroundRunner::createSaveOperations(const QList<ExifFileInfoPtr> &files,
 }
 
 QList<ExifRunnerOperationPtr>
-ExifBackgroundRunner::createRemoveOperations(const QList<ExifFileInfoPtr> &files,
+WriteQueue::createRemoveOperations(const QList<ExifFileInfoPtr> &files,
                                              ExifOperationOption options) const
 {
     QList<ExifRunnerOperationPtr> operations;
@@ -382,7 +382,7 @@ ExifBackgroundRunner::createRemoveOperations(const QList<ExifFileInfoPtr> &files
 }
 
 QList<ExifRunnerOperationPtr>
-ExifBackgroundRunner::createRemoveMakerNotesOperations(const QList<ExifFileInfoPtr> &files,
+WriteQueue::createRemoveMakerNotesOperations(const QList<ExifFileInfoPtr> &files,
                                                        ExifOperationOption options) const
 {
     QList<ExifRunnerOperationPtr> operations;
@@ -394,24 +394,24 @@ ExifBackgroundRunner::createRemoveMakerNotesOperations(const QList<ExifFileInfoP
     return ExifRunnerSameFileOperation::keepOnePerFile(operations);
 }
 
-qsizetype ExifBackgroundRunner::queueOperations(QList<ExifRunnerOperationPtr> operations)
+qsizetype WriteQueue::queueOperations(QList<ExifRunnerOperationPtr> operations)
 {
     const qsizetype count = operations.size();
     m_worker->enqueue(std::move(operations));
     return count;
 }
 
-void ExifBackgroundRunner::setMaximumConcurrentOperations(int count)
+void WriteQueue::setMaximumConcurrentOperations(int count)
 {
     m_worker->setMaximumConcurrentOperations(count);
 }
 
-int ExifBackgroundRunner::maximumConcurrentOperations() const
+int WriteQueue::maximumConcurrentOperations() const
 {
     return m_worker->maximumConcurrentOperations();
 }
 
-bool ExifBackgroundRunner::waitForIdle(int timeoutMs)
+bool WriteQueue::waitForIdle(int timeoutMs)
 {
     return m_worker->waitForIdle(timeoutMs);
 }

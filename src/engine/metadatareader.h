@@ -31,13 +31,13 @@ struct ExifReadResult
 
 // Reads files' metadata with one ExifTool run per call (split only where the argument list would
 // pass the kernel's limit). Not reentrant: one instance per thread.
-class ExifRunner
+class MetadataReader
 {
 public:
-    explicit ExifRunner(QString exifToolProgram = exifToolPath());
-    ~ExifRunner();
-    ExifRunner(const ExifRunner &) = delete;
-    ExifRunner &operator=(const ExifRunner &) = delete;
+    explicit MetadataReader(QString exifToolProgram = exifToolPath());
+    ~MetadataReader();
+    MetadataReader(const MetadataReader &) = delete;
+    MetadataReader &operator=(const MetadataReader &) = delete;
 
     bool backupFiles() const { return m_backupFiles; }
     void setBackupFiles(bool backup) { m_backupFiles = backup; }
@@ -56,11 +56,11 @@ public:
     // Missing files become not valid and stay out of the run; so do files ExifTool got stuck
     // on (ExifReadResult::timedOut), whose batch goes on without them. Every other file is valid
     // afterwards, with empty dictionaries when ExifTool reported nothing for it.
-    ExifReadResult loadExifInformations(const QList<ExifFileInfoPtr> &files);
+    ExifReadResult readRecords(const QList<ExifFileInfoPtr> &files);
     // The same for one file; a missing file only becomes not valid.
-    ExifReadResult loadExifInformation(const ExifFileInfoPtr &file);
+    ExifReadResult readRecord(const ExifFileInfoPtr &file);
     // Replaces only the as-read snapshot; a missing file changes nothing.
-    ExifReadResult updateOriginalExifInformation(const ExifFileInfoPtr &file);
+    ExifReadResult rereadOriginal(const ExifFileInfoPtr &file);
 
     // The bare read command over the given paths; the report is in standardOutput.
     ExifToolResult executeRawCommand_FileInfo(const QStringList &paths) const;
