@@ -55,7 +55,7 @@
     </message>
 </context>
 <context>
-    <name>MapWindowController</name>
+    <name>MapWindow</name>
     <message numerus="yes">
         <source>Remove the pin from %n file(s)?</source>
         <translation>
@@ -102,7 +102,7 @@
     </message>
 </context>
 <context>
-    <name>PresetsWindowController</name>
+    <name>PresetsWindow</name>
     <message numerus="yes">
         <source>%1 (removes %n tag(s))</source>
         <translation>

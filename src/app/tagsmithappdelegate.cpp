@@ -3,7 +3,7 @@
 #include "app/commandline.h"
 #include "windows/mainwindowcontroller.h"
 #include "windows/mainwindowmenus.h"
-#include "windows/preferenceswindowcontroller.h"
+#include "windows/preferenceswindow.h"
 #include "catalogue/presetstore.h"
 #include "catalogue/exiffieldscontroller.h"
 #include "controls/aperturetheme.h"
@@ -140,7 +140,7 @@ void TagsmithAppDelegate::replyToApplicationShouldTerminate(bool shouldTerminate
         QCoreApplication::exit(0);
 }
 
-PreferencesWindowController *TagsmithAppDelegate::preferencesWindowController() const
+PreferencesWindow *TagsmithAppDelegate::preferencesWindow() const
 {
     return m_preferencesWindowController.get();
 }
@@ -148,7 +148,7 @@ PreferencesWindowController *TagsmithAppDelegate::preferencesWindowController() 
 void TagsmithAppDelegate::showPreferences()
 {
     if (!m_preferencesWindowController)
-        m_preferencesWindowController = std::make_unique<PreferencesWindowController>();
+        m_preferencesWindowController = std::make_unique<PreferencesWindow>();
     m_preferencesWindowController->showWindow();
 }
 

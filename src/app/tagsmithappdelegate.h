@@ -11,7 +11,7 @@
 #include <functional>
 #include <memory>
 
-class PreferencesWindowController;
+class PreferencesWindow;
 class QWidget;
 
 // The application's shell: settings, start-up, the one main window, quitting, preferences and
@@ -56,7 +56,7 @@ public:
     const QFont &labelBoldFont() const { return m_labelBoldFont; }
     const QString &themeKey() const { return m_themeKey; }
     AppMainWindow *mainWindowController() const { return m_mainWindowController.get(); }
-    PreferencesWindowController *preferencesWindowController() const;
+    PreferencesWindow *preferencesWindow() const;
 
 public Q_SLOTS:
     // The Quit command: quits now, or leaves it to the main window's save question.
@@ -73,7 +73,7 @@ private:
     static QStringList currentArguments();
     std::unique_ptr<AppMainWindow> createMainWindow();
 
-    std::unique_ptr<PreferencesWindowController> m_preferencesWindowController;
+    std::unique_ptr<PreferencesWindow> m_preferencesWindowController;
     std::unique_ptr<AppMainWindow> m_mainWindowController;
     MainWindowFactory m_mainWindowFactory;
     QFont m_labelFont;

@@ -5,10 +5,10 @@
 #include "windows/mainwindow.h"
 #include "windows/mainwindowmenus.h"
 #include "windows/previewpanel.h"
-#include "windows/presetswindowcontroller.h"
-#include "windows/mapwindowcontroller.h"
-#include "windows/resultswindowcontroller.h"
-#include "windows/reviewchangeswindowcontroller.h"
+#include "windows/presetswindow.h"
+#include "windows/mapwindow.h"
+#include "windows/resultswindow.h"
+#include "windows/reviewchangeswindow.h"
 
 #include <QAction>
 #include <QPushButton>
@@ -42,17 +42,17 @@ AuxiliaryWindows::AuxiliaryWindows(MainWindow *window, MainWindowMenus *menus,
 void AuxiliaryWindows::showConfigurations()
 {
     if (!m_presets)
-        m_presets = new PresetsWindowController(m_window, m_store);
+        m_presets = new PresetsWindow(m_window, m_store);
     m_presets->showWindow();
 }
 
 void AuxiliaryWindows::showMap()
 {
     if (!m_map) {
-        m_map = new MapWindowController(m_session, m_window);
+        m_map = new MapWindow(m_session, m_window);
         // Only the coordinate rows follow the notifications; the altitude and GPS date and time
         // rows are refreshed by showing the selection again.
-        connect(m_map, &MapWindowController::pinsRemoved, this, [this] {
+        connect(m_map, &MapWindow::pinsRemoved, this, [this] {
             m_list->commitPendingInput();
             m_list->showCurrentFilesAgain();
         });
@@ -73,7 +73,7 @@ void AuxiliaryWindows::followSelection()
 void AuxiliaryWindows::showHideResultsWindow()
 {
     if (!m_results)
-        m_results = new ResultsWindowController(m_window);
+        m_results = new ResultsWindow(m_window);
     if (m_results->isVisible())
         m_results->hide();
     else
@@ -83,7 +83,7 @@ void AuxiliaryWindows::showHideResultsWindow()
 void AuxiliaryWindows::displayErrors(const QHash<QString, ErrorMessagesPtr> &results)
 {
     if (!m_results)
-        m_results = new ResultsWindowController(m_window);
+        m_results = new ResultsWindow(m_window);
     m_results->displayErrors(results);
     m_results->showWindow();
 }
@@ -110,9 +110,9 @@ void AuxiliaryWindows::reviewChanges()
     // A value still being typed is part of what a save would write.
     m_list->commitPendingInput();
     if (!m_review) {
-        m_review = new ReviewChangesWindowController(m_window);
+        m_review = new ReviewChangesWindow(m_window);
         m_review->setAttribute(Qt::WA_DeleteOnClose);
-        connect(m_review, &ReviewChangesWindowController::saveRequested, this,
+        connect(m_review, &ReviewChangesWindow::saveRequested, this,
                 &AuxiliaryWindows::saveRequested);
     }
     m_review->setFiles(m_list->files());
@@ -131,17 +131,17 @@ void AuxiliaryWindows::updateEnablement(const CommandState &state)
     m_window->reviewButton()->setEnabled(review);
 }
 
-MapWindowController *AuxiliaryWindows::mapWindowController() const
+MapWindow *AuxiliaryWindows::mapWindow() const
 {
     return m_map;
 }
 
-ResultsWindowController *AuxiliaryWindows::resultsWindowController() const
+ResultsWindow *AuxiliaryWindows::resultsWindow() const
 {
     return m_results;
 }
 
-PresetsWindowController *AuxiliaryWindows::presetsWindowController() const
+PresetsWindow *AuxiliaryWindows::presetsWindow() const
 {
     return m_presets;
 }

@@ -12,11 +12,11 @@ class PresetStore;
 class FileListPresenter;
 class MainWindow;
 class MainWindowMenus;
-class MapWindowController;
-class PresetsWindowController;
+class MapWindow;
+class PresetsWindow;
 class PreviewPanel;
-class ResultsWindowController;
-class ReviewChangesWindowController;
+class ResultsWindow;
+class ReviewChangesWindow;
 
 // The windows beside the main one: presets, map, results, review of changes and the preview
 // of the selected file. Each is made on first use.
@@ -38,9 +38,9 @@ public:
     void followSelection();
     void updateEnablement(const CommandState &state);
 
-    MapWindowController *mapWindowController() const;
-    ResultsWindowController *resultsWindowController() const;
-    PresetsWindowController *presetsWindowController() const;
+    MapWindow *mapWindow() const;
+    ResultsWindow *resultsWindow() const;
+    PresetsWindow *presetsWindow() const;
 
 Q_SIGNALS:
     // Save from the review window.
@@ -53,9 +53,9 @@ private:
     PresetStore &m_store;
     EditSession &m_session;
     bool m_saving = false;
-    QPointer<MapWindowController> m_map;
-    QPointer<ResultsWindowController> m_results;
-    QPointer<PresetsWindowController> m_presets;
-    QPointer<ReviewChangesWindowController> m_review;
+    QPointer<MapWindow> m_map;
+    QPointer<ResultsWindow> m_results;
+    QPointer<PresetsWindow> m_presets;
+    QPointer<ReviewChangesWindow> m_review;
     QPointer<PreviewPanel> m_preview;
 };

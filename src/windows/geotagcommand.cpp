@@ -5,7 +5,7 @@
 #include "windows/mainwindow.h"
 #include "windows/mainwindowmenus.h"
 #include "windows/geotagdialog.h"
-#include "windows/mapwindowcontroller.h"
+#include "windows/mapwindow.h"
 
 #include <QAction>
 
@@ -43,7 +43,7 @@ void GeotagCommand::geotagFromTrackLog()
     connect(dialog, &GeotagDialog::previewRequested, this,
             [this](const QList<TrackPoint> &track, const QList<MapPin> &proposed) {
                 m_windows->showMap();
-                m_windows->mapWindowController()->showTrack(track, proposed);
+                m_windows->mapWindow()->showTrack(track, proposed);
             });
     connect(dialog, &GeotagDialog::applied, this, [this](const QList<ExifFileInfoPtr> &changed) {
         // Only the coordinate rows follow the notifications; the others (altitude, GPS date and
@@ -53,7 +53,7 @@ void GeotagCommand::geotagFromTrackLog()
         Q_EMIT this->changed();
     });
     connect(dialog, &QDialog::finished, this, [this] {
-        if (MapWindowController *map = m_windows->mapWindowController())
+        if (MapWindow *map = m_windows->mapWindow())
             map->clearTrack();
     });
     dialog->show();

@@ -2,7 +2,7 @@
 
 #include "windows/filelistpresenter.h"
 #include "windows/mainwindowmenus.h"
-#include "windows/presetswindowcontroller.h"
+#include "windows/presetswindow.h"
 #include "engine/presetbatch.h"
 
 #include <QAction>
@@ -44,7 +44,7 @@ void PresetsMenu::updateConfigurations()
     // Each goes in at position 1, so the menu ends up in ascending order.
     for (int i = 0; i < presets.size(); ++i) {
         m_configIds.append(presets.at(i)->identifier());
-        auto *item = new QAction(PresetsWindowController::menuTitle(*presets.at(i)), menu);
+        auto *item = new QAction(PresetsWindow::menuTitle(*presets.at(i)), menu);
         item->setData(i);
         const QList<QAction *> actions = menu->actions();
         menu->insertAction(actions.size() > 1 ? actions.at(1) : nullptr, item);

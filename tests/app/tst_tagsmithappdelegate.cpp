@@ -1,4 +1,4 @@
-#include "windows/preferenceswindowcontroller.h"
+#include "windows/preferenceswindow.h"
 #include "app/tagsmithappdelegate.h"
 #include "catalogue/presetstore.h"
 #include "values/debugmode.h"
@@ -150,7 +150,7 @@ private Q_SLOTS:
     {
         TagsmithAppDelegate delegate;
         delegate.showPreferences();
-        QPointer<PreferencesWindowController> window = delegate.preferencesWindowController();
+        QPointer<PreferencesWindow> window = delegate.preferencesWindow();
         QVERIFY(window && window->isVisible());
         auto *box = window->findChild<QComboBox *>(UserSettings::FileCreateDate);
         QVERIFY(box);
@@ -165,7 +165,7 @@ private Q_SLOTS:
         // Changed elsewhere while hidden: the next opening shows the store, not the old state.
         UserSettings::setValue(UserSettings::ForceFixBase, false);
         delegate.showPreferences();
-        QCOMPARE(delegate.preferencesWindowController(), window.data());
+        QCOMPARE(delegate.preferencesWindow(), window.data());
         QVERIFY(!window->findChild<QCheckBox *>(UserSettings::ForceFixBase)->isChecked());
     }
 
@@ -173,7 +173,7 @@ private Q_SLOTS:
     {
         UserSettings::setValue(UserSettings::GpsFormat, 7);
         UserSettings::setValue(UserSettings::FileModifyDate, 9);
-        PreferencesWindowController window;
+        PreferencesWindow window;
         window.showWindow();
         QCOMPARE(window.findChild<QComboBox *>(UserSettings::GpsFormat)->currentData().toInt(), 0);
         QCOMPARE(window.findChild<QComboBox *>(UserSettings::FileModifyDate)->currentData().toInt(),
@@ -207,7 +207,7 @@ private Q_SLOTS:
             script.close();
             script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         }
-        PreferencesWindowController window(program);
+        PreferencesWindow window(program);
         window.showWindow();
         auto *version = window.findChild<QLabel *>(u"exifToolVersion"_s);
         auto *warning = window.findChild<QLabel *>(u"warning"_s);

@@ -17,7 +17,7 @@
 #include "values/usersettings.h"
 #include "windows/addfilesnote.h"
 #include "windows/fileinfocell.h"
-#include "windows/resultswindowcontroller.h"
+#include "windows/resultswindow.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemModelTester>
@@ -223,7 +223,7 @@ private Q_SLOTS:
         if (failureAnswer == u"Don't Exit"_s) {
             // The edit is still there to be saved again, and the reason is on screen.
             QVERIFY(window.hasModifiedFiles() && !window.operations()->progressPanel());
-            ResultsWindowController *results = window.auxiliaryWindows()->resultsWindowController();
+            ResultsWindow *results = window.auxiliaryWindows()->resultsWindow();
             QVERIFY(results && results->isVisible());
         }
         QTEST(m_replies, "replies");

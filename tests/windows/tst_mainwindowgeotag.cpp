@@ -12,7 +12,7 @@
 #include "values/usersettings.h"
 #include "windows/fileinfocell.h"
 #include "windows/geotagdialog.h"
-#include "windows/mapwindowcontroller.h"
+#include "windows/mapwindow.h"
 
 #include "../support/fixtures.h"
 
@@ -279,7 +279,7 @@ private Q_SLOTS:
         QVERIFY(window.fileList()->addFiles({path}) && window.fileList()->waitForPendingReads());
         window.fileList()->selectRows({0});
         window.menus()->action(MainWindowMenus::Command::ShowMap)->trigger();
-        MapWindowController *map = window.auxiliaryWindows()->mapWindowController();
+        MapWindow *map = window.auxiliaryWindows()->mapWindow();
         QVERIFY(map && map->removePinButton()->isEnabled());
         map->removePinButton()->click();
         QMessageBox *sheet = nullptr;

@@ -1,4 +1,4 @@
-#include "windows/mapwindowcontroller.h"
+#include "windows/mapwindow.h"
 
 #include "engine/editsession.h"
 
@@ -41,9 +41,9 @@ private Q_SLOTS:
 
 void TestMapWindow::pinsTravelBothWaysThroughTheChannel()
 {
-    QVERIFY(QFileInfo::exists(MapWindowController::pagePath()));
+    QVERIFY(QFileInfo::exists(MapWindow::pagePath()));
     EditSession session;
-    MapWindowController window(session);
+    MapWindow window(session);
     window.showWindow();
     QWebEnginePage *page = window.mapView()->page();
 

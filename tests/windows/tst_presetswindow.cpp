@@ -1,6 +1,6 @@
 #include "catalogue/exiffieldscontroller.h"
 #include "catalogue/presetstore.h"
-#include "windows/presetswindowcontroller.h"
+#include "windows/presetswindow.h"
 #include "editors/configurationviewcontroller.h"
 #include "editors/texteditor.h"
 #include "values/usersettings.h"
@@ -21,7 +21,7 @@ namespace {
 const QString TitleKey = QStringLiteral("XMP-dc:Title");
 const QString ArtistKey = QStringLiteral("IFD0:Artist");
 
-TextEditor *textRow(const PresetsWindowController &window, const QString &key)
+TextEditor *textRow(const PresetsWindow &window, const QString &key)
 {
     for (FieldEditor *editor : window.configController()->fields()) {
         if (editor->field()->xmlName() == key)
@@ -30,7 +30,7 @@ TextEditor *textRow(const PresetsWindowController &window, const QString &key)
     return nullptr;
 }
 
-void typeIntoPresetRow(const PresetsWindowController &window, const QString &key,
+void typeIntoPresetRow(const PresetsWindow &window, const QString &key,
                        const QString &text)
 {
     TextEditor *row = textRow(window, key);
@@ -39,7 +39,7 @@ void typeIntoPresetRow(const PresetsWindowController &window, const QString &key
     row->editor()->setText(text);
 }
 
-QString tableNames(const PresetsWindowController &window)
+QString tableNames(const PresetsWindow &window)
 {
     QStringList names;
     const QAbstractItemModel *model = window.configurationsTable()->model();
@@ -48,7 +48,7 @@ QString tableNames(const PresetsWindowController &window)
     return names.join(u'|');
 }
 
-int selectedRow(const PresetsWindowController &window)
+int selectedRow(const PresetsWindow &window)
 {
     const QModelIndexList rows = window.configurationsTable()->selectionModel()->selectedRows();
     return rows.isEmpty() ? -1 : rows.first().row();
@@ -99,7 +99,7 @@ private Q_SLOTS:
         m_store->saveConfiguration(first);
         addPreset(u"Second"_qs);
 
-        PresetsWindowController window(nullptr, *m_store);
+        PresetsWindow window(nullptr, *m_store);
         window.show();
         typeIntoPresetRow(window, TitleKey, u"Über, \"quoted\" & <tagged>"_qs);
 
@@ -140,7 +140,7 @@ private Q_SLOTS:
         preset.changedValues().insert(TitleKey, u"kept"_qs);
         for (const QString &key : removed)
             preset.removedValues().insert(key);
-        QTEST(PresetsWindowController::menuTitle(preset), "title");
+        QTEST(PresetsWindow::menuTitle(preset), "title");
     }
 
     // A ticked row left empty removes the tag when the preset is applied, and says so.
@@ -150,7 +150,7 @@ private Q_SLOTS:
         preset->removedValues().insert(u"IFD0:Make"_qs);
         preset->changedValues().insert(ArtistKey, u"Ann"_qs);
         m_store->saveConfiguration(preset);
-        PresetsWindowController window(nullptr, *m_store);
+        PresetsWindow window(nullptr, *m_store);
         window.show();
         const auto hintShown = [&window](const QString &key) {
             TextEditor *row = textRow(window, key);
@@ -181,7 +181,7 @@ private Q_SLOTS:
     {
         for (const QString &name : u"Preset 10|b|Preset 9|A|preset 011|Preset 2x"_qs.split(u'|'))
             addPreset(name);
-        PresetsWindowController window(nullptr, *m_store);
+        PresetsWindow window(nullptr, *m_store);
         QCOMPARE(tableNames(window), u"A|b|Preset 2x|Preset 9|Preset 10|preset 011"_qs);
         QCOMPARE(selectedRow(window), 0);
 
@@ -197,7 +197,7 @@ private Q_SLOTS:
     void removingLeavesNothingSelectedAndTheFormCleared()
     {
         addPreset(u"Only"_qs);
-        PresetsWindowController window(nullptr, *m_store);
+        PresetsWindow window(nullptr, *m_store);
         typeIntoPresetRow(window, TitleKey, u"title"_qs);
 
         window.addRemoveConfigurationPressed(1);
@@ -212,7 +212,7 @@ private Q_SLOTS:
     void addingWhileEditingSavesTheEditedPresetFirst()
     {
         const PresetPtr edited = addPreset(u"Edited"_qs);
-        PresetsWindowController window(nullptr, *m_store);
+        PresetsWindow window(nullptr, *m_store);
         window.show();
         typeIntoPresetRow(window, TitleKey, u"typed title"_qs);
 

@@ -1,5 +1,5 @@
 #include "windows/resultsmodel.h"
-#include "windows/resultswindowcontroller.h"
+#include "windows/resultswindow.h"
 
 #include <QAbstractItemModelTester>
 #include <QTreeView>
@@ -61,7 +61,7 @@ private Q_SLOTS:
 
     void windowListsFilesSortedAndExpanded()
     {
-        ResultsWindowController window;
+        ResultsWindow window;
         QAbstractItemModelTester tester(window.errorsOutline()->model(),
                                         QAbstractItemModelTester::FailureReportingMode::QtTest);
         QCOMPARE(window.summaryText(), u"No errors or warnings"_qs);

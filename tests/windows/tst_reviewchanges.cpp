@@ -4,7 +4,7 @@
 #include "controls/tokenfield.h"
 #include "editors/stringseditor.h"
 #include "windows/reviewchangesmodel.h"
-#include "windows/reviewchangeswindowcontroller.h"
+#include "windows/reviewchangeswindow.h"
 
 #include <QAbstractItemModelTester>
 #include <QElapsedTimer>
@@ -125,7 +125,7 @@ private Q_SLOTS:
             file->setExifValue(Title, u"Title"_qs);
             files << file;
         }
-        ReviewChangesWindowController window;
+        ReviewChangesWindow window;
         window.setFiles(files);
         QCOMPARE(window.summaryText(), u"4 changes in 2 files"_qs);
 
@@ -135,7 +135,7 @@ private Q_SLOTS:
                  QStringList{u"beach.jpg | XMP-dc:Title |  | Title"_qs});
         QCOMPARE(window.summaryText(), u"4 changes in 2 files, 1 shown"_qs);
 
-        QSignalSpy save(&window, &ReviewChangesWindowController::saveRequested);
+        QSignalSpy save(&window, &ReviewChangesWindow::saveRequested);
         window.show();
         window.saveButton()->click();
         QCOMPARE(save.count(), 1);

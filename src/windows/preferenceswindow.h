@@ -12,14 +12,14 @@ class QLabel;
 
 // The preferences window: one control per user setting, each writing straight to the settings
 // store, and the ExifTool in use. Closing only hides it; it is reused at the next opening.
-class PreferencesWindowController : public QWidget
+class PreferencesWindow : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit PreferencesWindowController(const QString &exifToolProgram = exifToolPath(),
+    explicit PreferencesWindow(const QString &exifToolProgram = exifToolPath(),
                                          QWidget *parent = nullptr);
-    ~PreferencesWindowController() override;
+    ~PreferencesWindow() override;
 
     // Shows the stored values and brings the window to the front.
     void showWindow();

@@ -1,4 +1,4 @@
-#include "windows/preferenceswindowcontroller.h"
+#include "windows/preferenceswindow.h"
 
 #include "catalogue/stringtables.h"
 #include "values/usersettings.h"
@@ -12,7 +12,7 @@
 #include <QVBoxLayout>
 #include <QtConcurrent/QtConcurrentRun>
 
-PreferencesWindowController::PreferencesWindowController(const QString &exifToolProgram,
+PreferencesWindow::PreferencesWindow(const QString &exifToolProgram,
                                                          QWidget *parent)
     : QWidget(parent, Qt::Window)
 {
@@ -89,17 +89,17 @@ PreferencesWindowController::PreferencesWindowController(const QString &exifTool
 
     // Asking ExifTool takes a Perl start-up; the window does not wait for it.
     connect(&m_versionWatcher, &QFutureWatcher<ExifToolVersion>::finished, this,
-            &PreferencesWindowController::handleExifToolVersion);
+            &PreferencesWindow::handleExifToolVersion);
     m_versionWatcher.setFuture(
         QtConcurrent::run([exifToolProgram] { return exifToolVersion(exifToolProgram); }));
 }
 
-PreferencesWindowController::~PreferencesWindowController()
+PreferencesWindow::~PreferencesWindow()
 {
     m_versionWatcher.waitForFinished();
 }
 
-void PreferencesWindowController::showWindow()
+void PreferencesWindow::showWindow()
 {
     reloadSettings();
     show();
@@ -107,7 +107,7 @@ void PreferencesWindowController::showWindow()
     activateWindow();
 }
 
-void PreferencesWindowController::reloadSettings()
+void PreferencesWindow::reloadSettings()
 {
     for (QComboBox *box : std::as_const(m_choices)) {
         const QSignalBlocker blocker(box);
@@ -129,7 +129,7 @@ void PreferencesWindowController::reloadSettings()
     }
 }
 
-QComboBox *PreferencesWindowController::addChoice(const QString &key,
+QComboBox *PreferencesWindow::addChoice(const QString &key,
                                                   const QList<std::pair<int, QString>> &choices)
 {
     auto *box = new QComboBox(this);
@@ -144,7 +144,7 @@ QComboBox *PreferencesWindowController::addChoice(const QString &key,
 
 // Three choices over a setting that is a yes or a no once chosen: until then the program checks
 // camera raw files only, so the first choice clears the setting rather than storing a value.
-QComboBox *PreferencesWindowController::addImageDataCheck()
+QComboBox *PreferencesWindow::addImageDataCheck()
 {
     m_imageDataCheck = new QComboBox(this);
     m_imageDataCheck->setObjectName(UserSettings::VerifyImageData);
@@ -160,7 +160,7 @@ QComboBox *PreferencesWindowController::addImageDataCheck()
     return m_imageDataCheck;
 }
 
-QCheckBox *PreferencesWindowController::addFlag(const QString &key, const QString &text)
+QCheckBox *PreferencesWindow::addFlag(const QString &key, const QString &text)
 {
     auto *flag = new QCheckBox(text, this);
     flag->setObjectName(key);
@@ -170,7 +170,7 @@ QCheckBox *PreferencesWindowController::addFlag(const QString &key, const QStrin
     return flag;
 }
 
-void PreferencesWindowController::handleExifToolVersion()
+void PreferencesWindow::handleExifToolVersion()
 {
     const ExifToolVersion version = m_versionWatcher.result();
     if (version.isKnown())

@@ -14,13 +14,13 @@ class ResultsModel;
 
 // The window listing what ExifTool complained about in the last batch: a summary line above a
 // tree of files and their messages, each line marked red (error) or orange (warning).
-class ResultsWindowController : public QWidget
+class ResultsWindow : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit ResultsWindowController(QWidget *parent = nullptr);
-    ~ResultsWindowController() override;
+    explicit ResultsWindow(QWidget *parent = nullptr);
+    ~ResultsWindow() override;
 
     void displayErrors(const QList<ErrorMessagesPtr> &files);
     // The runner's batchFinished map, as it comes.

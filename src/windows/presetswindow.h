@@ -13,14 +13,14 @@ class QTableView;
 // The window where presets are created, named, edited and deleted: the list of presets on the
 // left, the form of every field for the selected preset on the right. The store stays the source
 // of truth; the preset being edited is saved whenever the user leaves it.
-class PresetsWindowController : public QWidget
+class PresetsWindow : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit PresetsWindowController(QWidget *parent = nullptr,
+    explicit PresetsWindow(QWidget *parent = nullptr,
                                      PresetStore &store = PresetStore::instance());
-    ~PresetsWindowController() override;
+    ~PresetsWindow() override;
 
     // Brings the window to the front.
     void showWindow();

@@ -1,4 +1,4 @@
-#include "windows/resultswindowcontroller.h"
+#include "windows/resultswindow.h"
 
 #include "windows/resultsmodel.h"
 
@@ -73,7 +73,7 @@ private:
 
 } // namespace
 
-ResultsWindowController::ResultsWindowController(QWidget *parent)
+ResultsWindow::ResultsWindow(QWidget *parent)
     : QWidget(parent, Qt::Window)
     , m_model(new ResultsModel(this))
     , m_errorImage(roundIcon(QColor(0xd0, 0x21, 0x1b)))
@@ -111,28 +111,28 @@ ResultsWindowController::ResultsWindowController(QWidget *parent)
     layout->addWidget(m_errorsOutline, 1);
 }
 
-ResultsWindowController::~ResultsWindowController() = default;
+ResultsWindow::~ResultsWindow() = default;
 
-void ResultsWindowController::displayErrors(const QList<ErrorMessagesPtr> &files)
+void ResultsWindow::displayErrors(const QList<ErrorMessagesPtr> &files)
 {
     m_model->displayErrors(files);
     m_errorsOutline->expandAll();
     m_topText->setText(m_model->summary());
 }
 
-void ResultsWindowController::displayErrors(const QHash<QString, ErrorMessagesPtr> &results)
+void ResultsWindow::displayErrors(const QHash<QString, ErrorMessagesPtr> &results)
 {
     displayErrors(results.values());
 }
 
-void ResultsWindowController::showWindow()
+void ResultsWindow::showWindow()
 {
     show();
     raise();
     activateWindow();
 }
 
-QString ResultsWindowController::summaryText() const
+QString ResultsWindow::summaryText() const
 {
     return m_topText->text();
 }

@@ -15,13 +15,13 @@ class ReviewChangesModel;
 // The window that shows, before a save, every tag it will change in every file, filterable by
 // file and by tag, with Save and Cancel. A model and one view, so thousands of rows open at
 // once.
-class ReviewChangesWindowController : public QWidget
+class ReviewChangesWindow : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit ReviewChangesWindowController(QWidget *parent = nullptr);
-    ~ReviewChangesWindowController() override;
+    explicit ReviewChangesWindow(QWidget *parent = nullptr);
+    ~ReviewChangesWindow() override;
 
     void setFiles(const QList<ExifFileInfoPtr> &files);
     // Shows the window and brings it to the front.

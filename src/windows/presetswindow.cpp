@@ -1,4 +1,4 @@
-#include "windows/presetswindowcontroller.h"
+#include "windows/presetswindow.h"
 
 #include "windows/presetslistmodel.h"
 
@@ -35,7 +35,7 @@ QToolButton *segmentButton(const QString &text, QWidget *parent)
 
 } // namespace
 
-PresetsWindowController::PresetsWindowController(QWidget *parent, PresetStore &store)
+PresetsWindow::PresetsWindow(QWidget *parent, PresetStore &store)
     : QWidget(parent, Qt::Window)
     , m_store(store)
 {
@@ -57,7 +57,7 @@ PresetsWindowController::PresetsWindowController(QWidget *parent, PresetStore &s
     m_configurationsTable->verticalHeader()->hide();
     m_configurationsTable->setShowGrid(false);
     connect(m_configurationsTable->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-            &PresetsWindowController::tableViewSelectionDidChange);
+            &PresetsWindow::tableViewSelectionDidChange);
 
     auto *segments = new QButtonGroup(this);
     auto *left = new QWidget;
@@ -68,17 +68,17 @@ PresetsWindowController::PresetsWindowController(QWidget *parent, PresetStore &s
     buttons->addWidget(segments->button(0));
     buttons->addWidget(segments->button(1));
     connect(segments, &QButtonGroup::idClicked, this,
-            &PresetsWindowController::addRemoveConfigurationPressed);
+            &PresetsWindow::addRemoveConfigurationPressed);
 
     auto *commands = new QToolButton(left);
     commands->setText(u"\u2699"_qs);
     commands->setPopupMode(QToolButton::InstantPopup);
     commands->setFocusPolicy(Qt::NoFocus);
     auto *menu = new QMenu(commands);
-    menu->addAction(localized("Rename"), this, &PresetsWindowController::renameConfiguration);
-    menu->addAction(localized("Duplicate"), this, &PresetsWindowController::duplicateConfiguration);
-    menu->addAction(localized("Import..."), this, &PresetsWindowController::importConfigurations);
-    menu->addAction(localized("Export..."), this, &PresetsWindowController::exportConfigurations);
+    menu->addAction(localized("Rename"), this, &PresetsWindow::renameConfiguration);
+    menu->addAction(localized("Duplicate"), this, &PresetsWindow::duplicateConfiguration);
+    menu->addAction(localized("Import..."), this, &PresetsWindow::importConfigurations);
+    menu->addAction(localized("Export..."), this, &PresetsWindow::exportConfigurations);
     commands->setMenu(menu);
     buttons->addStretch();
     buttons->addWidget(commands);
@@ -108,16 +108,16 @@ PresetsWindowController::PresetsWindowController(QWidget *parent, PresetStore &s
     selectFirstPreset();
 }
 
-PresetsWindowController::~PresetsWindowController() = default;
+PresetsWindow::~PresetsWindow() = default;
 
-void PresetsWindowController::showWindow()
+void PresetsWindow::showWindow()
 {
     show();
     raise();
     activateWindow();
 }
 
-QString PresetsWindowController::menuTitle(const Preset &preset)
+QString PresetsWindow::menuTitle(const Preset &preset)
 {
     const int removals = int(preset.removedValues().size());
     if (removals == 0)
@@ -125,7 +125,7 @@ QString PresetsWindowController::menuTitle(const Preset &preset)
     return tr("%1 (removes %n tag(s))", nullptr, removals).arg(preset.name());
 }
 
-void PresetsWindowController::updateSkin()
+void PresetsWindow::updateSkin()
 {
     setAutoFillBackground(true);
     QPalette windowPalette = palette();
@@ -137,7 +137,7 @@ void PresetsWindowController::updateSkin()
         u"QTableView { background: %1; color: rgb(20, 20, 20); }"_qs.arg(TableBackground.name()));
 }
 
-QString PresetsWindowController::selectedIdentifier() const
+QString PresetsWindow::selectedIdentifier() const
 {
     const QModelIndexList rows = m_configurationsTable->selectionModel()->selectedRows();
     if (rows.isEmpty() || rows.first().row() >= m_configNames.size())
@@ -145,7 +145,7 @@ QString PresetsWindowController::selectedIdentifier() const
     return m_configNames.at(rows.first().row());
 }
 
-void PresetsWindowController::selectIdentifier(const QString &identifier)
+void PresetsWindow::selectIdentifier(const QString &identifier)
 {
     const qsizetype row = m_configNames.indexOf(identifier);
     if (row < 0)
@@ -153,7 +153,7 @@ void PresetsWindowController::selectIdentifier(const QString &identifier)
     m_configurationsTable->selectRow(static_cast<int>(row));
 }
 
-void PresetsWindowController::reloadConfigurations()
+void PresetsWindow::reloadConfigurations()
 {
     const QString selected = selectedIdentifier();
     QStringList names = m_store.configurations().keys();
@@ -178,13 +178,13 @@ void PresetsWindowController::reloadConfigurations()
         tableViewSelectionDidChange();
 }
 
-void PresetsWindowController::selectFirstPreset()
+void PresetsWindow::selectFirstPreset()
 {
     if (!m_configNames.isEmpty())
         m_configurationsTable->selectRow(0);
 }
 
-void PresetsWindowController::addRemoveConfigurationPressed(int segment)
+void PresetsWindow::addRemoveConfigurationPressed(int segment)
 {
     if (segment == 0)
         addConfiguration();
@@ -192,7 +192,7 @@ void PresetsWindowController::addRemoveConfigurationPressed(int segment)
         removeConfiguration();
 }
 
-void PresetsWindowController::addConfiguration()
+void PresetsWindow::addConfiguration()
 {
     auto preset = std::make_shared<Preset>(
         m_store.findUnusedNewIdentifier(),
@@ -203,7 +203,7 @@ void PresetsWindowController::addConfiguration()
     editName(preset->identifier(), true);
 }
 
-void PresetsWindowController::removeConfiguration()
+void PresetsWindow::removeConfiguration()
 {
     const QString selected = selectedIdentifier();
     if (selected.isNull())
@@ -212,14 +212,14 @@ void PresetsWindowController::removeConfiguration()
     reloadConfigurations();
 }
 
-void PresetsWindowController::renameConfiguration()
+void PresetsWindow::renameConfiguration()
 {
     const QString selected = selectedIdentifier();
     if (!selected.isNull())
         editName(selected, false);
 }
 
-void PresetsWindowController::editName(const QString &identifier, bool selectText)
+void PresetsWindow::editName(const QString &identifier, bool selectText)
 {
     const qsizetype row = m_configNames.indexOf(identifier);
     if (row < 0)
@@ -235,7 +235,7 @@ void PresetsWindowController::editName(const QString &identifier, bool selectTex
     }
 }
 
-void PresetsWindowController::renameInPlace(const QString &identifier, const QString &name)
+void PresetsWindow::renameInPlace(const QString &identifier, const QString &name)
 {
     const PresetPtr preset = m_store.loadConfiguration(identifier);
     if (!preset)
@@ -245,7 +245,7 @@ void PresetsWindowController::renameInPlace(const QString &identifier, const QSt
     reloadConfigurations();
 }
 
-void PresetsWindowController::saveConfiguration()
+void PresetsWindow::saveConfiguration()
 {
     if (m_currentConfigName.isNull())
         return;
@@ -258,7 +258,7 @@ void PresetsWindowController::saveConfiguration()
     m_store.saveConfiguration(preset);
 }
 
-void PresetsWindowController::tableViewSelectionDidChange()
+void PresetsWindow::tableViewSelectionDidChange()
 {
     saveConfiguration();
     const QString selected = selectedIdentifier();
@@ -272,26 +272,26 @@ void PresetsWindowController::tableViewSelectionDidChange()
     m_configController->setExifConfiguration(preset.get());
 }
 
-void PresetsWindowController::duplicateConfiguration()
+void PresetsWindow::duplicateConfiguration()
 {
 }
 
-void PresetsWindowController::importConfigurations()
+void PresetsWindow::importConfigurations()
 {
 }
 
-void PresetsWindowController::exportConfigurations()
+void PresetsWindow::exportConfigurations()
 {
 }
 
-void PresetsWindowController::changeEvent(QEvent *event)
+void PresetsWindow::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && !isActiveWindow())
         saveConfiguration();
 }
 
-void PresetsWindowController::closeEvent(QCloseEvent *event)
+void PresetsWindow::closeEvent(QCloseEvent *event)
 {
     saveConfiguration();
     QWidget::closeEvent(event);

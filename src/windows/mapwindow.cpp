@@ -1,4 +1,4 @@
-#include "windows/mapwindowcontroller.h"
+#include "windows/mapwindow.h"
 
 #include "windows/mapbridge.h"
 #include "windows/mappins.h"
@@ -44,7 +44,7 @@ QWebEngineScript webChannelScript()
 
 } // namespace
 
-MapWindowController::MapWindowController(EditSession &session, QWidget *parent)
+MapWindow::MapWindow(EditSession &session, QWidget *parent)
     : QWidget(parent, Qt::Window)
     , m_pins(new MapPins(session, this))
     , m_bridge(new MapBridge(m_pins, this))
@@ -57,7 +57,7 @@ MapWindowController::MapWindowController(EditSession &session, QWidget *parent)
     m_addPinButton = addPinButton;
     m_removePinButton = removePinButton;
     connect(addPinButton, &QPushButton::clicked, m_pins, &MapPins::addPin);
-    connect(removePinButton, &QPushButton::clicked, this, &MapWindowController::confirmRemovePin);
+    connect(removePinButton, &QPushButton::clicked, this, &MapWindow::confirmRemovePin);
 
     // One control of three segments; the theme gives push buttons no checked look of their own.
     auto *segments = new QWidget(this);
@@ -90,27 +90,27 @@ MapWindowController::MapWindowController(EditSession &session, QWidget *parent)
     layout->addLayout(bar);
     layout->addWidget(m_mapView, 1);
 
-    connect(m_pins, &MapPins::buttonsChanged, this, &MapWindowController::handleButtonsChanged);
+    connect(m_pins, &MapPins::buttonsChanged, this, &MapWindow::handleButtonsChanged);
     handleButtonsChanged(m_pins->isAddEnabled(), m_pins->isRemoveEnabled());
     loadPage();
 }
 
-MapWindowController::~MapWindowController() = default;
+MapWindow::~MapWindow() = default;
 
-void MapWindowController::showWindow()
+void MapWindow::showWindow()
 {
     show();
     raise();
     activateWindow();
 }
 
-void MapWindowController::setFiles(const QList<ExifFileInfoPtr> &files)
+void MapWindow::setFiles(const QList<ExifFileInfoPtr> &files)
 {
     m_files = files;
     m_pins->setFiles(files);
 }
 
-void MapWindowController::confirmRemovePin()
+void MapWindow::confirmRemovePin()
 {
     const QList<ExifFileInfoPtr> files = m_pins->filesWithPinValues();
     if (files.isEmpty())
@@ -120,7 +120,7 @@ void MapWindowController::confirmRemovePin()
     sheet->setWindowModality(Qt::WindowModal);
     sheet->setIcon(QMessageBox::Warning);
     sheet->setText(QCoreApplication::translate(
-        "MapWindowController", "Remove the pin from %n file(s)?", nullptr, int(files.size())));
+        "MapWindow", "Remove the pin from %n file(s)?", nullptr, int(files.size())));
     sheet->setInformativeText(localized("Their GPS position, altitude and GPS date and time are "
                                         "removed. The files change when you save them."));
     QPushButton *remove = sheet->addButton(localized("Remove Pin"), QMessageBox::AcceptRole);
@@ -139,7 +139,7 @@ void MapWindowController::confirmRemovePin()
     sheet->open();
 }
 
-void MapWindowController::showTrack(const QList<TrackPoint> &points, const QList<MapPin> &proposed)
+void MapWindow::showTrack(const QList<TrackPoint> &points, const QList<MapPin> &proposed)
 {
     QVariantList line;
     line.reserve(points.size());
@@ -154,12 +154,12 @@ void MapWindowController::showTrack(const QList<TrackPoint> &points, const QList
     m_bridge->showTrack(line, pins);
 }
 
-QString MapWindowController::pagePath()
+QString MapWindow::pagePath()
 {
     return BundledPaths::mapPage(QCoreApplication::applicationDirPath());
 }
 
-void MapWindowController::loadPage()
+void MapWindow::loadPage()
 {
     QWebEnginePage *page = m_mapView->page();
     // The page is a local file; its tiles come from the network.
@@ -186,7 +186,7 @@ void MapWindowController::loadPage()
     m_mapView->load(QUrl::fromLocalFile(path));
 }
 
-void MapWindowController::handleButtonsChanged(bool addEnabled, bool removeEnabled)
+void MapWindow::handleButtonsChanged(bool addEnabled, bool removeEnabled)
 {
     m_addPinButton->setEnabled(addEnabled);
     m_removePinButton->setEnabled(removeEnabled);

@@ -16,14 +16,14 @@ class QWebEngineView;
 
 // The map of the selected files' GPS positions: pins to add, drag and remove, written into the
 // files' current values (nothing reaches the disk before a save).
-class MapWindowController : public QWidget
+class MapWindow : public QWidget
 {
     Q_OBJECT
 
 public:
     // Pins are edits of session's files.
-    explicit MapWindowController(EditSession &session, QWidget *parent = nullptr);
-    ~MapWindowController() override;
+    explicit MapWindow(EditSession &session, QWidget *parent = nullptr);
+    ~MapWindow() override;
 
     // Shows the window in front.
     void showWindow();

@@ -1,4 +1,4 @@
-#include "windows/reviewchangeswindowcontroller.h"
+#include "windows/reviewchangeswindow.h"
 
 #include "windows/reviewchangesmodel.h"
 
@@ -10,7 +10,7 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
-ReviewChangesWindowController::ReviewChangesWindowController(QWidget *parent)
+ReviewChangesWindow::ReviewChangesWindow(QWidget *parent)
     : QWidget(parent, Qt::Window)
     , m_model(new ReviewChangesModel(this))
     , m_filter(new ReviewChangesFilter(this))
@@ -54,9 +54,9 @@ ReviewChangesWindowController::ReviewChangesWindowController(QWidget *parent)
 
     m_summary = new QLabel(this);
     connect(m_model, &QAbstractItemModel::rowsInserted, this,
-            &ReviewChangesWindowController::updateSummary);
+            &ReviewChangesWindow::updateSummary);
     connect(m_model, &ReviewChangesModel::filled, this,
-            &ReviewChangesWindowController::updateSummary);
+            &ReviewChangesWindow::updateSummary);
     // What a later revert can and cannot give back, said before the save rather than after.
     auto *note = new QLabel(
         tr("Revert Last Save can take this save back: it restores these tags, removes the ones "
@@ -89,27 +89,27 @@ ReviewChangesWindowController::ReviewChangesWindowController(QWidget *parent)
     layout->addLayout(buttons);
 }
 
-ReviewChangesWindowController::~ReviewChangesWindowController() = default;
+ReviewChangesWindow::~ReviewChangesWindow() = default;
 
-void ReviewChangesWindowController::setFiles(const QList<ExifFileInfoPtr> &files)
+void ReviewChangesWindow::setFiles(const QList<ExifFileInfoPtr> &files)
 {
     m_model->setFiles(files);
     updateSummary();
 }
 
-void ReviewChangesWindowController::showWindow()
+void ReviewChangesWindow::showWindow()
 {
     show();
     raise();
     activateWindow();
 }
 
-QString ReviewChangesWindowController::summaryText() const
+QString ReviewChangesWindow::summaryText() const
 {
     return m_summary->text();
 }
 
-void ReviewChangesWindowController::updateSummary()
+void ReviewChangesWindow::updateSummary()
 {
     const int shown = m_filter->rowCount();
     const int total = m_model->rowCount();
