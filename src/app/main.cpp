@@ -1,5 +1,5 @@
 #include "app/commandline.h"
-#include "app/tagsmithappdelegate.h"
+#include "app/application.h"
 #include "catalogue/stringtables.h"
 #include "engine/scratchjournal.h"
 
@@ -67,7 +67,7 @@ int main(int argc, char *argv[])
     if (commandLine.mode == CommandLine::Mode::Error)
         return runHeadless(commandLine);
 
-    TagsmithAppDelegate delegate;
+    Application delegate;
     delegate.applicationWillFinishLaunching(arguments);
     return QApplication::exec();
 }

@@ -1,5 +1,5 @@
 #include "windows/preferenceswindow.h"
-#include "app/tagsmithappdelegate.h"
+#include "app/application.h"
 #include "catalogue/presetstore.h"
 #include "values/debugmode.h"
 #include "values/usersettings.h"
@@ -47,10 +47,10 @@ public:
 
 // arguments: a QStringList, or the bytes of a QList<QByteArray>.
 template <typename Arguments = QStringList>
-FakeMainWindow *start(TagsmithAppDelegate &delegate, const Arguments &arguments)
+FakeMainWindow *start(Application &delegate, const Arguments &arguments)
 {
     FakeMainWindow *fake = nullptr;
-    delegate.setMainWindowFactory([&fake](TagsmithAppDelegate &) {
+    delegate.setMainWindowFactory([&fake](Application &) {
         auto window = std::make_unique<FakeMainWindow>();
         fake = window.get();
         return window;
@@ -61,7 +61,7 @@ FakeMainWindow *start(TagsmithAppDelegate &delegate, const Arguments &arguments)
 
 } // namespace
 
-class TestTagsmithAppDelegate : public QObject
+class TestApplication : public QObject
 {
     Q_OBJECT
 
@@ -92,7 +92,7 @@ private Q_SLOTS:
     void hasArgument()
     {
         QFETCH(QStringList, arguments);
-        QTEST(TagsmithAppDelegate::hasArgument(u"-debug"_s, arguments), "found");
+        QTEST(Application::hasArgument(u"-debug"_s, arguments), "found");
     }
 
     void startUpLoadsPresetsAndHandsOverFiles()
@@ -103,7 +103,7 @@ private Q_SLOTS:
                                "<field-modification name=\"IPTC:City\">Roma</field-modification>"
                                "</configuration>"_s);
 
-        TagsmithAppDelegate delegate;
+        Application delegate;
         FakeMainWindow *fake =
             start(delegate, {u"tagsmith"_s, u"/photos/a.jpg"_s, u"-debug"_s, u"/photos/b b.nef"_s});
         QVERIFY(fake && fake->window()->isVisible());
@@ -119,7 +119,7 @@ private Q_SLOTS:
     {
         const QString current = QDir::currentPath();
         QVERIFY(QDir::setCurrent(m_dir.path()));
-        TagsmithAppDelegate delegate;
+        Application delegate;
         FakeMainWindow *fake =
             start(delegate, QList<QByteArray>{"tagsmith", "a.jpg", ".", "caf\xe9.jpg", "-debug"});
         const QString here = QDir::currentPath();
@@ -135,12 +135,12 @@ private Q_SLOTS:
     void quitWaitsForTheMainWindowOnlyWithChanges()
     {
         for (const bool dirty : {false, true}) {
-            TagsmithAppDelegate delegate;
+            Application delegate;
             FakeMainWindow *fake = start(delegate, {u"tagsmith"_s});
             fake->dirty = dirty;
             QCOMPARE(delegate.applicationShouldTerminate(),
-                     dirty ? TagsmithAppDelegate::TerminateReply::TerminateLater
-                           : TagsmithAppDelegate::TerminateReply::TerminateNow);
+                     dirty ? Application::TerminateReply::TerminateLater
+                           : Application::TerminateReply::TerminateNow);
             QCOMPARE(fake->saveStatus, dirty ? 1 : 0);
             QCOMPARE(fake->window()->isVisible(), !dirty);
         }
@@ -148,7 +148,7 @@ private Q_SLOTS:
 
     void preferencesEditTheStoreAndOnlyHide()
     {
-        TagsmithAppDelegate delegate;
+        Application delegate;
         delegate.showPreferences();
         QPointer<PreferencesWindow> window = delegate.preferencesWindow();
         QVERIFY(window && window->isVisible());
@@ -217,5 +217,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestTagsmithAppDelegate)
-#include "tst_tagsmithappdelegate.moc"
+QTEST_MAIN(TestApplication)
+#include "tst_application.moc"

@@ -16,23 +16,23 @@ class QWidget;
 
 // The application's shell: settings, start-up, the one main window, quitting, preferences and
 // the product's web pages. One per process, on the main thread.
-class TagsmithAppDelegate : public QObject
+class Application : public QObject
 {
     Q_OBJECT
 
 public:
     enum class TerminateReply { TerminateNow, TerminateLater };
-    using MainWindowFactory = std::function<std::unique_ptr<AppMainWindow>(TagsmithAppDelegate &)>;
+    using MainWindowFactory = std::function<std::unique_ptr<AppMainWindow>(Application &)>;
 
     static inline const QString HelpUrl = QStringLiteral("https://tagsmith.org/help");
     static inline const QString SupportUrl = QStringLiteral("https://tagsmith.org/support");
     static inline const QString WebSiteUrl = QStringLiteral("https://tagsmith.org");
 
-    explicit TagsmithAppDelegate(QObject *parent = nullptr);
-    ~TagsmithAppDelegate() override;
+    explicit Application(QObject *parent = nullptr);
+    ~Application() override;
 
     // The delegate of the running application, if one was created.
-    static TagsmithAppDelegate *instance();
+    static Application *instance();
     // True when one argument is exactly `argument` (the program path counts as one).
     static bool hasArgument(const QString &argument,
                             const QStringList &arguments = currentArguments());

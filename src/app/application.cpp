@@ -1,4 +1,4 @@
-#include "app/tagsmithappdelegate.h"
+#include "app/application.h"
 
 #include "app/commandline.h"
 #include "windows/mainwindowcontroller.h"
@@ -20,11 +20,11 @@
 
 namespace {
 
-TagsmithAppDelegate *currentDelegate = nullptr;
+Application *currentDelegate = nullptr;
 
 } // namespace
 
-TagsmithAppDelegate::TagsmithAppDelegate(QObject *parent)
+Application::Application(QObject *parent)
     : QObject(parent)
     , m_themeKey(ApertureTheme::Key)
 {
@@ -33,28 +33,28 @@ TagsmithAppDelegate::TagsmithAppDelegate(QObject *parent)
     currentDelegate = this;
 }
 
-TagsmithAppDelegate::~TagsmithAppDelegate()
+Application::~Application()
 {
     if (currentDelegate == this)
         currentDelegate = nullptr;
 }
 
-TagsmithAppDelegate *TagsmithAppDelegate::instance()
+Application *Application::instance()
 {
     return currentDelegate;
 }
 
-QStringList TagsmithAppDelegate::currentArguments()
+QStringList Application::currentArguments()
 {
     return QCoreApplication::arguments();
 }
 
-bool TagsmithAppDelegate::hasArgument(const QString &argument, const QStringList &arguments)
+bool Application::hasArgument(const QString &argument, const QStringList &arguments)
 {
     return arguments.contains(argument, Qt::CaseSensitive);
 }
 
-void TagsmithAppDelegate::applicationWillFinishLaunching(const QStringList &arguments)
+void Application::applicationWillFinishLaunching(const QStringList &arguments)
 {
     QList<QByteArray> bytes;
     for (const QString &argument : arguments)
@@ -62,7 +62,7 @@ void TagsmithAppDelegate::applicationWillFinishLaunching(const QStringList &argu
     applicationWillFinishLaunching(bytes);
 }
 
-void TagsmithAppDelegate::applicationWillFinishLaunching(const QList<QByteArray> &arguments)
+void Application::applicationWillFinishLaunching(const QList<QByteArray> &arguments)
 {
     const CommandLine commandLine = CommandLine::parse(arguments, QDir::currentPath());
     m_debug = commandLine.debug;
@@ -96,27 +96,27 @@ void TagsmithAppDelegate::applicationWillFinishLaunching(const QList<QByteArray>
         m_mainWindowController->openFiles(commandLine.paths, commandLine.rejected);
 }
 
-std::unique_ptr<AppMainWindow> TagsmithAppDelegate::createMainWindow()
+std::unique_ptr<AppMainWindow> Application::createMainWindow()
 {
     auto window = std::make_unique<MainWindowController>(nullptr, PresetStore::instance(), m_debug);
     window->setTerminateReply(
         [this](bool terminate) { replyToApplicationShouldTerminate(terminate); });
     // The application's own commands, in the window's menus.
     using C = MainWindowMenus::Command;
-    window->menus()->onTriggered(C::Preferences, this, &TagsmithAppDelegate::showPreferences);
-    window->menus()->onTriggered(C::Quit, this, &TagsmithAppDelegate::requestQuit);
-    window->menus()->onTriggered(C::Help, this, &TagsmithAppDelegate::showHelp);
-    window->menus()->onTriggered(C::Support, this, &TagsmithAppDelegate::openSupportPage);
-    window->menus()->onTriggered(C::WebSite, this, &TagsmithAppDelegate::openWebSite);
+    window->menus()->onTriggered(C::Preferences, this, &Application::showPreferences);
+    window->menus()->onTriggered(C::Quit, this, &Application::requestQuit);
+    window->menus()->onTriggered(C::Help, this, &Application::showHelp);
+    window->menus()->onTriggered(C::Support, this, &Application::openSupportPage);
+    window->menus()->onTriggered(C::WebSite, this, &Application::openWebSite);
     return window;
 }
 
-bool TagsmithAppDelegate::openFile(const QString &path)
+bool Application::openFile(const QString &path)
 {
     return m_mainWindowController && m_mainWindowController->openFile(path);
 }
 
-TagsmithAppDelegate::TerminateReply TagsmithAppDelegate::applicationShouldTerminate()
+Application::TerminateReply Application::applicationShouldTerminate()
 {
     if (m_mainWindowController && m_mainWindowController->hasModifiedFiles()) {
         m_mainWindowController->quitRequested();
@@ -128,47 +128,47 @@ TagsmithAppDelegate::TerminateReply TagsmithAppDelegate::applicationShouldTermin
 
 // exit() rather than quit(): quit() would send every window a close request again, and the
 // main window would put its save question a second time.
-void TagsmithAppDelegate::requestQuit()
+void Application::requestQuit()
 {
     if (applicationShouldTerminate() == TerminateReply::TerminateNow)
         QCoreApplication::exit(0);
 }
 
-void TagsmithAppDelegate::replyToApplicationShouldTerminate(bool shouldTerminate)
+void Application::replyToApplicationShouldTerminate(bool shouldTerminate)
 {
     if (shouldTerminate)
         QCoreApplication::exit(0);
 }
 
-PreferencesWindow *TagsmithAppDelegate::preferencesWindow() const
+PreferencesWindow *Application::preferencesWindow() const
 {
     return m_preferencesWindowController.get();
 }
 
-void TagsmithAppDelegate::showPreferences()
+void Application::showPreferences()
 {
     if (!m_preferencesWindowController)
         m_preferencesWindowController = std::make_unique<PreferencesWindow>();
     m_preferencesWindowController->showWindow();
 }
 
-void TagsmithAppDelegate::openUrl(const QString &address)
+void Application::openUrl(const QString &address)
 {
     if (!QDesktopServices::openUrl(QUrl(address)))
         qCWarning(lcTagsmith).noquote() << QStringLiteral("Could not open %1").arg(address);
 }
 
-void TagsmithAppDelegate::showHelp()
+void Application::showHelp()
 {
     openUrl(HelpUrl);
 }
 
-void TagsmithAppDelegate::openSupportPage()
+void Application::openSupportPage()
 {
     openUrl(SupportUrl);
 }
 
-void TagsmithAppDelegate::openWebSite()
+void Application::openWebSite()
 {
     openUrl(WebSiteUrl);
 }
