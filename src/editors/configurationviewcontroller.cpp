@@ -223,16 +223,6 @@ int ConfigurationViewController::createFieldEditor(const ExifFieldPtr &field,
     return next;
 }
 
-FieldEditor *ConfigurationViewController::setupFieldEditorVariable(const ExifFieldPtr &field,
-                                                                   int top,
-                                                                   QList<FieldEditor *> &allEditors)
-{
-    auto *editor = new FieldEditor(field, this);
-    editor->showEditor(top);
-    allEditors.append(editor);
-    return editor;
-}
-
 void ConfigurationViewController::setExifFiles(const QList<ExifFileInfoPtr> &files)
 {
     m_exifFiles = files;

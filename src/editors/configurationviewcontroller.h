@@ -52,9 +52,6 @@ public:
     // Creates, configures and places the row of one field in the form; returns the next top.
     // Throws "Unimplemented" for a writable field whose representation has no editor.
     int createFieldEditor(const ExifFieldPtr &field, QList<FieldEditor *> &allEditors, int top);
-    // A plain row for the field at top, appended to allEditors (the form itself never uses it).
-    FieldEditor *setupFieldEditorVariable(const ExifFieldPtr &field, int top,
-                                          QList<FieldEditor *> &allEditors);
 
     void setExifFiles(const QList<ExifFileInfoPtr> &files);
     const QList<ExifFileInfoPtr> &exifFiles() const { return m_exifFiles; }

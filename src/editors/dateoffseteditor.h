@@ -21,6 +21,8 @@ public:
 
     void clearEditor() override;
     void setExifConfiguration(const Preset *configuration) override;
+    // A shift goes into presets only; the date rows write it into files.
+    void updateExifFileValue(const ExifFileInfoPtr &) override {}
     bool copyToConfiguration(Preset &configuration) override;
     void setEnabled(bool enabled) override;
     int createEditorContent(QWidget *parent, QRect frame) override;

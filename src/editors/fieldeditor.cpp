@@ -403,11 +403,6 @@ void FieldEditor::setContentControl(QWidget *control, int topOffset)
     m_contentOffset = topOffset;
 }
 
-int FieldEditor::createEditorContent(QWidget *, QRect)
-{
-    throw TagsmithException(TagsmithException::NotImplemented, TagsmithException::NotImplemented);
-}
-
 void FieldEditor::clearEditor()
 {
     setRemoveButtonChecked(false);
@@ -418,11 +413,6 @@ void FieldEditor::setEnabled(bool enabled)
 {
     if (m_removeButton)
         m_removeButton->setEnabled(enabled);
-}
-
-void FieldEditor::setExifConfiguration(const Preset *)
-{
-    throw TagsmithException(u"Not implemented"_qs, u"Not implemented"_qs);
 }
 
 bool FieldEditor::copyToConfiguration(Preset &)
@@ -442,11 +432,6 @@ bool FieldEditor::copyToExifFiles(const QList<ExifFileInfoPtr> &files)
             changed = true;
     }
     return changed;
-}
-
-void FieldEditor::updateExifFileValue(const ExifFileInfoPtr &)
-{
-    throw TagsmithException(TagsmithException::NotImplemented, u"Not implemented"_qs);
 }
 
 void FieldEditor::sendChangeNotification(const std::optional<QString> &newValue,

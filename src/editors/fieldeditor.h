@@ -112,16 +112,16 @@ public:
     virtual int hideEditor(int top);
     int createLabel(QWidget *parent);
     // Builds the editing control in frame; returns its height.
-    virtual int createEditorContent(QWidget *parent, QRect frame);
+    virtual int createEditorContent(QWidget *parent, QRect frame) = 0;
 
     virtual void clearEditor();
     virtual void setEnabled(bool enabled);
-    virtual void setExifConfiguration(const Preset *configuration);
+    virtual void setExifConfiguration(const Preset *configuration) = 0;
     // True when anything was written into the preset.
     virtual bool copyToConfiguration(Preset &configuration);
     // Writes the row's value into every file; true when any file now differs from its original.
     virtual bool copyToExifFiles(const QList<ExifFileInfoPtr> &files);
-    virtual void updateExifFileValue(const ExifFileInfoPtr &file);
+    virtual void updateExifFileValue(const ExifFileInfoPtr &file) = 0;
 
     // Where the row posts its edits and hears those of others. Without one (a preset's form)
     // nothing is posted. Not owned.

@@ -24,6 +24,8 @@ public:
     void clearEditor() override;
     void setExifFiles(const QList<ExifFileInfoPtr> &files) override;
     void setExifConfiguration(const Preset *configuration) override;
+    // Shown, never written.
+    void updateExifFileValue(const ExifFileInfoPtr &) override {}
     int createEditorContent(QWidget *parent, QRect frame) override;
 
     // A number field's value in the user's locale with the field's decimals; other text as is.

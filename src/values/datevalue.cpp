@@ -80,31 +80,31 @@ QDateTime localDateTime(const QDate &date, qint64 msecsOfDay)
 
 } // namespace
 
-std::optional<DateComponents> parseDateTimeValue(const QString &text)
+namespace {
+
+// The first count of year, month, day, hour, minute and second from pieces, when it has
+// exactly that many.
+std::optional<DateComponents> componentsOf(const QList<QStringView> &pieces, qsizetype count)
 {
-    const QList<QStringView> pieces = dateValuePieces(withoutDateZone(text));
-    if (pieces.size() != 6)
+    if (pieces.size() != count)
         return std::nullopt;
     DateComponents c;
-    c.year = leadingInteger(pieces.at(0));
-    c.month = leadingInteger(pieces.at(1));
-    c.day = leadingInteger(pieces.at(2));
-    c.hour = leadingInteger(pieces.at(3));
-    c.minute = leadingInteger(pieces.at(4));
-    c.second = leadingInteger(pieces.at(5));
+    qint64 *const units[] = {&c.year, &c.month, &c.day, &c.hour, &c.minute, &c.second};
+    for (qsizetype i = 0; i < count; ++i)
+        *units[i] = leadingInteger(pieces.at(i));
     return c;
+}
+
+} // namespace
+
+std::optional<DateComponents> parseDateTimeValue(const QString &text)
+{
+    return componentsOf(dateValuePieces(withoutDateZone(text)), 6);
 }
 
 std::optional<DateComponents> parseDateValue(const QString &text)
 {
-    const QList<QStringView> pieces = dateValuePieces(text);
-    if (pieces.size() != 3)
-        return std::nullopt;
-    DateComponents c;
-    c.year = leadingInteger(pieces.at(0));
-    c.month = leadingInteger(pieces.at(1));
-    c.day = leadingInteger(pieces.at(2));
-    return c;
+    return componentsOf(dateValuePieces(text), 3);
 }
 
 std::optional<DateComponents> parseDateValueOfType(const QString &text, DateEditorType type)

@@ -13,15 +13,10 @@
 #include <QAction>
 #include <QPushButton>
 
-AuxiliaryWindows::AuxiliaryWindows(MainWindow *window, MainWindowMenus *menus,
-                                   FileListPresenter *list, PresetStore &store,
-                                   EditSession &session, QObject *parent)
-    : QObject(parent)
-    , m_window(window)
-    , m_menus(menus)
-    , m_list(list)
+AuxiliaryWindows::AuxiliaryWindows(const WindowContext &context, PresetStore &store,
+                                   QObject *parent)
+    : WindowPart(context, parent)
     , m_store(store)
-    , m_session(session)
 {
     using C = MainWindowMenus::Command;
     m_menus->onTriggered(C::ShowConfigurations, this, &AuxiliaryWindows::showConfigurations);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "windows/commandstate.h"
+#include "windows/windowpart.h"
 #include "engine/exifoperationstatus.h"
 
 #include <QHash>
@@ -20,13 +20,12 @@ class ReviewChangesWindow;
 
 // The windows beside the main one: presets, map, results, review of changes and the preview
 // of the selected file. Each is made on first use.
-class AuxiliaryWindows : public QObject
+class AuxiliaryWindows : public WindowPart
 {
     Q_OBJECT
 
 public:
-    AuxiliaryWindows(MainWindow *window, MainWindowMenus *menus, FileListPresenter *list,
-                     PresetStore &store, EditSession &session, QObject *parent);
+    AuxiliaryWindows(const WindowContext &context, PresetStore &store, QObject *parent);
 
     void showConfigurations();
     void showMap();
@@ -36,7 +35,7 @@ public:
     void displayErrors(const QHash<QString, ErrorMessagesPtr> &results);
     // The selection changed: the map and the preview show it.
     void followSelection();
-    void updateEnablement(const CommandState &state);
+    void updateEnablement(const CommandState &state) override;
 
     MapWindow *mapWindow() const;
     ResultsWindow *resultsWindow() const;
@@ -47,11 +46,7 @@ Q_SIGNALS:
     void saveRequested();
 
 private:
-    MainWindow *m_window;
-    MainWindowMenus *m_menus;
-    FileListPresenter *m_list;
     PresetStore &m_store;
-    EditSession &m_session;
     bool m_saving = false;
     QPointer<MapWindow> m_map;
     QPointer<ResultsWindow> m_results;

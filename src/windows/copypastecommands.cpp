@@ -10,14 +10,8 @@
 
 #include <QAction>
 
-CopyPasteCommands::CopyPasteCommands(MainWindow *window, MainWindowMenus *menus,
-                                     FileListPresenter *list, EditSession &session,
-                                     QObject *parent)
-    : QObject(parent)
-    , m_window(window)
-    , m_menus(menus)
-    , m_list(list)
-    , m_session(session)
+CopyPasteCommands::CopyPasteCommands(const WindowContext &context, QObject *parent)
+    : WindowPart(context, parent)
 {
     using C = MainWindowMenus::Command;
     m_menus->onTriggered(C::CopyMetadata, this, &CopyPasteCommands::copyMetadata);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "windows/commandstate.h"
+#include "windows/windowpart.h"
 
 #include <QObject>
 #include <QPointer>
@@ -17,19 +17,18 @@ struct MetadataSelection;
 
 // Copy Metadata and Paste Metadata: one file's values copied, then pasted into the selection
 // as pending edits.
-class CopyPasteCommands : public QObject
+class CopyPasteCommands : public WindowPart
 {
     Q_OBJECT
 
 public:
-    CopyPasteCommands(MainWindow *window, MainWindowMenus *menus, FileListPresenter *list,
-                      EditSession &session, QObject *parent);
+    CopyPasteCommands(const WindowContext &context, QObject *parent);
     ~CopyPasteCommands() override;
 
     void copyMetadata();
     void pasteMetadata();
     bool hasCopiedMetadata() const;
-    void updateEnablement(const CommandState &state);
+    void updateEnablement(const CommandState &state) override;
 
 Q_SIGNALS:
     // The clipboard or the files' values changed.
@@ -38,10 +37,6 @@ Q_SIGNALS:
 private:
     void pasteSelection(const MetadataSelection &selection);
 
-    MainWindow *m_window;
-    MainWindowMenus *m_menus;
-    FileListPresenter *m_list;
-    EditSession &m_session;
     std::unique_ptr<MetadataClipboard> m_clipboard;
     QPointer<PasteMetadataDialog> m_pasteDialog;
 };

@@ -25,16 +25,14 @@
 
 #include <algorithm>
 
-FileListPresenter::FileListPresenter(MainWindow *window, MainWindowMenus *menus,
+FileListPresenter::FileListPresenter(const WindowContext &context,
                                      ConfigurationViewController *form, QObject *parent)
-    : QObject(parent)
-    , m_window(window)
-    , m_menus(menus)
+    : WindowPart(context, parent)
     , m_form(form)
     , m_imagesCache(new QuickLookImageCache(this))
     , m_readQueue(new FileReadQueue(this))
     , m_model(new FileListModel(this))
-    , m_addFilesNote(new AddFilesNote(window->filesTable()))
+    , m_addFilesNote(new AddFilesNote(m_window->filesTable()))
 {
     connect(m_readQueue, &FileReadQueue::batchRead, this, &FileListPresenter::handleBatchRead);
     connect(m_readQueue, &FileReadQueue::busyChanged, this,
@@ -312,10 +310,9 @@ void FileListPresenter::dropFilesAsking(const QList<ExifFileInfoPtr> &dropped,
         drop();
         return;
     }
-    QMessageBox *sheet =
-        makeSheet(m_window,
-                  tr("Remove %n file(s) with unsaved changes from the list?", nullptr, edited),
-                  localized(QStringLiteral("Their changes have not been saved and will be lost.")));
+    QMessageBox *sheet = makeSheet(
+        m_window, tr("Remove %n file(s) with unsaved changes from the list?", nullptr, edited),
+        localized(QStringLiteral("Their changes have not been saved and will be lost.")));
     QPushButton *remove =
         sheet->addButton(localized(QStringLiteral("Remove from List")), QMessageBox::AcceptRole);
     QPushButton *cancel = sheet->addButton(QMessageBox::Cancel);

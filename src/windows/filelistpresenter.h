@@ -1,6 +1,6 @@
 #pragma once
 
-#include "windows/commandstate.h"
+#include "windows/windowpart.h"
 #include "engine/filereadqueue.h"
 
 #include <QObject>
@@ -19,13 +19,13 @@ struct ExifFilesUpdate;
 
 // The list of files: adding (read in the background), reloading, removing and clearing, the
 // selection and the files the form shows.
-class FileListPresenter : public QObject
+class FileListPresenter : public WindowPart
 {
     Q_OBJECT
 
 public:
-    FileListPresenter(MainWindow *window, MainWindowMenus *menus,
-                      ConfigurationViewController *form, QObject *parent);
+    FileListPresenter(const WindowContext &context, ConfigurationViewController *form,
+                      QObject *parent);
 
     FileListModel *model() const { return m_model; }
     FileReadQueue *readQueue() const { return m_readQueue; }
@@ -63,7 +63,7 @@ public:
     void refreshAll();
     void refreshFiles(const QList<ExifFileInfoPtr> &files);
     void handleExifFilesUpdate(const ExifFilesUpdate &update);
-    void updateEnablement(const CommandState &state);
+    void updateEnablement(const CommandState &state) override;
 
 Q_SIGNALS:
     // After the current files and the form changed.
@@ -81,8 +81,6 @@ private:
     // agreed to lose them.
     void dropFilesAsking(const QList<ExifFileInfoPtr> &dropped, std::function<void()> drop);
 
-    MainWindow *m_window;
-    MainWindowMenus *m_menus;
     ConfigurationViewController *m_form;
     QuickLookImageCache *m_imagesCache;
     FileReadQueue *m_readQueue;

@@ -22,13 +22,8 @@ const QString MimeTypeKey = QStringLiteral("File:MIMEType");
 
 } // namespace
 
-FileOperations::FileOperations(MainWindow *window, MainWindowMenus *menus,
-                               FileListPresenter *list, WriteQueue &runner,
-                               QObject *parent)
-    : QObject(parent)
-    , m_window(window)
-    , m_menus(menus)
-    , m_list(list)
+FileOperations::FileOperations(const WindowContext &context, WriteQueue &runner, QObject *parent)
+    : WindowPart(context, parent)
     , m_runner(runner)
 {
     using C = MainWindowMenus::Command;
@@ -36,14 +31,10 @@ FileOperations::FileOperations(MainWindow *window, MainWindowMenus *menus,
     m_menus->onTriggered(C::RemoveAllMetadata, this, &FileOperations::removeAllMetadata);
     m_menus->onTriggered(C::RemoveMakerNotes, this, &FileOperations::removeMakerNotes);
     m_menus->onTriggered(C::RevertLastSave, this, &FileOperations::revertLastSave);
-    connect(m_window->processButton(), &QPushButton::clicked, this,
-            &FileOperations::processFiles);
-    connect(&m_runner, &WriteQueue::fileStarted, this,
-            &FileOperations::handleFileStarted);
-    connect(&m_runner, &WriteQueue::fileFinished, this,
-            &FileOperations::handleFileFinished);
-    connect(&m_runner, &WriteQueue::batchFinished, this,
-            &FileOperations::handleBatchFinished);
+    connect(m_window->processButton(), &QPushButton::clicked, this, &FileOperations::processFiles);
+    connect(&m_runner, &WriteQueue::fileStarted, this, &FileOperations::handleFileStarted);
+    connect(&m_runner, &WriteQueue::fileFinished, this, &FileOperations::handleFileFinished);
+    connect(&m_runner, &WriteQueue::batchFinished, this, &FileOperations::handleBatchFinished);
 }
 
 void FileOperations::runBatch(bool fadeIn, const std::function<qsizetype()> &start)
@@ -82,7 +73,9 @@ void FileOperations::processFiles()
         return;
     // A value still being typed is part of what the user asked to save.
     m_list->commitPendingInput();
-    runBatch(false, [this] { return m_runner.saveFiles(m_list->files(), ExifOperationOption::ReReadFile); });
+    runBatch(false, [this] {
+        return m_runner.saveFiles(m_list->files(), ExifOperationOption::ReReadFile);
+    });
 }
 
 void FileOperations::removeAllMetadata()
@@ -138,7 +131,9 @@ void FileOperations::removeAllMetadata()
         // All the selected files go: the ones that cannot be stripped are told why, each.
         const QList<ExifFileInfoPtr> current = m_list->selectedFiles();
         if (!current.isEmpty())
-            runBatch(true, [this, current] { return m_runner.removeAllMetadata(current, ExifOperationOption::ReReadFile); });
+            runBatch(true, [this, current] {
+                return m_runner.removeAllMetadata(current, ExifOperationOption::ReReadFile);
+            });
     });
     sheet->open();
 }
@@ -158,7 +153,8 @@ void FileOperations::removeMakerNotes()
         if (sheet->clickedButton() != repair || m_saving)
             return;
         const QList<ExifFileInfoPtr> current = m_list->selectedFiles();
-        runBatch(true, [this, current] { return m_runner.removeMakerNotesFromFiles(current, ExifOperationOption::ReReadFile);
+        runBatch(true, [this, current] {
+            return m_runner.removeMakerNotesFromFiles(current, ExifOperationOption::ReReadFile);
         });
     });
     sheet->open();
@@ -198,7 +194,8 @@ void FileOperations::revertLastSave()
             return;
         QList<ExifRunnerOperationPtr> operations;
         for (const ExifFileInfoPtr &file : filesToRevert()) {
-            if (auto operation = ExifRunnerRevertOperation::create(file, ExifOperationOption::ReReadFile))
+            if (auto operation =
+                    ExifRunnerRevertOperation::create(file, ExifOperationOption::ReReadFile))
                 operations.append(std::move(operation));
         }
         if (!operations.isEmpty()) {
@@ -247,9 +244,9 @@ void FileOperations::updateEnablement(const CommandState &state)
     bool selectionCanLoseMetadata = false;
     for (const ExifFileInfoPtr &file : state.selected) {
         selectionHasError = selectionHasError || file->hasError();
-        selectionCanLoseMetadata = selectionCanLoseMetadata ||
-                                   ExifRunnerRemoveMetadataOperation::canStrip(
-                                       file->exifValue(MimeTypeKey));
+        selectionCanLoseMetadata =
+            selectionCanLoseMetadata ||
+            ExifRunnerRemoveMetadataOperation::canStrip(file->exifValue(MimeTypeKey));
     }
     m_menus->action(C::Process)->setEnabled(!state.saving);
     m_menus->action(C::RemoveAllMetadata)->setEnabled(!state.saving && selectionCanLoseMetadata);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "windows/commandstate.h"
+#include "windows/windowpart.h"
 #include "engine/exifoperationstatus.h"
 
 #include <QHash>
@@ -17,13 +17,12 @@ class ProgressPanel;
 
 // The commands that write files in the background: Save, Remove All Metadata, Repair Maker
 // Notes and Revert Last Save, with the progress panel while one runs.
-class FileOperations : public QObject
+class FileOperations : public WindowPart
 {
     Q_OBJECT
 
 public:
-    FileOperations(MainWindow *window, MainWindowMenus *menus, FileListPresenter *list,
-                   WriteQueue &runner, QObject *parent);
+    FileOperations(const WindowContext &context, WriteQueue &runner, QObject *parent);
 
     bool isSaving() const { return m_saving; }
     ProgressPanel *progressPanel() const;
@@ -34,8 +33,7 @@ public:
     void revertLastSave();
     bool canRevertLastSave() const;
     void removeProgressPanel();
-    void updateEnablement(const CommandState &state);
-
+    void updateEnablement(const CommandState &state) override;
 
 Q_SIGNALS:
     void savingChanged(bool saving);
@@ -50,9 +48,6 @@ private:
     void runBatch(bool fadeIn, const std::function<qsizetype()> &start);
     QList<ExifFileInfoPtr> filesToRevert() const;
 
-    MainWindow *m_window;
-    MainWindowMenus *m_menus;
-    FileListPresenter *m_list;
     WriteQueue &m_runner;
     QPointer<ProgressPanel> m_progressPanel;
     bool m_saving = false;

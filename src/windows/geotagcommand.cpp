@@ -9,14 +9,10 @@
 
 #include <QAction>
 
-GeotagCommand::GeotagCommand(MainWindow *window, MainWindowMenus *menus, FileListPresenter *list,
-                             AuxiliaryWindows *windows, EditSession &session, QObject *parent)
-    : QObject(parent)
-    , m_window(window)
-    , m_menus(menus)
-    , m_list(list)
+GeotagCommand::GeotagCommand(const WindowContext &context, AuxiliaryWindows *windows,
+                             QObject *parent)
+    : WindowPart(context, parent)
     , m_windows(windows)
-    , m_session(session)
 {
     m_menus->onTriggered(MainWindowMenus::Command::GeotagFromTrackLog, this,
                          &GeotagCommand::geotagFromTrackLog);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "windows/commandstate.h"
+#include "windows/windowpart.h"
 
 #include <QObject>
 #include <QPointer>
@@ -13,26 +13,21 @@ class MainWindow;
 class MainWindowMenus;
 
 // Geotag from Track Log: the dialog over the selected files, its preview on the map.
-class GeotagCommand : public QObject
+class GeotagCommand : public WindowPart
 {
     Q_OBJECT
 
 public:
-    GeotagCommand(MainWindow *window, MainWindowMenus *menus, FileListPresenter *list,
-                  AuxiliaryWindows *windows, EditSession &session, QObject *parent);
+    GeotagCommand(const WindowContext &context, AuxiliaryWindows *windows, QObject *parent);
 
     void geotagFromTrackLog();
-    void updateEnablement(const CommandState &state);
+    void updateEnablement(const CommandState &state) override;
 
 Q_SIGNALS:
     // Positions were written into the files' pending edits.
     void changed();
 
 private:
-    MainWindow *m_window;
-    MainWindowMenus *m_menus;
-    FileListPresenter *m_list;
     AuxiliaryWindows *m_windows;
-    EditSession &m_session;
     QPointer<GeotagDialog> m_dialog;
 };

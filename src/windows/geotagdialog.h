@@ -4,7 +4,7 @@
 #include "engine/geotagmatcher.h"
 #include "engine/gpxtrack.h"
 #include "windows/geotagwriter.h"
-#include "windows/mappins.h"
+#include "engine/mappins.h"
 
 #include <QDialog>
 #include <QList>

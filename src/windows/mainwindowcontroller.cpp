@@ -22,9 +22,10 @@
 #include <QToolButton>
 
 #include <algorithm>
+#include <utility>
 
-MainWindowController::MainWindowController(std::unique_ptr<WriteQueue> runner,
-                                           PresetStore &store, bool debug)
+MainWindowController::MainWindowController(std::unique_ptr<WriteQueue> runner, PresetStore &store,
+                                           bool debug)
     : m_debug(debug)
     , m_runner(runner ? std::move(runner) : std::make_unique<WriteQueue>())
 {
@@ -46,12 +47,15 @@ void MainWindowController::buildParts(PresetStore &store)
     m_form->createUserInterface();
     m_window->setFormArea(m_form->scrollArea());
 
-    m_list = new FileListPresenter(m_window.get(), m_menus, m_form, this);
-    m_operations = new FileOperations(m_window.get(), m_menus, m_list, *m_runner, this);
-    m_windows = new AuxiliaryWindows(m_window.get(), m_menus, m_list, store, *m_session, this);
-    m_presets = new PresetsMenu(m_menus, m_list, store, this);
-    m_copyPaste = new CopyPasteCommands(m_window.get(), m_menus, m_list, *m_session, this);
-    m_geotag = new GeotagCommand(m_window.get(), m_menus, m_list, m_windows, *m_session, this);
+    WindowContext context{m_window.get(), m_menus, nullptr, m_session};
+    m_list = new FileListPresenter(context, m_form, this);
+    context.list = m_list;
+    m_operations = new FileOperations(context, *m_runner, this);
+    m_windows = new AuxiliaryWindows(context, store, this);
+    auto *presets = new PresetsMenu(context, store, this);
+    auto *copyPaste = new CopyPasteCommands(context, this);
+    auto *geotag = new GeotagCommand(context, m_windows, this);
+    m_parts = {m_list, m_operations, m_windows, presets, copyPaste, geotag};
     m_form->setShowMapAction([this] { m_windows->showMap(); });
 
     const auto recheck = [this] { recheckUIEnablement(); };
@@ -70,9 +74,9 @@ void MainWindowController::buildParts(PresetStore &store)
             &MainWindowController::handleBatchFinished);
     connect(m_windows, &AuxiliaryWindows::saveRequested, m_operations,
             &FileOperations::processFiles);
-    connect(m_presets, &PresetsMenu::changed, this, edited);
-    connect(m_copyPaste, &CopyPasteCommands::changed, this, edited);
-    connect(m_geotag, &GeotagCommand::changed, this, edited);
+    connect(presets, &PresetsMenu::changed, this, edited);
+    connect(copyPaste, &CopyPasteCommands::changed, this, edited);
+    connect(geotag, &GeotagCommand::changed, this, edited);
     connect(m_session, &EditSession::exifFilesUpdated, m_list,
             &FileListPresenter::handleExifFilesUpdate);
 
@@ -94,8 +98,7 @@ bool MainWindowController::openFile(const QString &path)
     return m_list->addFiles({path});
 }
 
-bool MainWindowController::openFiles(const QStringList &paths,
-                                     const QList<FileRejection> &rejected)
+bool MainWindowController::openFiles(const QStringList &paths, const QList<FileRejection> &rejected)
 {
     return m_list->addFiles(paths, rejected);
 }
@@ -108,12 +111,8 @@ void MainWindowController::recheckUIEnablement()
     state.selected = m_list->selectedFiles();
     // Kept up to date on every edit, so no pass over all files here.
     state.hasModifiedFiles = m_window->isWindowModified();
-    m_list->updateEnablement(state);
-    m_operations->updateEnablement(state);
-    m_windows->updateEnablement(state);
-    m_presets->updateEnablement(state);
-    m_copyPaste->updateEnablement(state);
-    m_geotag->updateEnablement(state);
+    for (WindowPart *part : std::as_const(m_parts))
+        part->updateEnablement(state);
 }
 
 void MainWindowController::updateWindowModified()
@@ -150,20 +149,17 @@ bool MainWindowController::takeStep(CloseFlow::Step step,
         askToSave();
         return false;
     case S::Quit:
-        reply(true);
-        return false;
     case S::CancelQuit:
-        reply(false);
+        reply(step == S::Quit);
         return false;
     case S::DropAndClose:
         m_list->clearAllFiles();
+        [[fallthrough]];
+    case S::Close:
         m_window->close();
         return false;
     case S::StartSave:
         m_operations->processFiles();
-        return false;
-    case S::Close:
-        m_window->close();
         return false;
     case S::AskAfterFailure:
         askAfterFailedSave(results);
@@ -187,20 +183,18 @@ void MainWindowController::askToSave()
         makeSheet(m_window.get(), localized(QStringLiteral("Save changes to modified files?")),
                   localized(QStringLiteral("If you don't save the changes, they will be lost")));
     // One role for all three keeps them in this order on every desktop.
-    QPushButton *save =
-        m_closeSheet->addButton(localized(QStringLiteral("Save")), QMessageBox::ActionRole);
-    QPushButton *cancel =
-        m_closeSheet->addButton(localized(QStringLiteral("Cancel")), QMessageBox::ActionRole);
-    QPushButton *dontSave =
-        m_closeSheet->addButton(localized(QStringLiteral("Don't Save")), QMessageBox::ActionRole);
-    m_closeSheet->setDefaultButton(save);
-    m_closeSheet->setEscapeButton(cancel);
+    QHash<QAbstractButton *, CloseFlow::Answer> answers;
+    for (const auto &[text, answer] : {std::pair{"Save", CloseFlow::Answer::Save},
+                                       std::pair{"Cancel", CloseFlow::Answer::Cancel},
+                                       std::pair{"Don't Save", CloseFlow::Answer::DontSave}})
+        answers.insert(m_closeSheet->addButton(localized(text), QMessageBox::ActionRole), answer);
+    m_closeSheet->setDefaultButton(
+        qobject_cast<QPushButton *>(answers.key(CloseFlow::Answer::Save)));
+    m_closeSheet->setEscapeButton(answers.key(CloseFlow::Answer::Cancel));
     QMessageBox *sheet = m_closeSheet;
-    connect(sheet, &QMessageBox::finished, this, [this, sheet, save, dontSave] {
-        const QAbstractButton *clicked = sheet->clickedButton();
-        takeStep(m_close.answered(clicked == save       ? CloseFlow::Answer::Save
-                                  : clicked == dontSave ? CloseFlow::Answer::DontSave
-                                                        : CloseFlow::Answer::Cancel));
+    connect(sheet, &QMessageBox::finished, this, [this, sheet, answers] {
+        takeStep(
+            m_close.answered(answers.value(sheet->clickedButton(), CloseFlow::Answer::Cancel)));
     });
     m_closeSheet->open();
 }

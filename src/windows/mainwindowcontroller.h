@@ -14,15 +14,13 @@
 
 class AuxiliaryWindows;
 class ConfigurationViewController;
-class CopyPasteCommands;
 class EditSession;
 class FileListPresenter;
 class FileOperations;
-class GeotagCommand;
 class MainWindow;
 class MainWindowMenus;
-class PresetsMenu;
 class QMessageBox;
+class WindowPart;
 
 // The one main window: builds it, hands its parts to the objects that run its commands, keeps
 // the modified mark and the commands' enablement current, and asks before closing.
@@ -33,8 +31,7 @@ class MainWindowController : public AppMainWindow
 public:
     // A null runner makes the real one; tests pass a stand-in.
     explicit MainWindowController(std::unique_ptr<WriteQueue> runner = nullptr,
-                                  PresetStore &store = PresetStore::instance(),
-                                  bool debug = false);
+                                  PresetStore &store = PresetStore::instance(), bool debug = false);
     ~MainWindowController() override;
 
     // AppMainWindow
@@ -51,8 +48,6 @@ public:
     FileListPresenter *fileList() const { return m_list; }
     FileOperations *operations() const { return m_operations; }
     AuxiliaryWindows *auxiliaryWindows() const { return m_windows; }
-    PresetsMenu *presetsMenu() const { return m_presets; }
-    CopyPasteCommands *copyPaste() const { return m_copyPaste; }
     MainWindowMenus *menus() const { return m_menus; }
     ConfigurationViewController *configController() const { return m_form; }
     // Where the form, the list, the map, geotagging and pasting announce their edits.
@@ -82,9 +77,8 @@ private:
     FileListPresenter *m_list = nullptr;
     FileOperations *m_operations = nullptr;
     AuxiliaryWindows *m_windows = nullptr;
-    PresetsMenu *m_presets = nullptr;
-    CopyPasteCommands *m_copyPaste = nullptr;
-    GeotagCommand *m_geotag = nullptr;
+    // Each decides its own commands' enablement.
+    QList<WindowPart *> m_parts;
     CloseFlow m_close;
     QPointer<QMessageBox> m_closeSheet;
     std::function<void(bool)> m_terminateReply;

@@ -46,13 +46,11 @@ public:
 
     QAction *action(Command command) const { return m_actions.value(command); }
     // Runs receiver's handler when the command is chosen.
-    template <typename T>
-    void onTriggered(Command command, T *receiver, void (T::*handler)()) const
+    template <typename T> void onTriggered(Command command, T *receiver, void (T::*handler)()) const
     {
         connect(action(command), &QAction::triggered, receiver, handler);
     }
     QMenu *configsMenu() const { return m_configsMenu; }
-
 
 private:
     QAction *add(QMenu *menu, Command command, const QString &text, const QKeySequence &shortcut);

@@ -1,6 +1,6 @@
 #include "windows/mapbridge.h"
 
-#include "windows/mappins.h"
+#include "engine/mappins.h"
 
 #include "values/logging.h"
 

@@ -1,7 +1,7 @@
 #include "windows/mapwindow.h"
 
 #include "windows/mapbridge.h"
-#include "windows/mappins.h"
+#include "engine/mappins.h"
 
 #include "catalogue/stringtables.h"
 #include "engine/exiftoolpath.h"

@@ -2,7 +2,7 @@
 
 #include "engine/exiffileinfo.h"
 #include "engine/gpxtrack.h"
-#include "windows/mappins.h"
+#include "engine/mappins.h"
 
 #include <QList>
 #include <QWidget>

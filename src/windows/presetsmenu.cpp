@@ -10,11 +10,8 @@
 
 #include <algorithm>
 
-PresetsMenu::PresetsMenu(MainWindowMenus *menus, FileListPresenter *list, PresetStore &store,
-                         QObject *parent)
-    : QObject(parent)
-    , m_menus(menus)
-    , m_list(list)
+PresetsMenu::PresetsMenu(const WindowContext &context, PresetStore &store, QObject *parent)
+    : WindowPart(context, parent)
     , m_store(store)
 {
     m_store.onPresetsChanged(this, [this] { updateConfigurations(); });
@@ -38,9 +35,7 @@ void PresetsMenu::updateConfigurations()
     m_configIds.clear();
     QList<PresetPtr> presets = m_store.configurations().values();
     std::stable_sort(presets.begin(), presets.end(),
-                     [](const PresetPtr &a, const PresetPtr &b) {
-                         return a->name() > b->name();
-                     });
+                     [](const PresetPtr &a, const PresetPtr &b) { return a->name() > b->name(); });
     // Each goes in at position 1, so the menu ends up in ascending order.
     for (int i = 0; i < presets.size(); ++i) {
         m_configIds.append(presets.at(i)->identifier());

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "windows/commandstate.h"
+#include "windows/windowpart.h"
 #include "catalogue/presetstore.h"
 
 #include <QObject>
@@ -11,26 +11,23 @@ class MainWindowMenus;
 
 // The Presets menu: one item per stored preset, in name order, each applied to the selected
 // files as pending edits.
-class PresetsMenu : public QObject
+class PresetsMenu : public WindowPart
 {
     Q_OBJECT
 
 public:
-    PresetsMenu(MainWindowMenus *menus, FileListPresenter *list, PresetStore &store,
-                QObject *parent);
+    PresetsMenu(const WindowContext &context, PresetStore &store, QObject *parent);
     void updateConfigurations();
     const QStringList &configIds() const { return m_configIds; }
     void handleConfigurationClick(int tag);
     void applyConfiguration(const Preset &configuration);
-    void updateEnablement(const CommandState &state);
+    void updateEnablement(const CommandState &state) override;
 
 Q_SIGNALS:
     // The menu or the files' values changed.
     void changed();
 
 private:
-    MainWindowMenus *m_menus;
-    FileListPresenter *m_list;
     PresetStore &m_store;
     QStringList m_configIds;
 };

@@ -1,4 +1,4 @@
-#include "windows/mappins.h"
+#include "engine/mappins.h"
 
 #include "engine/editsession.h"
 #include "values/gpslocation.h"
