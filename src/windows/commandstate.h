@@ -9,7 +9,6 @@
 struct CommandState
 {
     bool saving = false;
-    bool hasFiles = false;
     // Some file in the list has unsaved edits.
     bool hasModifiedFiles = false;
     QList<ExifFileInfoPtr> selected;

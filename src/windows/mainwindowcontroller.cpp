@@ -107,7 +107,6 @@ void MainWindowController::recheckUIEnablement()
 {
     CommandState state;
     state.saving = m_operations->isSaving();
-    state.hasFiles = !m_list->files().isEmpty();
     state.selected = m_list->selectedFiles();
     // Kept up to date on every edit, so no pass over all files here.
     state.hasModifiedFiles = m_window->isWindowModified();
