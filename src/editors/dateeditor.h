@@ -45,6 +45,7 @@ public:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    bool followsOtherRows() const override { return true; }
     void receiveFilesUpdateNotification(const ExifFilesUpdate &update) override;
 
 private:

@@ -178,11 +178,15 @@ void EnumEditor::setExifFiles(const QList<ExifFileInfoPtr> &files)
         m_popupButton->setEnabled(isFieldEnabledForFiles(files));
 }
 
-void EnumEditor::receiveFilesUpdateNotification(const ExifFilesUpdate &update)
+bool EnumEditor::followsOtherRows() const
 {
     const QString &key = field()->xmlName();
-    if ((key != LatitudeRefKey && key != LongitudeRefKey) || !m_popupButton ||
-        update.source == this ||
+    return key == LatitudeRefKey || key == LongitudeRefKey;
+}
+
+void EnumEditor::receiveFilesUpdateNotification(const ExifFilesUpdate &update)
+{
+    if (!m_popupButton || update.source == this ||
         (update.xmlName != LatitudeRefKey && update.xmlName != LongitudeRefKey)) {
         return;
     }

@@ -44,6 +44,8 @@ public:
     void setEnabled(bool enabled) override;
 
 protected:
+    // A hemisphere row follows the coordinates.
+    bool followsOtherRows() const override;
     void receiveFilesUpdateNotification(const ExifFilesUpdate &update) override;
 
 private:

@@ -450,7 +450,7 @@ void FieldEditor::setEditSession(EditSession *session)
     if (m_session)
         disconnect(m_session, nullptr, this, nullptr);
     m_session = session;
-    if (session) {
+    if (session && followsOtherRows()) {
         connect(session, &EditSession::exifFilesUpdated, this,
                 &FieldEditor::receiveFilesUpdateNotification);
     }

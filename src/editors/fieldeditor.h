@@ -140,6 +140,8 @@ public:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    // Whether the row hears the session's edits: only rows that depend on another row do.
+    virtual bool followsOtherRows() const { return false; }
     // Someone changed values of files; rows that depend on another row follow. Includes the
     // row's own posts.
     virtual void receiveFilesUpdateNotification(const ExifFilesUpdate &update);

@@ -324,11 +324,16 @@ void TextEditor::commitPendingInput()
         controlTextDidEndEditing();
 }
 
+bool TextEditor::followsOtherRows() const
+{
+    const QString &key = field()->xmlName();
+    return key == LatitudeKey || key == LongitudeKey;
+}
+
 void TextEditor::receiveFilesUpdateNotification(const ExifFilesUpdate &update)
 {
     // A coordinate row follows the other coordinate, which the map and geotagging change too.
-    const QString &key = field()->xmlName();
-    if ((key != LatitudeKey && key != LongitudeKey) || !m_editor || update.source == this ||
+    if (!m_editor || update.source == this ||
         (update.xmlName != LatitudeKey && update.xmlName != LongitudeKey)) {
         return;
     }

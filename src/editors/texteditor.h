@@ -51,6 +51,8 @@ public:
     void showErrorPopup(const QString &message);
 
 protected:
+    // A coordinate row follows the other coordinate.
+    bool followsOtherRows() const override;
     void receiveFilesUpdateNotification(const ExifFilesUpdate &update) override;
 
 private:
