@@ -29,9 +29,8 @@ QString storedText(const QVariant &value)
 // not load, losing the preset. A name is one line of text: they are dropped from it instead.
 QString storableName(QString name)
 {
-    name.removeIf([](QChar c) {
-        return c.unicode() < 0x20 && c != u'\t' && c != u'\n' && c != u'\r';
-    });
+    name.removeIf(
+        [](QChar c) { return c.unicode() < 0x20 && c != u'\t' && c != u'\n' && c != u'\r'; });
     return name;
 }
 
@@ -97,20 +96,12 @@ QString PresetStore::findUnusedNewIdentifier() const
 }
 
 QMetaObject::Connection PresetStore::onPresetsChanged(const QObject *context,
-                                                       std::function<void()> receiver)
+                                                      std::function<void()> receiver)
 {
     return connect(this, &PresetStore::presetsChanged, context, [receiver = std::move(receiver)] {
-        try {
-            receiver();
-        } catch (const TagsmithException &e) {
-            qCWarning(lcTagsmith).noquote()
-                << QStringLiteral("Caught exception of name: %1 reason: %2")
-                       .arg(e.name(), e.reason());
-        } catch (const std::exception &e) {
-            qCWarning(lcTagsmith).noquote()
-                << QStringLiteral("Caught exception of name: %1 reason: %2")
-                       .arg(QStringLiteral("std::exception"), QString::fromUtf8(e.what()));
-        }
+        runLoggingExceptions(receiver, [](const QString &name, const QString &reason) {
+            return QStringLiteral("Caught exception of name: %1 reason: %2").arg(name, reason);
+        });
     });
 }
 
@@ -152,9 +143,9 @@ PresetPtr PresetStore::loadConfigurationFromXml(const QString &text)
             const auto attributes = reader.attributes();
             const auto name = reader.name();
             if (name == configurationElement) {
-                configuration = std::make_shared<Preset>(
-                    attributes.value(identifierAttribute).toString(),
-                    attributes.value(nameAttribute).toString());
+                configuration =
+                    std::make_shared<Preset>(attributes.value(identifierAttribute).toString(),
+                                             attributes.value(nameAttribute).toString());
             } else if (!configuration) {
                 // Fields outside a preset have nowhere to go.
             } else if (name == modificationElement) {

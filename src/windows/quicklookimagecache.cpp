@@ -123,19 +123,14 @@ QMetaObject::Connection
 QuickLookImageCache::onImageReady(const QObject *context,
                                   std::function<void(const QString &, const QImage &)> receiver)
 {
-    return connect(
-        this, &QuickLookImageCache::imageReady, context,
-        [receiver = std::move(receiver)](const QString &path, const QImage &image) {
-            try {
-                receiver(path, image);
-            } catch (const TagsmithException &e) {
-                qCWarning(lcTagsmith).noquote()
-                    << QStringLiteral("Exception cought: %1").arg(e.reason());
-            } catch (const std::exception &e) {
-                qCWarning(lcTagsmith).noquote()
-                    << QStringLiteral("Exception cought: %1").arg(QString::fromUtf8(e.what()));
-            }
-        });
+    return connect(this, &QuickLookImageCache::imageReady, context,
+                   [receiver = std::move(receiver)](const QString &path, const QImage &image) {
+                       runLoggingExceptions(
+                           [&] { receiver(path, image); },
+                           [](const QString &, const QString &reason) {
+                               return QStringLiteral("Exception cought: %1").arg(reason);
+                           });
+                   });
 }
 
 int QuickLookImageCache::pendingCount() const
