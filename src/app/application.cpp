@@ -20,7 +20,7 @@
 
 namespace {
 
-Application *currentDelegate = nullptr;
+Application *currentApplication = nullptr;
 
 } // namespace
 
@@ -30,18 +30,18 @@ Application::Application(QObject *parent)
 {
     // The five user settings need no registration step: UserSettings answers with their
     // defaults until the user changes them.
-    currentDelegate = this;
+    currentApplication = this;
 }
 
 Application::~Application()
 {
-    if (currentDelegate == this)
-        currentDelegate = nullptr;
+    if (currentApplication == this)
+        currentApplication = nullptr;
 }
 
 Application *Application::instance()
 {
-    return currentDelegate;
+    return currentApplication;
 }
 
 QStringList Application::currentArguments()
@@ -87,13 +87,13 @@ void Application::applicationWillFinishLaunching(const QList<QByteArray> &argume
     // Closing the main window ends the program even while the preferences window is open,
     // which is kept out of the count of windows that hold the program open.
     QGuiApplication::setQuitOnLastWindowClosed(applicationShouldTerminateAfterLastWindowClosed());
-    m_mainWindowController = m_mainWindowFactory ? m_mainWindowFactory(*this) : createMainWindow();
-    m_mainWindowController->window()->show();
+    m_mainWindow = m_mainWindowFactory ? m_mainWindowFactory(*this) : createMainWindow();
+    m_mainWindow->window()->show();
 
     // The desktop hands over files to open as arguments (the .desktop file's %F), a shell
     // relative to the folder it runs in.
-    if ((!commandLine.paths.isEmpty() || !commandLine.rejected.isEmpty()) && m_mainWindowController)
-        m_mainWindowController->openFiles(commandLine.paths, commandLine.rejected);
+    if ((!commandLine.paths.isEmpty() || !commandLine.rejected.isEmpty()) && m_mainWindow)
+        m_mainWindow->openFiles(commandLine.paths, commandLine.rejected);
 }
 
 std::unique_ptr<AppMainWindow> Application::createMainWindow()
@@ -113,14 +113,14 @@ std::unique_ptr<AppMainWindow> Application::createMainWindow()
 
 bool Application::openFile(const QString &path)
 {
-    return m_mainWindowController && m_mainWindowController->openFile(path);
+    return m_mainWindow && m_mainWindow->openFile(path);
 }
 
 Application::TerminateReply Application::applicationShouldTerminate()
 {
-    if (m_mainWindowController && m_mainWindowController->hasModifiedFiles()) {
-        m_mainWindowController->quitRequested();
-        m_mainWindowController->window()->close();
+    if (m_mainWindow && m_mainWindow->hasModifiedFiles()) {
+        m_mainWindow->quitRequested();
+        m_mainWindow->window()->close();
         return TerminateReply::TerminateLater;
     }
     return TerminateReply::TerminateNow;
@@ -142,14 +142,14 @@ void Application::replyToApplicationShouldTerminate(bool shouldTerminate)
 
 PreferencesWindow *Application::preferencesWindow() const
 {
-    return m_preferencesWindowController.get();
+    return m_preferencesWindow.get();
 }
 
 void Application::showPreferences()
 {
-    if (!m_preferencesWindowController)
-        m_preferencesWindowController = std::make_unique<PreferencesWindow>();
-    m_preferencesWindowController->showWindow();
+    if (!m_preferencesWindow)
+        m_preferencesWindow = std::make_unique<PreferencesWindow>();
+    m_preferencesWindow->showWindow();
 }
 
 void Application::openUrl(const QString &address)

@@ -55,7 +55,7 @@ public:
     const QFont &labelFont() const { return m_labelFont; }
     const QFont &labelBoldFont() const { return m_labelBoldFont; }
     const QString &themeKey() const { return m_themeKey; }
-    AppMainWindow *mainWindowController() const { return m_mainWindowController.get(); }
+    AppMainWindow *mainWindow() const { return m_mainWindow.get(); }
     PreferencesWindow *preferencesWindow() const;
 
 public Q_SLOTS:
@@ -73,8 +73,8 @@ private:
     static QStringList currentArguments();
     std::unique_ptr<AppMainWindow> createMainWindow();
 
-    std::unique_ptr<PreferencesWindow> m_preferencesWindowController;
-    std::unique_ptr<AppMainWindow> m_mainWindowController;
+    std::unique_ptr<PreferencesWindow> m_preferencesWindow;
+    std::unique_ptr<AppMainWindow> m_mainWindow;
     MainWindowFactory m_mainWindowFactory;
     QFont m_labelFont;
     QFont m_labelBoldFont;
