@@ -238,8 +238,7 @@ int main(int argc, char *argv[])
     const double single = median(singleTimes);
     out << count << " files of " << qSetRealNumberPrecision(2) << megabytes << " MB, " << rounds
         << " rounds\n"
-        << qSetRealNumberPrecision(0) << "median WriteQueue save:      " << ours
-        << " ms\n"
+        << qSetRealNumberPrecision(0) << "median WriteQueue save:      " << ours << " ms\n"
         << "median one batch write:               " << batch << " ms\n"
         << "median one batch write + batch read:  " << pair << " ms\n"
         << "median one process per file (scaled from " << sample << "): " << single << " ms\n"

@@ -354,7 +354,8 @@ int main(int argc, char *argv[])
 
     timer.restart();
     controller.fileList()->addFiles(paths);
-    if (!controller.fileList()->waitForPendingReads(3600 * 1000) || controller.fileList()->files().size() != count) {
+    if (!controller.fileList()->waitForPendingReads(3600 * 1000) ||
+        controller.fileList()->files().size() != count) {
         std::printf("the main window read %lld of %d files\n",
                     static_cast<long long>(controller.fileList()->files().size()), count);
         return 1;

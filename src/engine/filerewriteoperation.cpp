@@ -91,8 +91,7 @@ QString exifToolFileDate(const QDateTime &date)
 
 } // namespace
 
-FileRewriteOperation::FileRewriteOperation(ExifFileInfoPtr efi,
-                                                               ExifOperationOption options)
+FileRewriteOperation::FileRewriteOperation(ExifFileInfoPtr efi, ExifOperationOption options)
     : m_fileName(efi->fileName())
     , m_efi(std::move(efi))
     , m_options(options)
@@ -120,7 +119,7 @@ std::optional<TagDictionary> FileRewriteOperation::oldData() const
 }
 
 void FileRewriteOperation::storeResults(ErrorMessagesPtr errors,
-                                                  std::optional<TagDictionary> oldData)
+                                        std::optional<TagDictionary> oldData)
 {
     if (oldData && oldData->contains(QStringLiteral("System:FileModifyDate"))) {
         // The dates were set after the new file was read back.
@@ -178,8 +177,8 @@ void FileRewriteOperation::replaceDateTimeOffsets()
     }
 }
 
-FileRewriteOperation::WriteResult
-FileRewriteOperation::writeFile(const QStringList &arguments, ErrorMessages &errors)
+FileRewriteOperation::WriteResult FileRewriteOperation::writeFile(const QStringList &arguments,
+                                                                  ErrorMessages &errors)
 {
     WriteResult result;
     const qint64 megabytes = QFileInfo(m_fileName).size() / (1024 * 1024);
@@ -261,7 +260,7 @@ bool FileRewriteOperation::mayWrite(ErrorMessages &errors) const
 }
 
 std::optional<TagDictionary> FileRewriteOperation::checkNewFile(ErrorMessages &errors,
-                                                                          bool &typeDiffers)
+                                                                bool &typeDiffers)
 {
     const QString newPath = m_replacement->temporaryPath();
     const QFileInfo info(newPath);
@@ -340,8 +339,8 @@ std::optional<TagDictionary> FileRewriteOperation::checkNewFile(ErrorMessages &e
 }
 
 QHash<QString, TagDictionary> FileRewriteOperation::readFiles(const QStringList &paths,
-                                                                        const QStringList &extra,
-                                                                        ExifToolResult &result)
+                                                              const QStringList &extra,
+                                                              ExifToolResult &result)
 {
     QStringList arguments = extra + MetadataReader::readCommandArguments(paths);
     result = exifToolSession().execute(arguments, commandTimeout());
@@ -447,8 +446,7 @@ void FileRewriteOperation::debugPrintArguments(const QStringList &arguments) con
     qCInfo(lcTagsmith).noquote() << text;
 }
 
-std::optional<TagDictionary>
-FileRewriteOperation::adoptRewrittenFile(const WriteResult &result)
+std::optional<TagDictionary> FileRewriteOperation::adoptRewrittenFile(const WriteResult &result)
 {
     QMutexLocker locker(&m_lock);
     std::optional<TagDictionary> reRead;

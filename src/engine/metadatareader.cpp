@@ -62,7 +62,7 @@ ExifToolResult MetadataReader::executeRawCommand_FileInfo(const QStringList &pat
 
 MetadataReader::Report
 MetadataReader::readReport(const QStringList &paths,
-                       const std::function<void(const QString &, TagDictionary)> &onRecord)
+                           const std::function<void(const QString &, TagDictionary)> &onRecord)
 {
     // One run for the batch, unless its paths would pass the kernel's limit on the size of an
     // argument list (2 MiB on Linux); a folder of many thousand files can get there.
@@ -211,7 +211,7 @@ ExifReadResult MetadataReader::readRecords(const QList<ExifFileInfoPtr> &files)
 }
 
 TagDictionary MetadataReader::withSidecarValues(TagDictionary fileValues,
-                                            const TagDictionary &sidecarXmp)
+                                                const TagDictionary &sidecarXmp)
 {
     // The sidecar is the raw file's XMP as far as it goes.
     fileValues.insert(sidecarXmp);

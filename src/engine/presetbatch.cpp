@@ -34,8 +34,7 @@ void applyPreset(const Preset &preset, ExifFileInfo &file)
         file.removeExifValue(key);
 }
 
-QList<PresetBatch::FileResult> PresetBatch::run(const Preset &preset,
-                                                const QStringList &paths)
+QList<PresetBatch::FileResult> PresetBatch::run(const Preset &preset, const QStringList &paths)
 {
     QList<FileResult> results;
     const FileAdmissionResult admitted = FileAdmission::preprocessFilesToBeAdded(paths, {});

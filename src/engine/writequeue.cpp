@@ -332,8 +332,7 @@ private:
     std::atomic<int> m_concurrency{2};
 };
 
-WriteQueue::WriteQueue(QObject *parent, ExifToolSessionKind sessionKind,
-                                           QString exifToolProgram)
+WriteQueue::WriteQueue(QObject *parent, ExifToolSessionKind sessionKind, QString exifToolProgram)
     : QObject(parent)
     , m_worker(std::make_unique<Worker>(this, sessionKind, std::move(exifToolProgram)))
 {
@@ -341,27 +340,25 @@ WriteQueue::WriteQueue(QObject *parent, ExifToolSessionKind sessionKind,
 
 WriteQueue::~WriteQueue() = default;
 
-qsizetype WriteQueue::saveFiles(const QList<ExifFileInfoPtr> &files,
-                                          ExifOperationOption options)
+qsizetype WriteQueue::saveFiles(const QList<ExifFileInfoPtr> &files, ExifOperationOption options)
 {
     return queueOperations(createSaveOperations(files, options));
 }
 
 qsizetype WriteQueue::removeAllMetadata(const QList<ExifFileInfoPtr> &files,
-                                                  ExifOperationOption options)
+                                        ExifOperationOption options)
 {
     return queueOperations(createRemoveOperations(files, options));
 }
 
 qsizetype WriteQueue::removeMakerNotesFromFiles(const QList<ExifFileInfoPtr> &files,
-                                                          ExifOperationOption options)
+                                                ExifOperationOption options)
 {
     return queueOperations(createRemoveMakerNotesOperations(files, options));
 }
 
-QList<ExifRunnerOperationPtr>
-WriteQueue::createSaveOperations(const QList<ExifFileInfoPtr> &files,
-                                           ExifOperationOption options) const
+QList<ExifRunnerOperationPtr> WriteQueue::createSaveOperations(const QList<ExifFileInfoPtr> &files,
+                                                               ExifOperationOption options) const
 {
     QList<ExifRunnerOperationPtr> operations;
     for (const ExifFileInfoPtr &file : files) {
@@ -373,7 +370,7 @@ WriteQueue::createSaveOperations(const QList<ExifFileInfoPtr> &files,
 
 QList<ExifRunnerOperationPtr>
 WriteQueue::createRemoveOperations(const QList<ExifFileInfoPtr> &files,
-                                             ExifOperationOption options) const
+                                   ExifOperationOption options) const
 {
     QList<ExifRunnerOperationPtr> operations;
     for (const ExifFileInfoPtr &file : files)
@@ -383,7 +380,7 @@ WriteQueue::createRemoveOperations(const QList<ExifFileInfoPtr> &files,
 
 QList<ExifRunnerOperationPtr>
 WriteQueue::createRemoveMakerNotesOperations(const QList<ExifFileInfoPtr> &files,
-                                                       ExifOperationOption options) const
+                                             ExifOperationOption options) const
 {
     QList<ExifRunnerOperationPtr> operations;
     for (const ExifFileInfoPtr &file : files) {

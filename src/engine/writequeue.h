@@ -28,8 +28,8 @@ public:
     static inline const QString ThreadName = QStringLiteral("Exif Operations Background Runner");
 
     explicit WriteQueue(QObject *parent = nullptr,
-                                  ExifToolSessionKind sessionKind = ExifToolSessionKind::Persistent,
-                                  QString exifToolProgram = exifToolPath());
+                        ExifToolSessionKind sessionKind = ExifToolSessionKind::Persistent,
+                        QString exifToolProgram = exifToolPath());
     // Lets queued batches finish (a file is never left half-written), then stops the thread.
     ~WriteQueue() override;
 

@@ -119,8 +119,8 @@ void MapWindow::confirmRemovePin()
     sheet->setAttribute(Qt::WA_DeleteOnClose);
     sheet->setWindowModality(Qt::WindowModal);
     sheet->setIcon(QMessageBox::Warning);
-    sheet->setText(QCoreApplication::translate(
-        "MapWindow", "Remove the pin from %n file(s)?", nullptr, int(files.size())));
+    sheet->setText(QCoreApplication::translate("MapWindow", "Remove the pin from %n file(s)?",
+                                               nullptr, int(files.size())));
     sheet->setInformativeText(localized("Their GPS position, altitude and GPS date and time are "
                                         "removed. The files change when you save them."));
     QPushButton *remove = sheet->addButton(localized("Remove Pin"), QMessageBox::AcceptRole);

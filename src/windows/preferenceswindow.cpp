@@ -12,8 +12,7 @@
 #include <QVBoxLayout>
 #include <QtConcurrent/QtConcurrentRun>
 
-PreferencesWindow::PreferencesWindow(const QString &exifToolProgram,
-                                                         QWidget *parent)
+PreferencesWindow::PreferencesWindow(const QString &exifToolProgram, QWidget *parent)
     : QWidget(parent, Qt::Window)
 {
     setWindowTitle(localized(QStringLiteral("Preferences")));
@@ -130,7 +129,7 @@ void PreferencesWindow::reloadSettings()
 }
 
 QComboBox *PreferencesWindow::addChoice(const QString &key,
-                                                  const QList<std::pair<int, QString>> &choices)
+                                        const QList<std::pair<int, QString>> &choices)
 {
     auto *box = new QComboBox(this);
     box->setObjectName(key);

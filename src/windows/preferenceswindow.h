@@ -18,7 +18,7 @@ class PreferencesWindow : public QWidget
 
 public:
     explicit PreferencesWindow(const QString &exifToolProgram = exifToolPath(),
-                                         QWidget *parent = nullptr);
+                               QWidget *parent = nullptr);
     ~PreferencesWindow() override;
 
     // Shows the stored values and brings the window to the front.

@@ -194,9 +194,9 @@ void PresetsWindow::addRemoveConfigurationPressed(int segment)
 
 void PresetsWindow::addConfiguration()
 {
-    auto preset = std::make_shared<Preset>(
-        m_store.findUnusedNewIdentifier(),
-        StringTables::instance().localizedString(u"New Configuration"_qs));
+    auto preset =
+        std::make_shared<Preset>(m_store.findUnusedNewIdentifier(),
+                                 StringTables::instance().localizedString(u"New Configuration"_qs));
     m_store.saveConfiguration(preset);
     reloadConfigurations();
     selectIdentifier(preset->identifier());

@@ -18,8 +18,7 @@ class PresetsWindow : public QWidget
     Q_OBJECT
 
 public:
-    explicit PresetsWindow(QWidget *parent = nullptr,
-                                     PresetStore &store = PresetStore::instance());
+    explicit PresetsWindow(QWidget *parent = nullptr, PresetStore &store = PresetStore::instance());
     ~PresetsWindow() override;
 
     // Brings the window to the front.

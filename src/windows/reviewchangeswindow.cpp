@@ -53,10 +53,8 @@ ReviewChangesWindow::ReviewChangesWindow(QWidget *parent)
     header->resizeSection(ReviewChangesModel::OnDiskColumn, 200);
 
     m_summary = new QLabel(this);
-    connect(m_model, &QAbstractItemModel::rowsInserted, this,
-            &ReviewChangesWindow::updateSummary);
-    connect(m_model, &ReviewChangesModel::filled, this,
-            &ReviewChangesWindow::updateSummary);
+    connect(m_model, &QAbstractItemModel::rowsInserted, this, &ReviewChangesWindow::updateSummary);
+    connect(m_model, &ReviewChangesModel::filled, this, &ReviewChangesWindow::updateSummary);
     // What a later revert can and cannot give back, said before the save rather than after.
     auto *note = new QLabel(
         tr("Revert Last Save can take this save back: it restores these tags, removes the ones "

@@ -111,12 +111,11 @@ private Q_SLOTS:
         QTest::newRow("files") << QStringList{u"t"_s, u"a.jpg"_s} << false;
         QTest::newRow("platform then files")
             << QStringList{u"t"_s, u"-platform"_s, u"offscreen"_s, u"a.jpg"_s} << false;
-        QTest::newRow("style flag") << QStringList{u"t"_s, u"-style=fusion"_s, u"-reverse"_s}
-                                    << false;
+        QTest::newRow("style flag")
+            << QStringList{u"t"_s, u"-style=fusion"_s, u"-reverse"_s} << false;
         QTest::newRow("help after platform")
             << QStringList{u"t"_s, u"-platform"_s, u"xcb"_s, u"--help"_s} << true;
-        QTest::newRow("preset") << QStringList{u"t"_s, u"--apply-preset"_s, u"P"_s, u"a"_s}
-                                << true;
+        QTest::newRow("preset") << QStringList{u"t"_s, u"--apply-preset"_s, u"P"_s, u"a"_s} << true;
         QTest::newRow("bad option") << QStringList{u"t"_s, u"--bogus"_s} << true;
         QTest::newRow("help as a file name") << QStringList{u"t"_s, u"--"_s, u"--help"_s} << false;
     }
@@ -140,8 +139,8 @@ private Q_SLOTS:
         {
             PresetStore store;
             store.initializeSettings();
-            auto preset = std::make_shared<Preset>(store.findUnusedNewIdentifier(),
-                                                              u"Agency credit"_s);
+            auto preset =
+                std::make_shared<Preset>(store.findUnusedNewIdentifier(), u"Agency credit"_s);
             preset->changedValues().insert(u"IFD0:Artist"_s, u"Jane Doe"_s);
             preset->removedValues().insert(u"IFD0:ImageDescription"_s);
             store.saveConfiguration(preset);
@@ -152,20 +151,20 @@ private Q_SLOTS:
         QVERIFY(QDir().mkpath(photos));
         const QStringList names{u"a.jpg"_s, u"b c.jpg"_s, u"locked.jpg"_s};
         for (const QString &name : names) {
-            QCOMPARE(Fixtures::makeImage(photos + u'/' + name,
-                                         {u"-IFD0:ImageDescription=Old caption"_s,
-                                          u"-IFD0:Make=Canon"_s}),
-                     QString());
+            QCOMPARE(
+                Fixtures::makeImage(photos + u'/' + name, {u"-IFD0:ImageDescription=Old caption"_s,
+                                                           u"-IFD0:Make=Canon"_s}),
+                QString());
         }
         const QString locked = photos + u"/locked.jpg"_s;
-        QVERIFY(QFile::setPermissions(locked, QFile::ReadOwner | QFile::ReadGroup |
-                                                  QFile::ReadOther));
+        QVERIFY(
+            QFile::setPermissions(locked, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther));
         const QByteArray lockedBytes = Fixtures::readBytes(locked);
 
         // Relative names, as typed in a shell.
-        const Run run = runTagsmith({u"--apply-preset"_s, u"Agency credit"_s, u"a.jpg"_s,
-                                     u"b c.jpg"_s, u"locked.jpg"_s},
-                                    configHome, photos);
+        const Run run = runTagsmith(
+            {u"--apply-preset"_s, u"Agency credit"_s, u"a.jpg"_s, u"b c.jpg"_s, u"locked.jpg"_s},
+            configHome, photos);
         QCOMPARE(run.exitCode, 1);
         const QStringList lines = run.out.split(u'\n', Qt::SkipEmptyParts);
         QCOMPARE(lines.size(), 3);
@@ -183,8 +182,8 @@ private Q_SLOTS:
         QCOMPARE(Fixtures::readBytes(locked), lockedBytes);
 
         // Applied again, nothing is left to change in the two saved files.
-        const Run again = runTagsmith({u"--apply-preset"_s, u"Agency credit"_s, u"a.jpg"_s},
-                                      configHome, photos);
+        const Run again =
+            runTagsmith({u"--apply-preset"_s, u"Agency credit"_s, u"a.jpg"_s}, configHome, photos);
         QCOMPARE(again.exitCode, 0);
         QCOMPARE(again.out, photos + u"/a.jpg: unchanged\n"_s);
     }

@@ -69,17 +69,16 @@ private Q_SLOTS:
         QTest::addColumn<QString>("path");
         for (const char *path :
              {"bin/tagsmith", "libexec/tagsmith/exiftool/exiftool",
-              "libexec/tagsmith/exiftool/lib/Image/ExifTool.pm",
-              "share/tagsmith/map/page/map.html", "share/tagsmith/map/page/map.js",
-              "share/tagsmith/map/leaflet/leaflet.js", "share/tagsmith/map/leaflet/leaflet.css",
+              "libexec/tagsmith/exiftool/lib/Image/ExifTool.pm", "share/tagsmith/map/page/map.html",
+              "share/tagsmith/map/page/map.js", "share/tagsmith/map/leaflet/leaflet.js",
+              "share/tagsmith/map/leaflet/leaflet.css",
               "share/applications/org.tagsmith.Tagsmith.desktop",
               "share/icons/hicolor/scalable/apps/org.tagsmith.Tagsmith.svg",
               "share/icons/hicolor/48x48/apps/org.tagsmith.Tagsmith.png",
               "share/icons/hicolor/128x128/apps/org.tagsmith.Tagsmith.png",
               "share/icons/hicolor/256x256/apps/org.tagsmith.Tagsmith.png",
-              "share/metainfo/org.tagsmith.Tagsmith.metainfo.xml",
-              "share/doc/tagsmith/copyright", "share/doc/tagsmith/changelog.gz",
-              "share/man/man1/tagsmith.1.gz"}) {
+              "share/metainfo/org.tagsmith.Tagsmith.metainfo.xml", "share/doc/tagsmith/copyright",
+              "share/doc/tagsmith/changelog.gz", "share/man/man1/tagsmith.1.gz"}) {
             QTest::newRow(path) << QString::fromLatin1(path);
         }
     }
@@ -114,8 +113,8 @@ private Q_SLOTS:
     void iconsHaveTheirSizes()
     {
         QFETCH(int, size);
-        const QImage icon(m_root + u"/share/icons/hicolor/%1x%1/apps/org.tagsmith.Tagsmith.png"_s
-                                       .arg(size));
+        const QImage icon(m_root +
+                          u"/share/icons/hicolor/%1x%1/apps/org.tagsmith.Tagsmith.png"_s.arg(size));
         QCOMPARE(icon.size(), QSize(size, size));
         // Drawn, not an empty square.
         QVERIFY(icon.pixelColor(size / 2, size / 2).alpha() > 0);
@@ -132,15 +131,13 @@ private Q_SLOTS:
         environment.remove(u"TAGSMITH_EXIFTOOL"_s);
         const Run version = run(bin + u"/tagsmith"_s, {u"--version"_s}, environment);
         QCOMPARE(version.exitCode, 0);
-        QVERIFY2(version.output.contains(
-                     u"(%1/libexec/tagsmith/exiftool/exiftool)"_s.arg(m_root)),
+        QVERIFY2(version.output.contains(u"(%1/libexec/tagsmith/exiftool/exiftool)"_s.arg(m_root)),
                  qPrintable(version.output));
         QVERIFY2(version.output.contains(u"ExifTool 13."_s), qPrintable(version.output));
-        QVERIFY2(version.output.contains(u"Map page: %1/share/tagsmith/map/page/map.html"_s
-                                             .arg(m_root)),
-                 qPrintable(version.output));
-        QCOMPARE(QFileInfo(m_root + u"/libexec/tagsmith/exiftool/exiftool"_s).isExecutable(),
-                 true);
+        QVERIFY2(
+            version.output.contains(u"Map page: %1/share/tagsmith/map/page/map.html"_s.arg(m_root)),
+            qPrintable(version.output));
+        QCOMPARE(QFileInfo(m_root + u"/libexec/tagsmith/exiftool/exiftool"_s).isExecutable(), true);
     }
 
     // The installed program reads and writes a photo with its own ExifTool, without a window.
@@ -154,8 +151,7 @@ private Q_SLOTS:
         {
             PresetStore store;
             store.initializeSettings();
-            auto preset = std::make_shared<Preset>(store.findUnusedNewIdentifier(),
-                                                              u"Credit"_s);
+            auto preset = std::make_shared<Preset>(store.findUnusedNewIdentifier(), u"Credit"_s);
             preset->changedValues().insert(u"IFD0:Artist"_s, u"Jane Doe"_s);
             store.saveConfiguration(preset);
         }
@@ -196,8 +192,8 @@ private Q_SLOTS:
         window.kill();
         window.waitForFinished();
         const QString log = QString::fromUtf8(window.readAll());
-        QVERIFY2(log.contains(u"ExifTool: %1/libexec/tagsmith/exiftool/exiftool, version 13."_s
-                                  .arg(m_root)),
+        QVERIFY2(log.contains(
+                     u"ExifTool: %1/libexec/tagsmith/exiftool/exiftool, version 13."_s.arg(m_root)),
                  qPrintable(log));
     }
 
@@ -220,7 +216,8 @@ private Q_SLOTS:
         QFETCH(QStringList, arguments);
         const QString path = QStandardPaths::findExecutable(program);
         if (path.isEmpty())
-            QSKIP(qPrintable(program + u" is not installed (scripts/install-deps.sh installs it)"_s));
+            QSKIP(
+                qPrintable(program + u" is not installed (scripts/install-deps.sh installs it)"_s));
         for (QString &argument : arguments) {
             if (argument.startsWith(u"share/"_s))
                 argument = m_root + u'/' + argument;

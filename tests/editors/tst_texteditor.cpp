@@ -198,15 +198,15 @@ private Q_SLOTS:
         QTest::newRow("none") << QStringList{u""_qs, u""_qs} << QString();
         QTest::newRow("one file with two")
             << QStringList{u"de,fr"_qs, u""_qs} << u"2 other languages"_qs;
-        QTest::newRow("same language in both") << QStringList{u"de"_qs, u"de"_qs}
-                                               << u"1 other language"_qs;
+        QTest::newRow("same language in both")
+            << QStringList{u"de"_qs, u"de"_qs} << u"1 other language"_qs;
     }
     void otherLanguagesShown()
     {
         QFETCH(QStringList, languagesPerFile);
         const QString key = u"XMP-dc:Description"_qs;
-        Row<TextEditor> row(makeField(key, FieldDataRepresentation::None, std::nullopt,
-                                      FieldDataType::LangAlt));
+        Row<TextEditor> row(
+            makeField(key, FieldDataRepresentation::None, std::nullopt, FieldDataType::LangAlt));
         QList<ExifFileInfoPtr> files;
         for (const QString &languages : std::as_const(languagesPerFile)) {
             TagDictionary data{{key, u"English"_qs}};

@@ -181,7 +181,7 @@ private Q_SLOTS:
 
     void commandLineNamesAreAbsoluteAndValid()
     {
-        const QList<QByteArray> arguments{"a.jpg",      ".",           "/abs/b.nef",      "",
+        const QList<QByteArray> arguments{"a.jpg",      ".",           "/abs/b.nef",     "",
                                           "d/../c.jpg", "caf\xe9.jpg", "caf\xc3\xa9.jpg"};
         const FileAdmissionResult files =
             FileAdmission::commandLineFiles(arguments, u"/home/ann/shoot"_qs);

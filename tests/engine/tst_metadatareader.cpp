@@ -179,8 +179,7 @@ private Q_SLOTS:
             QVERIFY(writeFile(paths.last(), {}));
             files.append(std::make_shared<ExifFileInfo>(paths.last()));
         }
-        const ExifReadResult result =
-            MetadataReader(dir.filePath(u"fake"_qs)).readRecords(files);
+        const ExifReadResult result = MetadataReader(dir.filePath(u"fake"_qs)).readRecords(files);
         QVERIFY2(result.ok(), qPrintable(result.errorMessage));
         QVERIFY(files.last()->isValid());
 

@@ -50,7 +50,8 @@ QStringList inOrder(const QStringList &names, int stored)
     QStringList events;
     for (int i = 0; i < names.size(); ++i)
         for (const char *what : {"before ", "after "})
-            events << QLatin1String(what) + names[i] + QStringLiteral(" %1/%2").arg(i + 1).arg(names.size());
+            events << QLatin1String(what) + names[i] +
+                          QStringLiteral(" %1/%2").arg(i + 1).arg(names.size());
     return events << u"finish "_qs + QString::number(stored);
 }
 

@@ -63,8 +63,8 @@ private Q_SLOTS:
             << rich
             << u"IPTC:Keywords=a, b\\, c, d|XMP-dc:Subject=three|XMP-dc:Title=Bonjour|"
                u"ExifIFD:DateTimeOriginal=+1d2h"_qs;
-        QTest::newRow("removals")
-            << rich << u"IFD0:Software|IPTC:Keywords|GPS:GPSLatitude|XMP-dc:Title"_qs;
+        QTest::newRow("removals") << rich
+                                  << u"IFD0:Software|IPTC:Keywords|GPS:GPSLatitude|XMP-dc:Title"_qs;
         // The save adds a default language beside one the file had alone.
         QTest::newRow("default language added")
             << QStringList{u"-XMP-dc:Title-de=Hallo"_qs, u"-XMP-dc:Rights-fr=Droits"_qs}
@@ -95,9 +95,8 @@ private Q_SLOTS:
             else
                 file->setExifValue(edit.left(equals), edit.mid(equals + 1));
         }
-        QVERIFY(run([&](WriteQueue &r) {
-            return r.saveFiles({file}, ExifOperationOption::ReReadFile);
-        }));
+        QVERIFY(run(
+            [&](WriteQueue &r) { return r.saveFiles({file}, ExifOperationOption::ReReadFile); }));
         QVERIFY(RevertRecord::contains(path));
 
         const auto revert =
@@ -116,9 +115,8 @@ private Q_SLOTS:
         QVERIFY(Fixtures::makeImage(path, {u"-IFD0:Software=Old"_qs}).isEmpty());
         ExifFileInfoPtr file = load(path);
         file->setExifValue(u"IFD0:Software"_qs, u"Saved"_qs);
-        QVERIFY(run([&](WriteQueue &r) {
-            return r.saveFiles({file}, ExifOperationOption::ReReadFile);
-        }));
+        QVERIFY(run(
+            [&](WriteQueue &r) { return r.saveFiles({file}, ExifOperationOption::ReReadFile); }));
 
         // Another program writes the file afterwards.
         QVERIFY(
@@ -128,8 +126,7 @@ private Q_SLOTS:
         const auto revert =
             ExifRunnerRevertOperation::create(file, ExifOperationOption::ReReadFile);
         QVERIFY(revert);
-        const auto listener =
-            run([&](WriteQueue &r) { return r.queueOperations({revert}); });
+        const auto listener = run([&](WriteQueue &r) { return r.queueOperations({revert}); });
         QVERIFY(listener);
         QCOMPARE(Fixtures::readBytes(path), bytes);
         const QStringList messages = listener->messages(path);

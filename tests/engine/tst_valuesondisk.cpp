@@ -202,9 +202,8 @@ private Q_SLOTS:
                                 u"-XMP-dc:Description-fr-CA=Français"_qs};
         QTest::newRow("edited") << three << u"New words"_qs << QStringList{u"de"_qs, u"fr-CA"_qs};
         QTest::newRow("removed") << three << QString() << QStringList{u"de"_qs, u"fr-CA"_qs};
-        QTest::newRow("added beside another")
-            << QStringList{u"-XMP-dc:Description-de=Deutsch"_qs} << u"First"_qs
-            << QStringList{u"de"_qs};
+        QTest::newRow("added beside another") << QStringList{u"-XMP-dc:Description-de=Deutsch"_qs}
+                                              << u"First"_qs << QStringList{u"de"_qs};
     }
 
     void otherLanguagesKept()

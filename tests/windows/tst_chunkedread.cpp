@@ -225,7 +225,8 @@ private Q_SLOTS:
         const qsizetype kept = controller.fileList()->files().size();
         QVERIFY2(kept == 3 || kept == 6, qPrintable(QString::number(kept)));
         QCOMPARE(names(controller.fileList()->files()), names(records(m_paths.mid(0, kept))));
-        QCOMPARE(names(controller.fileList()->selectedFiles()), names(records(m_paths.mid(0, kept))));
+        QCOMPARE(names(controller.fileList()->selectedFiles()),
+                 names(records(m_paths.mid(0, kept))));
         for (const ExifFileInfoPtr &file : controller.fileList()->files())
             QVERIFY(file->isValid());
         // The files not read can be added again.

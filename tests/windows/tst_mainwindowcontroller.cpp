@@ -137,7 +137,8 @@ class TestMainWindowController : public QObject
 
     bool add(const QStringList &paths)
     {
-        return m_controller->fileList()->addFiles(paths) && m_controller->fileList()->waitForPendingReads();
+        return m_controller->fileList()->addFiles(paths) &&
+               m_controller->fileList()->waitForPendingReads();
     }
 
 private Q_SLOTS:
@@ -259,7 +260,8 @@ private Q_SLOTS:
                               Qt::NoModifier);
         QCoreApplication::sendEvent(window.fileList()->view()->viewport(), &enter);
         QCoreApplication::sendEvent(window.fileList()->view()->viewport(), &drop);
-        QVERIFY(enter.isAccepted() && drop.isAccepted() && window.fileList()->waitForPendingReads());
+        QVERIFY(enter.isAccepted() && drop.isAccepted() &&
+                window.fileList()->waitForPendingReads());
         QCOMPARE(names(window.fileList()->files()), QStringList{u"first.jpg"_s});
         QVERIFY(!image(u"shoot/a.jpg"_s).isEmpty() && !image(u"shoot/deeper/B.JPG"_s).isEmpty());
         QVERIFY(!image(u"shoot/c.png"_s, {}).isEmpty());
@@ -297,8 +299,8 @@ private Q_SLOTS:
                  0);
         const QString current = QDir::currentPath();
         QVERIFY(QDir::setCurrent(QFileInfo(photo).path()));
-        const bool isAdded =
-            window.fileList()->addFiles({u"a.jpg"_s, u"../d/./a.jpg"_s}) && window.fileList()->waitForPendingReads();
+        const bool isAdded = window.fileList()->addFiles({u"a.jpg"_s, u"../d/./a.jpg"_s}) &&
+                             window.fileList()->waitForPendingReads();
         const QString here = QDir::currentPath();
         QVERIFY(QDir::setCurrent(current));
         QVERIFY(isAdded);
@@ -322,8 +324,7 @@ private Q_SLOTS:
     void presetsMenuIsSortedAndAppliesToTheSelection()
     {
         for (const QString &name : {u"b"_s, u"a"_s, u"c"_s}) {
-            auto preset =
-                std::make_shared<Preset>(m_store->findUnusedNewIdentifier(), name);
+            auto preset = std::make_shared<Preset>(m_store->findUnusedNewIdentifier(), name);
             preset->changedValues().insert(Artist, u"Preset "_s + name);
             preset->removedValues().insert(u"IFD0:Software"_s);
             m_store->saveConfiguration(preset);
@@ -343,7 +344,8 @@ private Q_SLOTS:
         window.fileList()->selectRows({1});
         window.menus()->configsMenu()->actions().at(1)->trigger();
 
-        const ExifFileInfoPtr one = window.fileList()->files().at(0), two = window.fileList()->files().at(1);
+        const ExifFileInfoPtr one = window.fileList()->files().at(0),
+                              two = window.fileList()->files().at(1);
         QCOMPARE(two->exifValue(Artist), u"Preset a"_s);
         QVERIFY(!two->hasExifValue(u"IFD0:Software"_s));
         QCOMPARE(one->exifValue(Artist), u"Ann"_s);
@@ -465,7 +467,8 @@ private Q_SLOTS:
         if (how.startsWith(u"return"))
             QTest::keyClick(edit, Qt::Key_Return);
         if (how.endsWith(u"click"))
-            QTest::mouseClick(static_cast<MainWindow *>(window.window())->processButton(), Qt::LeftButton);
+            QTest::mouseClick(static_cast<MainWindow *>(window.window())->processButton(),
+                              Qt::LeftButton);
         else
             window.menus()->action(MainWindowMenus::Command::Process)->trigger();
         // The focus leaving the row afterwards ends nothing new.
@@ -573,7 +576,8 @@ private Q_SLOTS:
         QVERIFY2(ticks > 30, qPrintable(QString::number(ticks))); // not frozen for 2 s
         QCOMPARE(window.fileList()->files().size(), 1);
         QCOMPARE(window.fileList()->selectedFiles().size(), 1);
-        QCOMPARE(window.fileList()->selectedFiles().first()->exifValue(u"IFD0:Artist"_s), u"Outside"_s);
+        QCOMPARE(window.fileList()->selectedFiles().first()->exifValue(u"IFD0:Artist"_s),
+                 u"Outside"_s);
         QVERIFY(!window.window()->isWindowModified());
         QCOMPARE(note, QStringList{b + u" \u2014 reading it took longer than 2 seconds"_s});
     }

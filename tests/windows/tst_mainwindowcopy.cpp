@@ -69,10 +69,13 @@ private Q_SLOTS:
 
         MainWindowController window(nullptr, *m_store);
         window.window()->show();
-        QVERIFY(window.fileList()->addFiles({source, jpeg, raw}) && window.fileList()->waitForPendingReads());
-        const QList<int> others{window.fileList()->model()->rowOf(jpeg), window.fileList()->model()->rowOf(raw)};
-        QCOMPARE(window.fileList()->model()->index(others[1]).data(FileInfoCell::SidecarRole).toString(),
-                 u"raw.xmp"_qs);
+        QVERIFY(window.fileList()->addFiles({source, jpeg, raw}) &&
+                window.fileList()->waitForPendingReads());
+        const QList<int> others{window.fileList()->model()->rowOf(jpeg),
+                                window.fileList()->model()->rowOf(raw)};
+        QCOMPARE(
+            window.fileList()->model()->index(others[1]).data(FileInfoCell::SidecarRole).toString(),
+            u"raw.xmp"_qs);
 
         QAction *copy = window.menus()->action(MainWindowMenus::Command::CopyMetadata);
         QAction *paste = window.menus()->action(MainWindowMenus::Command::PasteMetadata);
@@ -92,7 +95,8 @@ private Q_SLOTS:
         dialog->accept();
         QCOMPARE(PasteMetadataDialog::lastSelection().sections, chosen.sections);
         for (int row : std::as_const(others))
-            QVERIFY(window.fileList()->model()->index(row).data(FileInfoCell::ModifiedRole).toBool());
+            QVERIFY(
+                window.fileList()->model()->index(row).data(FileInfoCell::ModifiedRole).toBool());
         // Nothing reaches the disk before a save.
         QCOMPARE(tagOf(jpeg, u"IPTC:Headline"_qs), QString());
 
@@ -104,7 +108,8 @@ private Q_SLOTS:
         QCOMPARE(tagOf(raw, u"IPTC:Headline"_qs), u"Boats"_qs);
         QCOMPARE(tagOf(sidecar, u"XMP-photoshop:City"_qs), u"Lisbon"_qs);
         for (int row = 0; row < 3; ++row)
-            QVERIFY(!window.fileList()->model()->index(row).data(FileInfoCell::ModifiedRole).toBool());
+            QVERIFY(
+                !window.fileList()->model()->index(row).data(FileInfoCell::ModifiedRole).toBool());
     }
 };
 

@@ -196,7 +196,8 @@ private Q_SLOTS:
 
         MainWindowController window(nullptr, *m_store);
         window.window()->show();
-        QVERIFY(window.fileList()->addFiles({inside, after}) && window.fileList()->waitForPendingReads());
+        QVERIFY(window.fileList()->addFiles({inside, after}) &&
+                window.fileList()->waitForPendingReads());
         window.fileList()->selectRows({0, 1});
         QAction *geotag = window.menus()->action(MainWindowMenus::Command::GeotagFromTrackLog);
         QVERIFY(geotag->isEnabled());

@@ -30,8 +30,7 @@ TextEditor *textRow(const PresetsWindow &window, const QString &key)
     return nullptr;
 }
 
-void typeIntoPresetRow(const PresetsWindow &window, const QString &key,
-                       const QString &text)
+void typeIntoPresetRow(const PresetsWindow &window, const QString &key, const QString &text)
 {
     TextEditor *row = textRow(window, key);
     QVERIFY(row);
