@@ -12,6 +12,16 @@ void ExifRunnerOperation::run()
 {
 }
 
+FileReplacement *ExifRunnerOperation::runUntilFlush()
+{
+    run();
+    return nullptr;
+}
+
+void ExifRunnerOperation::runAfterFlush()
+{
+}
+
 void ExifRunnerOperation::readErrors(ErrorMessages &errors, QByteArrayView data) const
 {
     errors.addExifToolOutput(data);

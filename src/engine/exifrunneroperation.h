@@ -10,6 +10,7 @@
 #include <memory>
 
 class ExifToolSession;
+class FileReplacement;
 
 // What a file-changing operation does besides its write.
 enum class ExifOperationOption {
@@ -33,6 +34,12 @@ public:
 
     // Background thread.
     virtual void run();
+    // run() in two halves, so that the runner can flush the new files of several operations at
+    // once: runUntilFlush stops where the operation's new file only waits to reach the disk and
+    // returns it; the runner then flushes it and calls runAfterFlush. Null means the operation
+    // has run to its end (nothing to put in place, a failure, or one that does not stop).
+    virtual FileReplacement *runUntilFlush();
+    virtual void runAfterFlush();
     // ExifTool's "Error: " and "Warning: " lines into messages.
     virtual void readErrors(ErrorMessages &errors, QByteArrayView data) const;
     // Runs ExifTool and returns its exit status; a run that could not start, crashed or timed

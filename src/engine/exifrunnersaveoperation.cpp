@@ -4,6 +4,7 @@
 #include "catalogue/exiffieldscontroller.h"
 #include "engine/metadatareader.h"
 #include "engine/exifutil.h"
+#include "engine/filereplacement.h"
 #include "engine/revertrecord.h"
 #include "values/cameramakers.h"
 #include "values/dateoffset.h"
@@ -108,7 +109,16 @@ QSet<QString> ExifRunnerSaveOperation::gatherFieldsToRemove() const
 
 void ExifRunnerSaveOperation::run()
 {
-    auto errors = std::make_shared<ErrorMessages>(fileName());
+    if (FileReplacement *staged = runUntilFlush()) {
+        FileReplacement::flushTogether({staged});
+        runAfterFlush();
+    }
+}
+
+FileReplacement *ExifRunnerSaveOperation::runUntilFlush()
+{
+    m_runErrors = std::make_shared<ErrorMessages>(fileName());
+    m_revert.reset();
     QStringList failures;
     const QStringList arguments = exifToolArguments(&failures);
     sidecarArguments(&failures);
@@ -116,32 +126,43 @@ void ExifRunnerSaveOperation::run()
         // Nothing is written rather than a file with one edit quietly missing; the edits stay
         // pending so the user can correct them.
         for (const QString &failure : std::as_const(failures))
-            errors->addError(failure);
-        storeResults(errors, std::nullopt);
-        return;
+            m_runErrors->addError(failure);
+        storeResults(m_runErrors, std::nullopt);
+        return nullptr;
     }
-
-    WriteResult result;
     // An edit of XMP tags alone leaves a raw file with a sidecar untouched.
     if (writesFile()) {
         // What the file held in these tags, so the save can be taken back: as it was read when
         // the file is untouched since, otherwise asked of ExifTool.
         const QStringList keys = m_itemsToChange.keys() + m_itemsToRemove.values();
         const std::optional<FileIdentity> read = efi()->identity();
-        std::optional<RevertEntry> revert;
         if (read && FileIdentity::of(fileName()) == read)
-            revert = RevertRecord::fromEarlierRead(fileName(), keys, efi()->originalExifData());
-        if (!revert)
-            revert = RevertRecord::captureBeforeSave(exifToolSession(), fileName(), keys, *errors);
-        result = writeFile(arguments, *errors);
+            m_revert = RevertRecord::fromEarlierRead(fileName(), keys, efi()->originalExifData());
+        if (!m_revert)
+            m_revert =
+                RevertRecord::captureBeforeSave(exifToolSession(), fileName(), keys, *m_runErrors);
+        if (stageWrite(arguments, *m_runErrors))
+            return stagedReplacement();
+    }
+    runAfterFlush();
+    return nullptr;
+}
+
+void ExifRunnerSaveOperation::runAfterFlush()
+{
+    ErrorMessages &errors = *m_runErrors;
+    WriteResult result;
+    if (writesFile()) {
+        result = completeWrite(errors);
         if (result.replaced)
-            RevertRecord::storeAfterSave(fileName(), std::move(revert), efi()->originalExifData(),
-                                         result.reRead, *errors);
+            RevertRecord::storeAfterSave(fileName(), std::move(m_revert),
+                                         efi()->originalExifData(), result.reRead, errors);
     }
     // A file changed by someone else is left whole, sidecar included.
     if (!m_sidecarPath.isEmpty() && !result.leftAlone)
-        writeSidecar(*errors, result);
-    storeResults(errors, reReads() ? result.reRead : std::nullopt);
+        writeSidecar(errors, result);
+    storeResults(std::move(m_runErrors),
+                 reReads() ? std::move(result.reRead) : std::optional<TagDictionary>());
 }
 
 void ExifRunnerSaveOperation::postProcessInMainThread()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/filerewriteoperation.h"
+#include "engine/revertrecord.h"
 
 #include <QSet>
 #include <QString>
@@ -22,6 +23,8 @@ public:
     ExifRunnerSaveOperation(ExifFileInfoPtr efi, ExifOperationOption options);
 
     void run() override;
+    FileReplacement *runUntilFlush() override;
+    void runAfterFlush() override;
     void postProcessInMainThread() override;
 
     // What goes to the file itself; a raw file's XMP tags go to its sidecar instead.
@@ -71,6 +74,10 @@ private:
 
     bool readsBackAsWritten(const QString &key, const QString &value,
                             const TagDictionary &written) const;
+
+    // Between runUntilFlush and runAfterFlush.
+    ErrorMessagesPtr m_runErrors;
+    std::optional<RevertEntry> m_revert;
 
     TagDictionary m_itemsToChange;
     QSet<QString> m_itemsToRemove;

@@ -11,6 +11,7 @@
 #include <QRandomGenerator>
 
 #include <atomic>
+#include <thread>
 
 #include <dirent.h>
 #include <fcntl.h>
@@ -191,6 +192,9 @@ bool FileReplacement::prepare()
 {
     discard();
     m_committed = false;
+    m_staged = false;
+    m_flushed = false;
+    m_flushError = 0;
     m_changedOutside = false;
     m_keptFile.clear();
     m_originalState.reset();
@@ -348,8 +352,10 @@ bool FileReplacement::giveOriginalIdentity(int fd, ErrorMessages &errors)
     return true;
 }
 
-bool FileReplacement::commit(ErrorMessages &errors)
+bool FileReplacement::stage(ErrorMessages &errors)
 {
+    if (m_staged)
+        return true;
     if (m_temporaryPath.isEmpty() || m_scratchLock < 0)
         return fail(errors, translated("no place was prepared for the new file"), 0);
 
@@ -369,14 +375,8 @@ bool FileReplacement::commit(ErrorMessages &errors)
         return fail(errors, translated("the new file written by ExifTool is empty"), 0);
 
     struct statx original = {};
-    const QByteArray target = encoded(m_targetPath);
-    if (::statx(AT_FDCWD, target.constData(), 0, STATX_BASIC_STATS | STATX_BTIME, &original) != 0) {
-        if (m_expected)
-            return reportChangedOutside(errors);
-        return fail(errors, translated("the original file cannot be found any more"), errno);
-    }
-    if (m_expected && *m_expected != identityOf(original))
-        return reportChangedOutside(errors);
+    if (!checkTarget(errors, original))
+        return false;
     if (!S_ISREG(original.stx_mode))
         return fail(errors, translated("the original is no longer a regular file"), 0);
     FileSnapshot snapshot;
@@ -394,26 +394,102 @@ bool FileReplacement::commit(ErrorMessages &errors)
 
     if (!giveOriginalIdentity(fd, errors))
         return false;
-    if (::fsync(fd) != 0)
-        return fail(errors, translated("the new file cannot be written to disk"), errno);
-    if (!swapInto(target, errors))
+    m_staged = true;
+    return true;
+}
+
+bool FileReplacement::checkTarget(ErrorMessages &errors, struct statx &original)
+{
+    const QByteArray target = encoded(m_targetPath);
+    if (::statx(AT_FDCWD, target.constData(), 0, STATX_BASIC_STATS | STATX_BTIME, &original) != 0) {
+        if (m_expected)
+            return reportChangedOutside(errors);
+        return fail(errors, translated("the original file cannot be found any more"), errno);
+    }
+    if (m_expected && *m_expected != identityOf(original))
+        return reportChangedOutside(errors);
+    return true;
+}
+
+void FileReplacement::flush()
+{
+    if (m_flushed)
+        return;
+    m_flushed = true;
+    const int fd = ::open(encoded(m_temporaryPath).constData(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC);
+    if (fd < 0 || ::fsync(fd) != 0)
+        m_flushError = errno;
+    if (fd >= 0)
+        ::close(fd);
+}
+
+void FileReplacement::flushTogether(const QList<FileReplacement *> &group)
+{
+    std::atomic<qsizetype> next{0};
+    const auto flushSome = [&group, &next] {
+        for (qsizetype i = next++; i < group.size(); i = next++)
+            group.at(i)->flush();
+    };
+    // A few flushes in flight are enough for the journal to take them in one commit.
+    std::vector<std::thread> helpers;
+    const qsizetype threads = std::min<qsizetype>(group.size(), 8);
+    for (qsizetype i = 1; i < threads; ++i)
+        helpers.emplace_back(flushSome);
+    flushSome();
+    for (std::thread &helper : helpers)
+        helper.join();
+}
+
+QString FileReplacement::targetFolder() const
+{
+    return QFileInfo(m_targetPath).absolutePath();
+}
+
+int FileReplacement::flushFolder(const QString &folder)
+{
+    const int folderFd = ::open(encoded(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    int error = 0;
+    if (folderFd < 0 || ::fsync(folderFd) != 0)
+        error = errno;
+    if (folderFd >= 0)
+        ::close(folderFd);
+    return error;
+}
+
+QString FileReplacement::folderNotFlushedMessage(const QString &path, int error)
+{
+    return translated("The folder of “%1” could not be written to disk (%2).")
+        .arg(path, errorText(error));
+}
+
+bool FileReplacement::commit(ErrorMessages &errors)
+{
+    if (m_staged) {
+        // Time has passed since the stage: another program may have come by.
+        struct statx current = {};
+        if (!checkTarget(errors, current))
+            return false;
+    } else if (!stage(errors)) {
+        return false;
+    }
+    flush();
+    if (m_flushError != 0)
+        return fail(errors, translated("the new file cannot be written to disk"), m_flushError);
+    if (!swapInto(encoded(m_targetPath), errors))
         return false;
     m_committed = true;
 
     // Without this the rename itself may not survive a power cut.
-    const QByteArray folder = encoded(QFileInfo(m_targetPath).absolutePath());
-    const int folderFd = ::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (folderFd < 0 || ::fsync(folderFd) != 0) {
-        errors.addWarning(translated("The folder of “%1” could not be written to disk (%2).")
-                              .arg(m_path, errorText(errno)));
+    if (!m_defersFolderFlush) {
+        if (const int error = flushFolder(targetFolder()))
+            errors.addWarning(folderNotFlushedMessage(m_path, error));
     }
-    if (folderFd >= 0)
-        ::close(folderFd);
 
-    if (snapshot.links > 1) {
+    const nlink_t links = m_originalState->links;
+    if (links > 1) {
         errors.addWarning(translated("The file “%1” had %n other name(s) (hard links); they keep "
                                      "the content it had before this save.",
-                                     static_cast<int>(snapshot.links - 1))
+                                     static_cast<int>(links - 1))
                               .arg(m_path));
     }
     discard();

@@ -62,13 +62,30 @@ public:
 
     // Puts the temporary file in place of the target. False (with the reason in errors) when
     // it is missing or empty, when the original owner or attributes cannot be given to it, when
-    // the target is no longer the expected file, or when the rename fails; the original is then
-    // untouched and the temporary file removed. A target with other hard links is replaced all
-    // the same, with a warning.
+    // the target is no longer the expected file, when the new file cannot be flushed to disk, or
+    // when the rename fails; the original is then untouched and the temporary file removed. A
+    // target with other hard links is replaced all the same, with a warning.
     bool commit(ErrorMessages &errors);
+    // The part of commit() before the flush: the checks, and the target's owner, mode and
+    // attributes given to the new file. A staged file may then be flushed with others
+    // (flushTogether) before its commit, which checks the target again.
+    bool stage(ErrorMessages &errors);
+    bool isStaged() const { return m_staged; }
+    bool isCommitted() const { return m_committed; }
     // Starts writing the new file to disk without waiting, so that the flush commit() must
     // make is mostly done by then. Only a hint: nothing is promised until commit().
     void startFlush() const;
+    // Flushes the new files of staged replacements, the calls issued together so that they
+    // share the file system's journal commits instead of waiting for one each.
+    static void flushTogether(const QList<FileReplacement *> &group);
+    // When set, commit() leaves the flush of the target's folder to the caller, who flushes
+    // each folder of a group once (flushFolder) after all of the group's renames.
+    void setDefersFolderFlush(bool defers) { m_defersFolderFlush = defers; }
+    QString targetFolder() const;
+    // 0, or the error that kept the folder's entries from reaching the disk.
+    static int flushFolder(const QString &folder);
+    // The warning a file gets when the rename that saved it may not survive a power cut.
+    static QString folderNotFlushedMessage(const QString &path, int error);
     // Removes the temporary file and the scratch folder.
     void discard();
 
@@ -93,6 +110,8 @@ private:
     bool makeOutputAlias();
     bool fail(ErrorMessages &errors, const QString &reason, int error);
     bool giveOriginalIdentity(int fd, ErrorMessages &errors);
+    bool checkTarget(ErrorMessages &errors, struct statx &original);
+    void flush();
     bool swapInto(const QByteArray &target, ErrorMessages &errors);
     bool reportChangedOutside(ErrorMessages &errors);
 
@@ -111,6 +130,10 @@ private:
     QString m_keptFile;
     bool m_changedOutside = false;
     QString m_errorString;
+    bool m_staged = false;
+    bool m_flushed = false;
+    int m_flushError = 0;
+    bool m_defersFolderFlush = false;
     bool m_committed = false;
 };
 

@@ -21,6 +21,7 @@
 #include <unistd.h>
 
 #include <atomic>
+#include <utility>
 
 namespace {
 
@@ -121,6 +122,8 @@ std::optional<TagDictionary> FileRewriteOperation::oldData() const
 void FileRewriteOperation::storeResults(ErrorMessagesPtr errors,
                                         std::optional<TagDictionary> oldData)
 {
+    if (oldData)
+        shareUnchangedValues(*oldData, m_efi->originalExifData());
     if (oldData && oldData->contains(QStringLiteral("System:FileModifyDate"))) {
         // The dates were set after the new file was read back.
         const QFileInfo info(m_fileName);
@@ -180,50 +183,76 @@ void FileRewriteOperation::replaceDateTimeOffsets()
 FileRewriteOperation::WriteResult FileRewriteOperation::writeFile(const QStringList &arguments,
                                                                   ErrorMessages &errors)
 {
-    WriteResult result;
+    stageWrite(arguments, errors);
+    return completeWrite(errors);
+}
+
+bool FileRewriteOperation::stageWrite(const QStringList &arguments, ErrorMessages &errors)
+{
+    m_pending = WriteResult();
+    m_written.reset();
     const qint64 megabytes = QFileInfo(m_fileName).size() / (1024 * 1024);
     setCommandTimeout(int(std::min<qint64>(s_timeoutBaseMs + megabytes * s_timeoutPerMegabyteMs,
                                            std::numeric_limits<int>::max())));
 
     if (!mayWrite(errors)) {
-        result.leftAlone = true;
-        return result;
+        m_pending.leftAlone = true;
+        return false;
     }
     if (createTempFilePathForPath(m_fileName).isEmpty()) {
         errors.addError(tr("The file could not be saved: %1").arg(m_replacement->errorString()));
-    } else {
-        m_replacement->setExpectedIdentity(m_efi->identity());
-        m_replacement->setKeepsReplacedFileAt(m_keepAt);
-        QStringList all = arguments;
-        // ExifTool puts a bare JPEG XL codestream into a container (losslessly) only when told
-        // to ignore minor errors; the read-back still checks every written value.
-        if (isBareJpegXlCodestream(m_fileName) && !all.contains(QStringLiteral("-m")))
-            all << QStringLiteral("-m");
-        all << QStringLiteral("-o") << m_replacement->exifToolOutputPath() << m_fileName;
-        if (DebugMode::isEnabled())
-            debugPrintArguments(all);
-        result.exitStatus = runExifToolWithArgs(all, errors);
-        if (result.exitStatus == 0) {
-            // The disk works on the new file while ExifTool reads it back.
-            m_replacement->startFlush();
-            bool typeDiffers = false;
-            std::optional<TagDictionary> written = checkNewFile(errors, typeDiffers);
-            if (written) {
-                verifyWrittenValues(*written, errors);
-                result.replaced = moveTempToFinal(errors);
-                result.leftAlone = m_replacement->targetChangedOutside();
-                if (result.replaced) {
-                    updateFileDates();
-                    m_efi->setIdentity(FileIdentity::of(m_fileName));
-                }
-                if (result.replaced && reReads() && !typeDiffers) {
-                    describeFinalFile(*written);
-                    result.reRead = std::move(written);
-                }
-            }
-        }
-        m_replacement->discard();
+        return false;
     }
+    m_replacement->setExpectedIdentity(m_efi->identity());
+    m_replacement->setKeepsReplacedFileAt(m_keepAt);
+    QStringList all = arguments;
+    // ExifTool puts a bare JPEG XL codestream into a container (losslessly) only when told
+    // to ignore minor errors; the read-back still checks every written value.
+    if (isBareJpegXlCodestream(m_fileName) && !all.contains(QStringLiteral("-m")))
+        all << QStringLiteral("-m");
+    all << QStringLiteral("-o") << m_replacement->exifToolOutputPath() << m_fileName;
+    if (DebugMode::isEnabled())
+        debugPrintArguments(all);
+    m_pending.exitStatus = runExifToolWithArgs(all, errors);
+    if (m_pending.exitStatus != 0)
+        return false;
+    // The disk works on the new file while ExifTool reads it back.
+    m_replacement->startFlush();
+    std::optional<TagDictionary> written = checkNewFile(errors, m_typeDiffers);
+    if (!written)
+        return false;
+    verifyWrittenValues(*written, errors);
+    if (!m_replacement->stage(errors)) {
+        m_pending.leftAlone = m_replacement->targetChangedOutside();
+        return false;
+    }
+    m_written = std::move(written);
+    return true;
+}
+
+FileReplacement *FileRewriteOperation::stagedReplacement() const
+{
+    return m_written ? m_replacement.get() : nullptr;
+}
+
+FileRewriteOperation::WriteResult FileRewriteOperation::completeWrite(ErrorMessages &errors)
+{
+    WriteResult result = std::exchange(m_pending, WriteResult());
+    if (m_written) {
+        result.replaced = moveTempToFinal(errors);
+        result.leftAlone = m_replacement->targetChangedOutside();
+        if (result.replaced) {
+            updateFileDates();
+            m_efi->setIdentity(FileIdentity::of(m_fileName));
+        }
+        if (result.replaced && reReads() && !m_typeDiffers) {
+            describeFinalFile(*m_written);
+            result.reRead = std::move(m_written);
+        }
+        m_written.reset();
+    }
+    if (m_replacement)
+        m_replacement->discard();
     // What is on disk now, whichever file that is; but another program's file is not ours to
     // take in: the record keeps what was read, and its edits, until the user reloads it.
     if (reReads() && !result.reRead && !result.leftAlone)

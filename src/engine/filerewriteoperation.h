@@ -59,6 +59,13 @@ protected:
         std::optional<TagDictionary> reRead;
     };
     WriteResult writeFile(const QStringList &arguments, ErrorMessages &errors);
+    // writeFile in two halves, for files put in place in groups: stageWrite runs ExifTool and
+    // checks the new file, which then only waits to be flushed (true), or has already failed or
+    // been left alone (false); completeWrite puts a staged file in place, flushing it first if
+    // no one did, and gives the result either way.
+    bool stageWrite(const QStringList &arguments, ErrorMessages &errors);
+    WriteResult completeWrite(ErrorMessages &errors);
+    FileReplacement *stagedReplacement() const;
     // Asks the next writeFile to move the file it replaces to path instead of letting it go;
     // keptFile() then names it, or is empty when it could not be kept.
     void keepReplacedFileAt(const QString &path) { m_keepAt = path; }
@@ -107,4 +114,8 @@ private:
     std::optional<TagDictionary> m_oldData;
     std::unique_ptr<FileReplacement> m_replacement;
     QString m_keepAt;
+    // Between stageWrite and completeWrite.
+    WriteResult m_pending;
+    std::optional<TagDictionary> m_written;
+    bool m_typeDiffers = false;
 };

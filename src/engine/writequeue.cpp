@@ -5,10 +5,12 @@
 #include "engine/exifrunnersamefileoperation.h"
 #include "engine/exifrunnersaveoperation.h"
 #include "engine/filekey.h"
+#include "engine/filereplacement.h"
 #include "values/logging.h"
 #include "values/tagsmithexception.h"
 
 #include <QDeadlineTimer>
+#include <QElapsedTimer>
 #include <QHash>
 #include <QMutex>
 #include <QMutexLocker>
@@ -115,6 +117,11 @@ public:
     }
 
     void setMaximumConcurrentOperations(int count) { m_concurrency = std::clamp(count, 1, 2); }
+    void setFlushGroupLimits(int files, int milliseconds)
+    {
+        m_groupSize = std::max(files, 1);
+        m_groupTimeMs = std::max(milliseconds, 0);
+    }
     int maximumConcurrentOperations() const { return m_concurrency; }
 
 private:
@@ -194,23 +201,94 @@ private:
         post([runner = m_runner, results] { Q_EMIT runner->batchFinished(results); });
     }
 
+    // The files this thread has written and checked and that wait for their flush, which they
+    // get together: up to m_groupSize files or m_groupTimeMs of work, whichever comes first, and
+    // before the thread would wait for another. Then they are renamed in order, and each of
+    // their folders is flushed once.
+    struct Group
+    {
+        QList<qsizetype> indexes;
+        QList<FileReplacement *> replacements;
+        QElapsedTimer started;
+    };
+
     void work(BatchRun &run, ExifToolSession &session)
     {
-        for (qsizetype i = claim(run); i >= 0; i = claim(run)) {
-            ErrorMessagesPtr errors =
-                runOperation(*run.operations.at(i), run.fileNames.at(i), session);
-            QMutexLocker locker(&run.mutex);
-            run.errors[size_t(i)] = std::move(errors);
-            run.states[size_t(i)] = BatchRun::State::Done;
-            run.inFlight.remove(run.fileKeys.at(i));
-            report(run);
-            run.changed.wakeAll();
+        Group group;
+        for (;;) {
+            const qsizetype i = claim(run, group.indexes.isEmpty());
+            if (i == WouldWait) {
+                finishGroup(run, group, session);
+                continue;
+            }
+            if (i < 0)
+                break;
+            ExifRunnerOperation &operation = *run.operations.at(i);
+            FileReplacement *staged = nullptr;
+            ErrorMessagesPtr errors = runOperation(operation, run.fileNames.at(i), session,
+                                                   [&] { staged = operation.runUntilFlush(); });
+            if (!staged) {
+                done(run, i, std::move(errors));
+                continue;
+            }
+            if (group.indexes.isEmpty())
+                group.started.start();
+            group.indexes.append(i);
+            group.replacements.append(staged);
+            if (group.indexes.size() >= m_groupSize || group.started.elapsed() >= m_groupTimeMs)
+                finishGroup(run, group, session);
         }
+        finishGroup(run, group, session);
     }
 
-    // The next file of the batch, or -1 when none is left. Two operations on one file, under
-    // whatever names, never run at once: the second waits for the first.
-    qsizetype claim(BatchRun &run)
+    void finishGroup(BatchRun &run, Group &group, ExifToolSession &session)
+    {
+        if (group.indexes.isEmpty())
+            return;
+        FileReplacement::flushTogether(group.replacements);
+        QList<ErrorMessagesPtr> errors;
+        QHash<QString, QList<qsizetype>> folders; // of the files put in place, by position
+        for (qsizetype k = 0; k < group.indexes.size(); ++k) {
+            FileReplacement *replacement = group.replacements.at(k);
+            replacement->setDefersFolderFlush(true);
+            const QString folder = replacement->targetFolder();
+            const qsizetype i = group.indexes.at(k);
+            ExifRunnerOperation &operation = *run.operations.at(i);
+            errors.append(runOperation(operation, run.fileNames.at(i), session,
+                                       [&] { operation.runAfterFlush(); }));
+            if (replacement->isCommitted())
+                folders[folder].append(k);
+        }
+        for (auto it = folders.cbegin(); it != folders.cend(); ++it) {
+            const int error = FileReplacement::flushFolder(it.key());
+            for (const qsizetype k : it.value()) {
+                if (error != 0 && errors.at(k)) {
+                    errors.at(k)->addWarning(FileReplacement::folderNotFlushedMessage(
+                        run.fileNames.at(group.indexes.at(k)), error));
+                }
+            }
+        }
+        for (qsizetype k = 0; k < group.indexes.size(); ++k)
+            done(run, group.indexes.at(k), errors.at(k));
+        group = Group();
+    }
+
+    void done(BatchRun &run, qsizetype i, ErrorMessagesPtr errors)
+    {
+        QMutexLocker locker(&run.mutex);
+        run.errors[size_t(i)] = std::move(errors);
+        run.states[size_t(i)] = BatchRun::State::Done;
+        run.inFlight.remove(run.fileKeys.at(i));
+        report(run);
+        run.changed.wakeAll();
+    }
+
+    static constexpr qsizetype WouldWait = -2;
+
+    // The next file of the batch, -1 when none is left, or WouldWait when it may not wait and
+    // the next file is in flight. Two operations on one file, under whatever names, never run
+    // at once: the second waits for the first.
+    qsizetype claim(BatchRun &run, bool mayWait)
     {
         QMutexLocker locker(&run.mutex);
         for (;;) {
@@ -218,6 +296,8 @@ private:
                 return -1;
             if (!run.inFlight.contains(run.fileKeys.at(run.nextClaim)))
                 break;
+            if (!mayWait)
+                return WouldWait;
             run.changed.wait(&run.mutex);
         }
         const qsizetype index = run.nextClaim++;
@@ -266,14 +346,15 @@ private:
         }
     }
 
+    template <typename Step>
     static ErrorMessagesPtr runOperation(ExifRunnerOperation &operation, const QString &fileName,
-                                         ExifToolSession &session)
+                                         ExifToolSession &session, Step step)
     {
         ErrorMessagesPtr errors;
         operation.setExifToolSession(&session);
         std::exception_ptr caught;
         try {
-            operation.run();
+            step();
         } catch (...) {
             caught = std::current_exception();
         }
@@ -330,6 +411,8 @@ private:
     BatchRunPtr m_helperRun;
     bool m_helperStopping = false;
     std::atomic<int> m_concurrency{2};
+    std::atomic<int> m_groupSize{64};
+    std::atomic<int> m_groupTimeMs{250};
 };
 
 WriteQueue::WriteQueue(QObject *parent, ExifToolSessionKind sessionKind, QString exifToolProgram)
@@ -406,6 +489,11 @@ void WriteQueue::setMaximumConcurrentOperations(int count)
 int WriteQueue::maximumConcurrentOperations() const
 {
     return m_worker->maximumConcurrentOperations();
+}
+
+void WriteQueue::setFlushGroupLimits(int files, int milliseconds)
+{
+    m_worker->setFlushGroupLimits(files, milliseconds);
 }
 
 bool WriteQueue::waitForIdle(int timeoutMs)

@@ -18,7 +18,9 @@ class QThread;
 // named "Exif Operations Background Runner", which a second thread helps with up to two files of
 // a batch at once, and signals every step in the thread that made it, files in batch order: for
 // each file fileStarted then fileFinished, the batch's batchFinished last. Each thread keeps one
-// ExifTool session for all of its operations. The thread that made the runner must run an event
+// ExifTool session for all of its operations, and puts the new files of a batch in place in
+// groups: written and checked one by one, flushed to disk together, then renamed in order, so a
+// file is reported finished once its group is. The thread that made the runner must run an event
 // loop for any signal to come; none comes once the runner is destroyed.
 class WriteQueue : public QObject
 {
@@ -55,6 +57,11 @@ public:
     // goes through one operation on one ExifTool session. Applies to batches not yet started.
     void setMaximumConcurrentOperations(int count);
     int maximumConcurrentOperations() const;
+
+    // New files are flushed in groups of at most this many files, or of the files written
+    // within this many milliseconds of the group's first (by default 64 and 250 ms). Applies
+    // from the next file written.
+    void setFlushGroupLimits(int files, int milliseconds);
 
     // Blocks until every queued batch has run (its signals may still be on their way to the
     // runner's thread). For tests and for quitting.

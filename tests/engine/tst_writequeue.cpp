@@ -394,6 +394,66 @@ private Q_SLOTS:
                  QStringList({u"a.jpg"_qs, u"b.jpg"_qs}));
     }
 
+    // Files are flushed and put in place in groups; one that fails its check costs its group
+    // nothing but itself, wherever it stands and however the batch is cut.
+    void oneFileOfAGroupFailsItsCheck_data()
+    {
+        QTest::addColumn<QString>("failing");
+        QTest::addColumn<int>("groupSize");
+        QTest::addColumn<int>("threads");
+        QTest::newRow("first of one group") << u"a.jpg"_qs << 64 << 1;
+        QTest::newRow("middle of one group") << u"c.jpg"_qs << 64 << 1;
+        QTest::newRow("last of one group") << u"e.jpg"_qs << 64 << 1;
+        QTest::newRow("groups of two") << u"c.jpg"_qs << 2 << 1;
+        QTest::newRow("each file alone") << u"d.jpg"_qs << 1 << 1;
+        QTest::newRow("two threads") << u"b.jpg"_qs << 64 << 2;
+    }
+    void oneFileOfAGroupFailsItsCheck()
+    {
+        QFETCH(QString, failing);
+        QFETCH(int, groupSize);
+        QFETCH(int, threads);
+        const QString tag = u"group-"_qs + QString::fromLatin1(QTest::currentDataTag());
+        QList<ExifFileInfoPtr> files;
+        QHash<QString, QByteArray> before;
+        for (const QString &name : {u"a.jpg"_qs, u"b.jpg"_qs, u"c.jpg"_qs, u"d.jpg"_qs,
+                                    u"e.jpg"_qs}) {
+            files << load(tag + u'/' + name, u"New "_qs + name);
+            before.insert(name, readBytes(files.last()->fileName()));
+        }
+        QFile control(m_dir.filePath(u"control"_qs));
+        QVERIFY(control.open(QIODevice::WriteOnly) && control.write("half " + failing.toUtf8()));
+        control.close();
+
+        auto listener = std::make_unique<RunListener>();
+        WriteQueue runner(nullptr, Persistent, Faulty);
+        listener->listen(runner);
+        runner.setMaximumConcurrentOperations(threads);
+        runner.setFlushGroupLimits(groupSize, 600'000);
+        runner.saveFiles(files, ExifOperationOption::ReReadFile);
+        QVERIFY(listener->wait());
+
+        QCOMPARE(listener->finishedFiles, files);
+        for (const ExifFileInfoPtr &file : std::as_const(files)) {
+            const QString name = QFileInfo(file->fileName()).fileName();
+            const QStringList messages = listener->messages(file->fileName());
+            if (name == failing) {
+                QCOMPARE(readBytes(file->fileName()), before.value(name));
+                QCOMPARE(messages.size(), 1);
+                QVERIFY2(messages.first().contains(u"incomplete"_qs), qPrintable(messages.first()));
+                QVERIFY(isExifFileModified(*file));
+            } else {
+                QCOMPARE(messages, QStringList());
+                QCOMPARE(readWithExifTool(file->fileName())[u"IFD0:Artist"_qs].toString(),
+                         u"New "_qs + name);
+                QVERIFY(!isExifFileModified(*file));
+            }
+        }
+        QCOMPARE(QDir(m_dir.filePath(tag))
+                     .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+                 QStringList({u"a.jpg"_qs, u"b.jpg"_qs, u"c.jpg"_qs, u"d.jpg"_qs, u"e.jpg"_qs}));
+    }
+
     void readOnlyFolderGivesAClearError()
     {
         if (::geteuid() != 0)

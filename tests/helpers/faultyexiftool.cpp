@@ -1,6 +1,7 @@
 // Stands in for ExifTool: runs the real one (FAULTY_REAL_EXIFTOOL) but spoils the next command
 // holding "-o" as the line in FAULTY_CONTROL says (nothing, half, hang, flood, die), then empties
-// that file. Speaks "-stay_open True -@ -" as well as running one command.
+// that file. "half NAME" spoils only the command that writes the file NAME. Speaks
+// "-stay_open True -@ -" as well as running one command.
 #include <chrono>
 #include <cstdlib>
 #include <filesystem>
@@ -44,7 +45,18 @@ int run(const std::vector<std::string> &arguments)
         output = arguments[i] == "-o" ? arguments[i + 1] : output;
     if (const char *control = std::getenv("FAULTY_CONTROL"); control && !output.empty()) {
         std::getline(std::ifstream(control), fault);
-        std::ofstream(control, std::ios::trunc);
+        const size_t space = fault.find(' ');
+        const std::string source = arguments.back();
+        if (space != std::string::npos) {
+            const std::string name = fault.substr(space + 1);
+            const bool matches = source.size() >= name.size() + 1 &&
+                                 source.compare(source.size() - name.size(), name.size(), name) ==
+                                     0 &&
+                                 source[source.size() - name.size() - 1] == '/';
+            fault = matches ? fault.substr(0, space) : std::string();
+        }
+        if (!fault.empty())
+            std::ofstream(control, std::ios::trunc);
     }
     if (fault == "nothing")
         return 0;
