@@ -34,12 +34,9 @@ ExifFilesSnapshot::ExifFilesSnapshot(const QList<ExifFileInfoPtr> &files, const 
     : m_files(files)
     , m_previous(s_activeSnapshot)
 {
-    m_current.reserve(files.size());
-    m_original.reserve(files.size());
-    for (const ExifFileInfoPtr &file : files) {
-        m_current.append(file->exifData());
-        m_original.append(file->originalExifData());
-    }
+    m_values.reserve(files.size());
+    for (const ExifFileInfoPtr &file : files)
+        m_values.append(file->editedValues());
     if (!keys.isEmpty())
         gatherColumns(keys);
     s_activeSnapshot = this;
@@ -80,6 +77,14 @@ void ExifFilesSnapshot::gatherColumns(const QStringList &keys)
         slotOfText.insert(key.constData(), slot);
         return slot;
     };
+    const auto take = [&gathering](qsizetype slot, const QString &value) {
+        Gathering &g = gathering[size_t(slot)];
+        ++g.present;
+        if (g.lastValue != value.constData()) {
+            g.lastValue = value.constData();
+            g.column->values.insert(value);
+        }
+    };
     const auto markChanged = [&gathering](qsizetype slot, qsizetype file) {
         Gathering &g = gathering[size_t(slot)];
         if (g.lastChanged != file) {
@@ -88,52 +93,28 @@ void ExifFilesSnapshot::gatherColumns(const QStringList &keys)
         }
     };
 
-    for (qsizetype i = 0; i < m_current.size(); ++i) {
-        const TagDictionary &current = m_current.at(i);
-        const TagDictionary &original = m_original.at(i);
-        const bool unchanged = current.isSharedWith(original);
-        // A copy detached for an edit keeps the original's layout, so both are walked side by
-        // side and a key is looked up only where the layouts part.
-        auto beside = original.cbegin();
-        bool allFound = true;
-        for (auto it = current.cbegin(); it != current.cend(); ++it) {
+    for (qsizetype i = 0; i < m_values.size(); ++i) {
+        const EditedValues &values = m_values.at(i);
+        const bool edited = values.isEdited();
+        const TagDictionary &original = values.original();
+        for (auto it = original.cbegin(); it != original.cend(); ++it) {
             const qsizetype slot = slotOf(it.key());
-            if (!unchanged) {
-                auto match = beside;
-                if (match == original.cend() || match.key().constData() != it.key().constData())
-                    match = original.constFind(it.key());
-                if (match == original.cend()) {
-                    allFound = false;
-                    if (slot >= 0)
-                        markChanged(slot, i);
-                } else {
-                    beside = std::next(match);
-                    if (slot >= 0 && match.value().constData() != it.value().constData() &&
-                        match.value() != it.value()) {
-                        markChanged(slot, i);
-                    }
-                }
-            }
             if (slot < 0)
                 continue;
-            Gathering &g = gathering[size_t(slot)];
-            ++g.present;
-            if (g.lastValue != it.value().constData()) {
-                g.lastValue = it.value().constData();
-                g.column->values.insert(it.value());
-            }
+            if (edited && values.removed().contains(it.key()))
+                markChanged(slot, i);
+            else if (!edited || !values.changed().contains(it.key()))
+                take(slot, it.value());
         }
-        // Keys only the original has: removed tags.
-        if (!unchanged && (!allFound || original.size() != current.size())) {
-            for (auto it = original.cbegin(); it != original.cend(); ++it) {
-                const qsizetype slot = slotOf(it.key());
-                if (slot >= 0 && !current.contains(it.key()))
-                    markChanged(slot, i);
+        for (auto it = values.changed().cbegin(); it != values.changed().cend(); ++it) {
+            if (const qsizetype slot = slotOf(it.key()); slot >= 0) {
+                markChanged(slot, i);
+                take(slot, it.value());
             }
         }
     }
     for (const Gathering &g : gathering) {
-        if (g.present < m_current.size())
+        if (g.present < m_values.size())
             g.column->values.insert(QString(u""_qs));
     }
 }

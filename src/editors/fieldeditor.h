@@ -46,8 +46,8 @@ public:
 
     // The live snapshot of exactly this list (same shared data), or null.
     static const ExifFilesSnapshot *forFiles(const QList<ExifFileInfoPtr> &files);
-    const TagDictionary &current(qsizetype index) const { return m_current.at(index); }
-    const TagDictionary &original(qsizetype index) const { return m_original.at(index); }
+    const EditedValues &current(qsizetype index) const { return m_values.at(index); }
+    const TagDictionary &original(qsizetype index) const { return m_values.at(index).original(); }
     // Null for a key the snapshot was not asked to gather.
     const Column *column(const QString &key) const;
 
@@ -55,8 +55,7 @@ private:
     void gatherColumns(const QStringList &keys);
 
     QList<ExifFileInfoPtr> m_files;
-    QList<TagDictionary> m_current;
-    QList<TagDictionary> m_original;
+    QList<EditedValues> m_values;
     QHash<QString, Column> m_columns;
     const ExifFilesSnapshot *m_previous = nullptr;
 };

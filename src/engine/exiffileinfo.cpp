@@ -29,51 +29,56 @@ ExifFileInfo::ExifFileInfo(QString fileName)
 
 TagDictionary ExifFileInfo::exifData() const
 {
+    return editedValues().values();
+}
+
+EditedValues ExifFileInfo::editedValues() const
+{
     QMutexLocker locker(&m_mutex);
-    return m_exifData;
+    return m_values;
 }
 
 void ExifFileInfo::setExifData(TagDictionary data)
 {
     QMutexLocker locker(&m_mutex);
-    m_exifData = std::move(data);
+    m_values.setValues(data);
 }
 
 QString ExifFileInfo::exifValue(const QString &key) const
 {
     QMutexLocker locker(&m_mutex);
-    return m_exifData.value(key);
+    return m_values.value(key);
 }
 
 bool ExifFileInfo::hasExifValue(const QString &key) const
 {
     QMutexLocker locker(&m_mutex);
-    return m_exifData.contains(key);
+    return m_values.contains(key);
 }
 
 void ExifFileInfo::setExifValue(const QString &key, const QString &value)
 {
     QMutexLocker locker(&m_mutex);
-    m_exifData.insert(key, value);
+    m_values.set(key, value);
 }
 
 void ExifFileInfo::removeExifValue(const QString &key)
 {
     QMutexLocker locker(&m_mutex);
-    m_exifData.remove(key);
+    m_values.remove(key);
 }
 
 TagDictionary ExifFileInfo::originalExifData() const
 {
     QMutexLocker locker(&m_mutex);
-    return m_originalExifData;
+    return m_values.original();
 }
 
 void ExifFileInfo::setOriginalExifData(TagDictionary data)
 {
     QStringList languages = languageKeysOf(data);
     QMutexLocker locker(&m_mutex);
-    m_originalExifData = std::move(data);
+    m_values.setOriginal(std::move(data));
     m_languageKeys = std::move(languages);
 }
 
@@ -87,8 +92,7 @@ void ExifFileInfo::setReadData(const TagDictionary &data)
 {
     QStringList languages = languageKeysOf(data);
     QMutexLocker locker(&m_mutex);
-    m_exifData = data;
-    m_originalExifData = data;
+    m_values = EditedValues(data);
     m_languageKeys = std::move(languages);
     m_valid = true;
 }
@@ -134,8 +138,8 @@ bool ExifFileInfo::hasError() const
     QMutexLocker locker(&m_mutex);
     // The second key has no group although reads always give grouped keys; it is kept as it
     // always was looked up.
-    return m_exifData.contains(QStringLiteral("ExifIFD:MakerNoteUnknownBinary")) ||
-           m_exifData.contains(QStringLiteral("MakerNoteUnknownText"));
+    return m_values.contains(QStringLiteral("ExifIFD:MakerNoteUnknownBinary")) ||
+           m_values.contains(QStringLiteral("MakerNoteUnknownText"));
 }
 
 QString ExifFileInfo::backupFileName() const

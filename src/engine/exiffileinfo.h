@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/editedvalues.h"
 #include "engine/fileidentity.h"
 #include "engine/tagdictionary.h"
 
@@ -20,8 +21,10 @@ public:
     // Absolute path; also the file's identity, so it never changes.
     const QString &fileName() const { return m_fileName; }
 
-    // Current, editable values; empty until the file is read.
+    // Current, editable values; empty until the file is read. editedValues gives them as the
+    // original and the edits over it, without building a dictionary of them all.
     TagDictionary exifData() const;
+    EditedValues editedValues() const;
     void setExifData(TagDictionary data);
     QString exifValue(const QString &key) const;
     bool hasExifValue(const QString &key) const;
@@ -61,8 +64,7 @@ public:
 private:
     const QString m_fileName;
     mutable QMutex m_mutex;
-    TagDictionary m_exifData;
-    TagDictionary m_originalExifData;
+    EditedValues m_values;
     QStringList m_languageKeys;
     bool m_valid = false;
     QString m_sidecarPath;

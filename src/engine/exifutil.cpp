@@ -24,32 +24,31 @@ bool sameSets(const QSet<QString> &newSet, const QSet<QString> &oldSet)
     return newSet.size() == oldSet.size() && oldSet.contains(newSet);
 }
 
-QSet<QString> unionOfKeys(const TagDictionary &current, const TagDictionary &original)
-{
-    QSet<QString> keys;
-    keys.reserve(current.size() + original.size());
-    for (auto it = current.cbegin(); it != current.cend(); ++it)
-        keys.insert(it.key());
-    for (auto it = original.cbegin(); it != original.cend(); ++it)
-        keys.insert(it.key());
-    return keys;
-}
-
-// Works on one snapshot of both dictionaries, so that a concurrent edit cannot mix two states.
-QStringList changedKeys(const TagDictionary &current, const TagDictionary &original,
-                        bool skipGenerated, bool stopAtFirst)
+// Only keys the edits touch can differ: every other current value is the original's own.
+QStringList changedKeys(const EditedValues &values, bool skipGenerated, bool stopAtFirst)
 {
     const ExifFieldsController *catalogue = ExifFieldsController::defaultInstance();
+    const TagDictionary &original = values.original();
     QStringList changed;
-    for (const QString &key : unionOfKeys(current, original)) {
+    const auto differs = [&](const QString &key, const QString &current) {
         if (skipGenerated && ExifUtil::isAutomaticallyGeneratedFieldXmlName(key))
-            continue;
+            return false;
         const ExifFieldPtr field = catalogue->field(key);
-        if (field && !valuesEqualForRepresentation(current.value(key), original.value(key),
-                                                   field->dataRepresentation())) {
+        return field && !valuesEqualForRepresentation(current, original.value(key),
+                                                      field->dataRepresentation());
+    };
+    for (auto it = values.changed().cbegin(); it != values.changed().cend(); ++it) {
+        if (differs(it.key(), it.value())) {
+            changed.append(it.key());
+            if (stopAtFirst)
+                return changed;
+        }
+    }
+    for (const QString &key : values.removed()) {
+        if (differs(key, QString())) {
             changed.append(key);
             if (stopAtFirst)
-                break;
+                return changed;
         }
     }
     return changed;
@@ -130,7 +129,7 @@ bool isValueModified(const QString &current, const QString &original,
 
 bool isExifFileModified(const ExifFileInfo &file)
 {
-    return !changedKeys(file.exifData(), file.originalExifData(), true, true).isEmpty();
+    return !changedKeys(file.editedValues(), true, true).isEmpty();
 }
 
 bool ExifUtil::exifFilesInDictionaryModified(const QHash<QString, ExifFileInfoPtr> &files)
@@ -158,33 +157,38 @@ bool ExifUtil::isAutomaticallyGeneratedFieldXmlName(const QString &xmlName)
 
 QStringList ExifUtil::changedFieldsArray(const ExifFileInfo &file)
 {
-    return changedKeys(file.exifData(), file.originalExifData(), false, false);
+    return changedKeys(file.editedValues(), false, false);
 }
 
 TagDictionary ExifUtil::changedFieldsDictionary(const ExifFileInfo &file)
 {
     // Only what the user edited: a malformed date the user left alone stays as the camera
     // wrote it, and a file without edits is not rewritten to repair one.
-    const TagDictionary current = file.exifData();
+    const EditedValues values = file.editedValues();
     TagDictionary changes;
-    for (const QString &key : changedKeys(current, file.originalExifData(), false, false)) {
-        const auto it = current.constFind(key);
-        if (it != current.cend() && !it->isNull())
-            changes.insert(key, *it);
+    for (const QString &key : changedKeys(values, false, false)) {
+        const QString value = values.value(key);
+        if (!value.isNull())
+            changes.insert(key, value);
     }
     return changes;
 }
 
 QSet<QString> ExifUtil::removedFieldsSet(const ExifFileInfo &file)
 {
-    const TagDictionary current = file.exifData();
-    const TagDictionary original = file.originalExifData();
+    const EditedValues values = file.editedValues();
     const ExifFieldsController *catalogue = ExifFieldsController::defaultInstance();
     QSet<QString> removed;
-    for (auto it = original.cbegin(); it != original.cend(); ++it) {
-        // Absent, not blank: a value of spaces, as some cameras write, is a value.
-        if (catalogue->field(it.key()) && current.value(it.key()).isNull())
+    for (const QString &key : values.removed()) {
+        if (catalogue->field(key))
+            removed.insert(key);
+    }
+    // Absent, not blank: a value of spaces, as some cameras write, is a value.
+    for (auto it = values.changed().cbegin(); it != values.changed().cend(); ++it) {
+        if (it.value().isNull() && values.original().contains(it.key()) &&
+            catalogue->field(it.key())) {
             removed.insert(it.key());
+        }
     }
     return removed;
 }

@@ -126,7 +126,7 @@ QTimeZone GeotagMatcher::zoneFor(const ExifFileInfo &file) const
 std::optional<QTimeZone> GeotagMatcher::recordedZone(const ExifFileInfo &file)
 {
     static const QRegularExpression offset(QStringLiteral(R"(([+-])(\d{2}):(\d{2})\s*$)"));
-    const TagDictionary current = file.exifData();
+    const EditedValues current = file.editedValues();
     const QString date = current.value(QStringLiteral("XMP-exif:DateTimeOriginal"));
     // A pending shift ("+1:00") is no zone.
     const QString candidates[] = {current.value(QStringLiteral("ExifIFD:OffsetTimeOriginal")),
@@ -149,7 +149,7 @@ QString GeotagMatcher::captureTime(const ExifFileInfo &file)
     static const QString keys[] = {
         QStringLiteral("ExifIFD:DateTimeOriginal"), QStringLiteral("XMP-exif:DateTimeOriginal"),
         QStringLiteral("ExifIFD:CreateDate"), QStringLiteral("XMP-xmp:CreateDate")};
-    const TagDictionary current = file.exifData();
+    const EditedValues current = file.editedValues();
     for (const QString &key : keys) {
         const QString value = current.value(key);
         if (value.isEmpty())

@@ -39,7 +39,7 @@ MapPins::MapPins(EditSession &session, QObject *parent)
 
 std::optional<MapPin> MapPins::createPointAnnotation(const ExifFileInfo &file)
 {
-    const TagDictionary data = file.exifData();
+    const EditedValues data = file.editedValues();
     for (const QString &key : gpsKeys()) {
         if (!data.contains(key))
             return std::nullopt;
