@@ -378,6 +378,9 @@ int main(int argc, char *argv[])
     const struct mallinfo2 heap = mallinfo2();
     std::printf("heap in use: %.1f MB\n", double(heap.uordblks + heap.hblkhd) / (1024 * 1024));
 
+    const auto printResident = [](const char *step) {
+        std::printf("  resident after %s: %.1f MB\n", step, residentKiB() / 1024.0);
+    };
     ConfigurationViewController &form = *controller.configController();
     form.setExifFiles({});
     QApplication::processEvents();
@@ -385,6 +388,7 @@ int main(int argc, char *argv[])
     form.setExifFiles(controller.fileList()->files());
     QApplication::processEvents();
     std::printf("setExifFiles with all files: %.0f ms\n", timer.nsecsElapsed() / 1e6);
+    printResident("showing all files in the form");
 
     // As the user sees it: Select All in the list until the form is filled and painted.
     QItemSelectionModel &selection = *controller.fileList()->view()->selectionModel();
@@ -400,6 +404,7 @@ int main(int argc, char *argv[])
     }
     std::printf("select all and show the form (slowest of 3): %.0f ms (limit 1000)\n",
                 slowestSelect);
+    printResident("selecting all three times");
     std::fflush(stdout);
 
     TextEditor *row = captionRow(form);
@@ -424,6 +429,7 @@ int main(int argc, char *argv[])
     std::printf("caption edit over all files until the list shows them modified: %.0f ms%s "
                 "(limit 1000)\n",
                 timer.nsecsElapsed() / 1e6, modified ? "" : " (NOT all modified)");
+    printResident("the caption edit");
     std::fflush(stdout);
 
     if (save) {
@@ -448,6 +454,7 @@ int main(int argc, char *argv[])
         std::printf("one ExifTool batch write: %.0f ms; one batch read of the written files: %.0f "
                     "ms\n",
                     batchMs, batchReadMs);
+        printResident("the batch write and read");
         std::fflush(stdout);
 
         // The cost per file of a small save, on copies of its own, to set against the large one.
@@ -477,6 +484,11 @@ int main(int argc, char *argv[])
         QElapsedTimer sinceTick;
         qint64 longestPauseNs = 0;
         qint64 peakKiB = residentKiB();
+        const struct mallinfo2 heapBefore = mallinfo2();
+        std::printf("resident before the save, with the caption edit pending in every file: %.1f "
+                    "MB; heap in use %.1f MB\n",
+                    peakKiB / 1024.0,
+                    double(heapBefore.uordblks + heapBefore.hblkhd) / (1024 * 1024));
         int ticks = 0;
         QObject::connect(&ticker, &QTimer::timeout, [&] {
             longestPauseNs = std::max(longestPauseNs, sinceTick.nsecsElapsed());
@@ -504,8 +516,9 @@ int main(int argc, char *argv[])
         std::printf("longest main-thread pause while saving: %.1f ms (timer every 5 ms, limit "
                     "50)\n",
                     longestPauseNs / 1e6);
-        std::printf("resident memory at its peak while saving: %.1f MB (limit 400)\n",
-                    peakKiB / 1024.0);
+        std::printf("resident memory at its peak while saving: %.1f MB (limit 400); %.1f MB "
+                    "after\n",
+                    peakKiB / 1024.0, residentKiB() / 1024.0);
     }
     return 0;
 }
