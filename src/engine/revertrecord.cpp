@@ -18,12 +18,12 @@
 #include <QMutex>
 #include <QMutexLocker>
 #include <QRandomGenerator>
-#include <QSaveFile>
 #include <QStandardPaths>
 
 #include <sys/stat.h>
 
 #include <cerrno>
+#include <cstdio>
 #include <cstring>
 
 namespace {
@@ -307,11 +307,20 @@ bool RevertRecord::store(RevertEntry entry, QString *error)
     const QString folder = directoryLocked();
     QDir().mkpath(folder);
     const QString name = recordName(entry.path);
-    QSaveFile file(folder + u'/' + name);
-    if (!file.open(QIODevice::WriteOnly) ||
-        file.write(QJsonDocument(object).toJson(QJsonDocument::Compact)) < 0 || !file.commit()) {
+    // Written whole and renamed into place, but not flushed: the saved photo is flushed, and a
+    // record a power cut takes away only takes away the undo. One that survives without its
+    // save no longer matches the file's size and time, and is refused.
+    const QString path = folder + u'/' + name;
+    QFile file(path + QStringLiteral(".new"));
+    const bool written = file.open(QIODevice::WriteOnly | QIODevice::Truncate) &&
+                         file.write(QJsonDocument(object).toJson(QJsonDocument::Compact)) >= 0 &&
+                         file.flush();
+    file.close();
+    if (!written || ::rename(QFile::encodeName(file.fileName()).constData(),
+                             QFile::encodeName(path).constData()) != 0) {
         if (error)
-            *error = file.errorString();
+            *error = written ? QString::fromLocal8Bit(std::strerror(errno)) : file.errorString();
+        file.remove();
         return false;
     }
     namesLocked().insert(name);
