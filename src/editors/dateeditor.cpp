@@ -1,7 +1,7 @@
 #include "editors/dateeditor.h"
 
 #include "editors/dateeditorview.h"
-#include "editors/datewallclock.h"
+#include "values/datewallclock.h"
 
 #include "controls/aperturetheme.h"
 #include "engine/editsession.h"

@@ -1,6 +1,6 @@
 #include "editors/dateeditorview.h"
 
-#include "editors/datewallclock.h"
+#include "values/datewallclock.h"
 
 #include "catalogue/stringtables.h"
 #include "controls/dateoffsetfield.h"

@@ -451,7 +451,10 @@ std::optional<QDateTime> FileRewriteOperation::findDateForFile(const QString &ke
         if (const auto components = parseDateTimeValue(value))
             date = dateFromComponents(*components);
     } else {
-        date = applyDateOffset(value, m_efi->originalExifData().value(key));
+        // The shifted reading is the camera's wall clock; the file's date is that local time.
+        const QDateTime shifted = applyDateOffset(value, m_efi->originalExifData().value(key));
+        if (shifted.isValid())
+            date = dateFromComponents(componentsFromDate(shifted));
     }
     if (!date.isValid())
         return std::nullopt;

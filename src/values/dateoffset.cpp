@@ -1,6 +1,7 @@
 #include "values/dateoffset.h"
 
 #include "values/datevalue.h"
+#include "values/datewallclock.h"
 #include "values/zoneshift.h"
 
 #include <limits>
@@ -242,15 +243,14 @@ QDateTime applyDateOffset(const QString &offsetText, const QString &originalText
 {
     if (!isDateOffsetText(offsetText)) {
         const auto value = parseDateTimeValue(offsetText);
-        return value ? dateFromComponents(*value) : QDateTime();
+        return value ? wallClockDate(*value) : QDateTime();
     }
     const auto original = parseDateTimeValue(originalText);
     if (!original)
         return {};
     // A text holding both signs counts as plus.
     const bool negate = !offsetText.contains(u'+');
-    return addDateComponents(dateFromComponents(*original),
-                             magnitudes(parseDateOffset(offsetText), negate));
+    return shiftWallClock(wallClockDate(*original), magnitudes(parseDateOffset(offsetText), negate));
 }
 
 DateOffsetCells dateOffsetCells(const DateComponents &offset)

@@ -39,9 +39,10 @@ DateComponents offsetBetweenDates(const QDateTime &current, const QDateTime &ori
 // when they are equal.
 QString describeOffsetBetweenDates(const QDateTime &from, const QDateTime &to);
 
-// The date that a value gives over an original date-time text: a shift is applied with the
-// magnitudes of its units, all negated when the text holds no "+"; any other value is read as a
-// date-time of its own. Invalid when the needed date does not parse.
+// The wall-clock reading (see datewallclock.h) that a value gives over an original date-time
+// text, as ExifTool writes it: a shift is applied with the magnitudes of its units, all negated
+// when the text holds no "+"; any other value is read as a date-time of its own. Invalid when the
+// needed date does not parse.
 QDateTime applyDateOffset(const QString &offsetText, const QString &originalText);
 
 // An offset as the user edits it, one text cell each for the sign ("+" or "-") and the year,

@@ -143,14 +143,13 @@ QDateTime dateFromComponents(const DateComponents &c)
 
 DateComponents componentsFromDate(const QDateTime &date)
 {
-    const QDateTime local = date.toLocalTime();
     DateComponents c;
-    c.year = astronomicalYear(local.date());
-    c.month = local.date().month();
-    c.day = local.date().day();
-    c.hour = local.time().hour();
-    c.minute = local.time().minute();
-    c.second = local.time().second();
+    c.year = astronomicalYear(date.date());
+    c.month = date.date().month();
+    c.day = date.date().day();
+    c.hour = date.time().hour();
+    c.minute = date.time().minute();
+    c.second = date.time().second();
     return c;
 }
 

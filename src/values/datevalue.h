@@ -28,6 +28,8 @@ QString formatDateTimeComponents(const DateComponents &components);
 // January of the next year, hour 25 the next day). A wall time skipped by a daylight-saving
 // change moves forward by the size of the gap. Invalid only outside the calendar's range.
 QDateTime dateFromComponents(const DateComponents &components);
+// The fields of the date as its own clock reads them: local time for a local date, the reading
+// itself for a wall-clock one.
 DateComponents componentsFromDate(const QDateTime &date);
 
 // One calendar step with signed units: years, months and days move the wall-clock date (the day

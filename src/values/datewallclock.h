@@ -5,10 +5,11 @@
 #include <QDateTime>
 #include <QString>
 
-// Arithmetic of the date panel on metadata's wall-clock values. Those values name no zone, and
-// ExifTool shifts them as plain wall-clock readings, so the panel does the same: a shift across a
-// daylight-saving change neither loses nor gains an hour, and 02:30 on the night clocks spring
-// forward stays a valid value. Dates here are QDateTimes in UTC used as zone-less readings.
+// Arithmetic on metadata's wall-clock values. Those values name no zone, and ExifTool shifts
+// them as plain wall-clock readings, so everything that shows or checks a shift does the same: a
+// shift across a daylight-saving change neither loses nor gains an hour, and 02:30 on the night
+// clocks spring forward stays a valid value. Dates here are QDateTimes in UTC used as zone-less
+// readings.
 
 // Out-of-range fields carry over (month 13 is January of the next year). Invalid when the year
 // is out of the calendar's range.

@@ -1,4 +1,4 @@
-#include "editors/datewallclock.h"
+#include "values/datewallclock.h"
 
 #include "values/dateoffset.h"
 #include "values/datevalue.h"
