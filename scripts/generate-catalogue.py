@@ -192,9 +192,16 @@ def describe_field(record, key, options, maker):
     if datatype not in DATATYPES:
         raise SelectionError(f"{key}: unknown datatype {datatype}")
 
+    # IPTC-IIM keeps each text in a dataset of at most this many bytes; ExifTool cuts longer ones.
+    maxbytes = None
+    if key.startswith("IPTC:") and kind == "string" and record["count"] > 1 \
+            and representation in (None, "strings"):
+        maxbytes = record["count"]
+
     return {
         "key": key,
         "writable": record["writable"] and "readonly" not in options,
+        "maxbytes": maxbytes,
         "representation": representation,
         "datatype": datatype,
         "decimals": decimals,
@@ -258,6 +265,8 @@ def render_fields(groups, version):
                     attributes.append(f'decimals="{field["decimals"]}"')
                 if field["maker"]:
                     attributes.append(f"maker={quoteattr(field['maker'])}")
+                if field["maxbytes"]:
+                    attributes.append(f'maxbytes="{field["maxbytes"]}"')
                 head = "      <field " + " ".join(attributes)
                 if not field["values"]:
                     out.append(head + "/>")

@@ -21,6 +21,16 @@
     </message>
 </context>
 <context>
+    <name>ExifRunnerSaveOperation</name>
+    <message numerus="yes">
+        <source>The value "%1" of %2 is longer than IPTC allows (at most %n byte(s)), so the file was not changed.</source>
+        <translation>
+            <numerusform>The value "%1" of %2 is longer than IPTC allows (at most %n byte), so the file was not changed.</numerusform>
+            <numerusform>The value "%1" of %2 is longer than IPTC allows (at most %n bytes), so the file was not changed.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>FileOperations</name>
     <message numerus="yes">
         <source>All metadata cannot be removed from the %n selected file(s) without making them unreadable (camera raw files need their tags).</source>
@@ -108,6 +118,16 @@
         <translation>
             <numerusform>%1 (removes %n tag)</numerusform>
             <numerusform>%1 (removes %n tags)</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ReviewChangesModel</name>
+    <message numerus="yes">
+        <source>Longer than IPTC allows (at most %n byte(s)): the save will not write this file until it is shortened.</source>
+        <translation>
+            <numerusform>Longer than IPTC allows (at most %n byte): the save will not write this file until it is shortened.</numerusform>
+            <numerusform>Longer than IPTC allows (at most %n bytes): the save will not write this file until it is shortened.</numerusform>
         </translation>
     </message>
 </context>

@@ -1,6 +1,7 @@
 #include "catalogue/exiffield.h"
 
 #include "values/numberformatter.h"
+#include "values/taglist.h"
 
 #include <algorithm>
 #include <limits>
@@ -73,4 +74,19 @@ std::unique_ptr<NumberFormatter> ExifField::createFormatter() const
         formatter->setMaximum(bounds->maximum);
     }
     return formatter;
+}
+
+QStringList ExifField::itemsOverByteLimit(const QString &value) const
+{
+    if (m_maxBytes <= 0 || value.size() * 3 <= m_maxBytes)
+        return {};
+    const QStringList items = m_dataRepresentation == FieldDataRepresentation::Strings
+                                  ? splitStringsItems(value)
+                                  : QStringList{value};
+    QStringList over;
+    for (const QString &item : items) {
+        if (item.toUtf8().size() > m_maxBytes)
+            over.append(item);
+    }
+    return over;
 }

@@ -4,6 +4,7 @@
 
 #include <QHash>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 #include <optional>
@@ -39,6 +40,12 @@ public:
     void setDecimals(qint64 decimals) { m_decimals = decimals; }
     const QString &maker() const { return m_maker; }
     void setMaker(const QString &maker) { m_maker = maker; }
+    // The most bytes (UTF-8) a value, or each item of a list, may take: IPTC-IIM's dataset
+    // limits, which ExifTool enforces by cutting the text. 0: no limit.
+    qint64 maxBytes() const { return m_maxBytes; }
+    void setMaxBytes(qint64 bytes) { m_maxBytes = bytes; }
+    // The items of value (the value itself for a field that is not a list) longer than maxBytes.
+    QStringList itemsOverByteLimit(const QString &value) const;
 
     // A new formatter for this field's numbers, in the user's locale.
     std::unique_ptr<NumberFormatter> createFormatter() const;
@@ -55,6 +62,7 @@ private:
     bool m_writable = true;
     qint64 m_decimals = -1;
     QString m_maker;
+    qint64 m_maxBytes = 0;
 };
 
 using ExifFieldPtr = std::shared_ptr<ExifField>;

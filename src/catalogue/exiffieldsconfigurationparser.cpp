@@ -123,6 +123,8 @@ void ExifFieldsConfigurationParser::startField(const QXmlStreamAttributes &attri
         field->setDecimals(leadingInteger(*decimals));
     if (const auto maker = attribute(attributes, QLatin1StringView("maker")))
         field->setMaker(*maker);
+    if (const auto bytes = attribute(attributes, QLatin1StringView("maxbytes")))
+        field->setMaxBytes(leadingInteger(*bytes));
 
     m_currentField = field;
     m_fields.append(field);

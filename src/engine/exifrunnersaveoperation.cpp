@@ -16,6 +16,7 @@
 #include "values/usersettings.h"
 #include "values/zoneshift.h"
 
+#include <QCoreApplication>
 #include <QLocale>
 
 #include <cmath>
@@ -239,6 +240,19 @@ TagDictionary ExifRunnerSaveOperation::convertValuesToChange(const TagDictionary
             }
             break;
         default:
+            if (const QStringList over = field ? field->itemsOverByteLimit(value) : QStringList();
+                !over.isEmpty() && failures) {
+                // ExifTool would cut it, and other programs would read the cut text.
+                for (const QString &item : over) {
+                    failures->append(QCoreApplication::translate(
+                                         "ExifRunnerSaveOperation",
+                                         "The value \"%1\" of %2 is longer than IPTC allows (at "
+                                         "most %n byte(s)), so the file was not changed.",
+                                         nullptr, int(field->maxBytes()))
+                                         .arg(item, titleOf(field, key)));
+                }
+                break;
+            }
             converted.insert(key, isNumericType(field) ? plainNumberText(value) : value);
             break;
         }

@@ -5,9 +5,11 @@
 #include "values/dateoffset.h"
 #include "values/datevalue.h"
 
+#include <QApplication>
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QFont>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -74,6 +76,8 @@ void ReviewChangesModel::appendSlice()
                                               : tr("(no date to shift)");
             } else if (it.value().isEmpty()) {
                 row.kind = Removed;
+            } else if (field && !field->itemsOverByteLimit(it.value()).isEmpty()) {
+                row.overLimit = field->maxBytes();
             }
             rows.append(row);
         }
@@ -136,7 +140,16 @@ QVariant ReviewChangesModel::data(const QModelIndex &index, int role) const
             return m_paths.at(row.file);
         if (index.column() == NewValueColumn && row.kind == Shifted)
             return tr("A date shift: the date it gives this file");
+        if (index.column() == NewValueColumn && row.overLimit > 0) {
+            return tr("Longer than IPTC allows (at most %n byte(s)): the save will not write "
+                      "this file until it is shortened.",
+                      nullptr, int(row.overLimit));
+        }
         return data(index, Qt::DisplayRole);
+    case Qt::DecorationRole:
+        if (index.column() == NewValueColumn && row.overLimit > 0)
+            return QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning);
+        return {};
     case Qt::FontRole:
         if (index.column() == NewValueColumn && row.kind == Removed) {
             QFont font;
@@ -150,6 +163,8 @@ QVariant ReviewChangesModel::data(const QModelIndex &index, int role) const
         return row.key;
     case KindRole:
         return row.kind;
+    case OverLimitRole:
+        return row.overLimit;
     }
     return {};
 }

@@ -17,7 +17,8 @@ class ReviewChangesModel : public QAbstractTableModel
 public:
     enum Column { FileColumn, TagColumn, OnDiskColumn, NewValueColumn, ColumnCount };
     enum Kind { Changed, Added, Removed, Shifted };
-    enum Roles { PathRole = Qt::UserRole + 1, KeyRole, KindRole };
+    // OverLimitRole: the byte limit of IPTC the new value exceeds (the save refuses it), or 0.
+    enum Roles { PathRole = Qt::UserRole + 1, KeyRole, KindRole, OverLimitRole };
 
     explicit ReviewChangesModel(QObject *parent = nullptr);
 
@@ -48,6 +49,7 @@ private:
         QString onDisk;
         QString newValue;
         Kind kind;
+        qint64 overLimit = 0;
     };
 
     QList<QString> m_paths;

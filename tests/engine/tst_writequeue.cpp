@@ -454,6 +454,46 @@ private Q_SLOTS:
                  QStringList({u"a.jpg"_qs, u"b.jpg"_qs, u"c.jpg"_qs, u"d.jpg"_qs, u"e.jpg"_qs}));
     }
 
+    // IIM keeps a text in a dataset of so many bytes and ExifTool cuts a longer one, which other
+    // programs would then read: such a value is refused before anything is written.
+    void iimTextOverItsLimitIsNotCut_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<bool>("saved");
+        QTest::newRow("ASCII at the limit") << u"IPTC:By-line"_qs << QString(32, u'b') << true;
+        QTest::newRow("ASCII over it") << u"IPTC:By-line"_qs << QString(33, u'b') << false;
+        QTest::newRow("two-byte letters at it") << u"IPTC:By-line"_qs << QString(16, u'é') << true;
+        QTest::newRow("three-byte signs over it")
+            << u"IPTC:By-line"_qs << QString(11, QChar(0x20AC)) << false;
+        QTest::newRow("one keyword of many over it")
+            << u"IPTC:Keywords"_qs << u"short,"_qs + QString(65, u'k') << false;
+        QTest::newRow("XMP has no such limit") << u"XMP-dc:Title"_qs << QString(300, u't') << true;
+    }
+    void iimTextOverItsLimitIsNotCut()
+    {
+        QFETCH(QString, key);
+        QFETCH(QString, value);
+        QFETCH(bool, saved);
+        const ExifFileInfoPtr file =
+            load(u"iim/"_qs + QString::fromLatin1(QTest::currentDataTag()) + u".jpg"_qs);
+        const QByteArray before = readBytes(file->fileName());
+        file->setExifValue(key, value);
+        const QStringList messages = save({file})->messages(file->fileName());
+        const QJsonValue written = readWithExifTool(file->fileName()).value(key);
+        if (saved) {
+            QCOMPARE(messages, QStringList());
+            QCOMPARE(written.toString(), value);
+            QVERIFY(!isExifFileModified(*file));
+            return;
+        }
+        QCOMPARE(readBytes(file->fileName()), before);
+        QCOMPARE(messages.size(), 1);
+        QVERIFY2(messages.first().contains(u"longer than IPTC allows"_qs),
+                 qPrintable(messages.first()));
+        QVERIFY(isExifFileModified(*file)); // still there for the user to shorten
+    }
+
     void readOnlyFolderGivesAClearError()
     {
         if (::geteuid() != 0)

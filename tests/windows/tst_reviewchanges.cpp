@@ -28,16 +28,19 @@ ExifFileInfoPtr makeFile(const QString &path, const TagDictionary &original)
     return file;
 }
 
-// "file | key | on disk | after saving" per row, in the model's order.
+// "file | key | on disk | after saving" per row, in the model's order, and "| over N" for a
+// value longer than IPTC's N bytes.
 QStringList rowsOf(const QAbstractItemModel &model)
 {
     QStringList rows;
     for (int row = 0; row < model.rowCount(); ++row) {
-        rows << QStringList{model.index(row, 0).data().toString(),
-                            model.index(row, 0).data(ReviewChangesModel::KeyRole).toString(),
-                            model.index(row, 2).data().toString(),
-                            model.index(row, 3).data().toString()}
-                    .join(u" | "_qs);
+        QStringList cells{model.index(row, 0).data().toString(),
+                          model.index(row, 0).data(ReviewChangesModel::KeyRole).toString(),
+                          model.index(row, 2).data().toString(),
+                          model.index(row, 3).data().toString()};
+        if (const int limit = model.index(row, 3).data(ReviewChangesModel::OverLimitRole).toInt())
+            cells << u"over "_qs + QString::number(limit);
+        rows << cells.join(u" | "_qs);
     }
     return rows;
 }
@@ -82,6 +85,18 @@ private Q_SLOTS:
             << QStringList{u"a.jpg | ExifIFD:DateTimeOriginal | 2010:05:01 10:00:00 | "
                            u"2010:05:02 12:00:00"_qs};
         QTest::newRow("unmodified") << disk << disk << QStringList{};
+        // IIM counts bytes: sixteen "é" fill By-line's 32, a 65-byte keyword is one too many.
+        TagDictionary atLimit = disk;
+        atLimit.insert(u"IPTC:By-line"_qs, QString(16, u'é'));
+        QTest::newRow("IIM text at its limit")
+            << disk << atLimit
+            << QStringList{u"a.jpg | IPTC:By-line |  | "_qs + QString(16, u'é')};
+        TagDictionary overLimit = disk;
+        overLimit.insert(Keywords, u"a, "_qs + QString(65, u'k'));
+        QTest::newRow("IIM item over its limit")
+            << disk << overLimit
+            << QStringList{u"a.jpg | IPTC:Keywords | a, b | a, "_qs + QString(65, u'k') +
+                           u" | over 64"_qs};
     }
 
     void rowsShowWhatTheSaveWillWrite()
