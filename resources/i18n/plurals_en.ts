@@ -93,6 +93,20 @@
             <numerusform>%n other languages</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n byte(s) left</source>
+        <translation>
+            <numerusform>%n byte left</numerusform>
+            <numerusform>%n bytes left</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n byte(s) too many</source>
+        <translation>
+            <numerusform>%n byte too many</numerusform>
+            <numerusform>%n bytes too many</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>GeotagDialog</name>

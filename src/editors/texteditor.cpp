@@ -56,6 +56,45 @@ QLabel *TextEditor::otherLanguagesLabel() const
     return m_otherLanguages;
 }
 
+QLabel *TextEditor::bytesLeftLabel() const
+{
+    return m_bytesLeft;
+}
+
+QLabel *TextEditor::addNoteAtRightEdge(QLineEdit *editor)
+{
+    auto *note = new QLabel(editor);
+    QFont font = editor->font();
+    font.setItalic(true);
+    note->setFont(font);
+    // In the field's own text colour, so it reads as well as the value beside it.
+    note->setForegroundRole(QPalette::Text);
+    note->setAlignment(Qt::AlignVCenter | Qt::AlignRight);
+    auto *layout = new QHBoxLayout(editor);
+    layout->setContentsMargins(0, 0, 6, 0);
+    layout->setSpacing(0);
+    layout->addStretch();
+    layout->addWidget(note);
+    note->hide();
+    return note;
+}
+
+void TextEditor::updateBytesLeft(bool typing)
+{
+    if (!m_bytesLeft)
+        return;
+    // IPTC-IIM counts bytes, and ExifTool cuts what does not fit: the row says so as it is typed.
+    const qint64 left = field()->maxBytes() - m_editor->text().toUtf8().size();
+    m_bytesLeft->setText(left >= 0 ? tr("%n byte(s) left", nullptr, int(left))
+                                   : tr("%n byte(s) too many", nullptr, int(-left)));
+    QPalette palette = m_bytesLeft->palette();
+    palette.setColor(QPalette::WindowText, left >= 0 ? m_editor->palette().color(QPalette::Text)
+                                                     : QColor(0xff, 0x8a, 0x80));
+    m_bytesLeft->setPalette(palette);
+    m_bytesLeft->setForegroundRole(QPalette::WindowText);
+    m_bytesLeft->setVisible(typing || left < 0);
+}
+
 AttachedWindow *TextEditor::errorMessageWindow() const
 {
     return m_errorMessageWindow;
@@ -87,21 +126,10 @@ int TextEditor::createEditorContent(QWidget *parent, QRect frame)
     }
     connect(m_editor, &QLineEdit::textEdited, this, &TextEditor::controlTextDidChange);
     connect(m_editor, &QLineEdit::editingFinished, this, &TextEditor::controlTextDidEndEditing);
-    if (field()->dataType() == FieldDataType::LangAlt) {
-        m_otherLanguages = new QLabel(m_editor);
-        QFont font = m_editor->font();
-        font.setItalic(true);
-        m_otherLanguages->setFont(font);
-        // In the field's own text colour, so it reads as well as the value beside it.
-        m_otherLanguages->setForegroundRole(QPalette::Text);
-        m_otherLanguages->setAlignment(Qt::AlignVCenter | Qt::AlignRight);
-        auto *layout = new QHBoxLayout(m_editor);
-        layout->setContentsMargins(0, 0, 6, 0);
-        layout->setSpacing(0);
-        layout->addStretch();
-        layout->addWidget(m_otherLanguages);
-        m_otherLanguages->hide();
-    }
+    if (field()->dataType() == FieldDataType::LangAlt)
+        m_otherLanguages = addNoteAtRightEdge(m_editor);
+    else if (field()->maxBytes() > 0)
+        m_bytesLeft = addNoteAtRightEdge(m_editor);
     setContentControl(m_editor);
     m_editor->show();
     stretchWithRow(m_editor);
@@ -296,6 +324,7 @@ void TextEditor::controlTextDidChange()
 {
     m_textChanged = true;
     updateRemovalHint();
+    updateBytesLeft(true);
 }
 
 void TextEditor::controlTextDidEndEditing()
@@ -316,6 +345,7 @@ void TextEditor::controlTextDidEndEditing()
     }
     if (!m_gpsFailed)
         showErrorPopup(QString());
+    updateBytesLeft(false);
 }
 
 void TextEditor::commitPendingInput()

@@ -43,6 +43,8 @@ public:
     // For a language alternative: "N other languages" inside the row when the files hold the
     // value in other languages too, which an edit of the default one keeps; otherwise null.
     QLabel *otherLanguagesLabel() const;
+    // For a field with an IIM byte limit: the bytes left, shown while typing and while over.
+    QLabel *bytesLeftLabel() const;
 
     // A stored coordinate as the user's GPS_FORMAT setting shows it.
     QString formatLocation(double degrees) const;
@@ -60,12 +62,16 @@ private:
     void controlTextDidEndEditing();
     void displayValue(const QString &value);
     void showOtherLanguages(const QList<ExifFileInfoPtr> &files);
+    // A note inside the editor's right edge, hidden at first.
+    static QLabel *addNoteAtRightEdge(QLineEdit *editor);
+    void updateBytesLeft(bool typing);
     QString currentText() const;
     bool isCoordinate() const;
     QString referenceKey() const;
 
     QPointer<QLineEdit> m_editor;
     QPointer<QLabel> m_otherLanguages;
+    QPointer<QLabel> m_bytesLeft;
     bool m_textChanged = false;
     QPointer<AttachedWindow> m_errorMessageWindow;
     QPointer<QLabel> m_errorMessageLabel;

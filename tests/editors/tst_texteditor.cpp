@@ -226,6 +226,40 @@ private Q_SLOTS:
             QCOMPARE(files.first()->exifValue(key + u"-de"_qs), u"de"_qs);
     }
 
+    // An IIM text counts bytes as it is typed: shown while typing, and after it while over.
+    void bytesLeftWhileTyping_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("whileTyping");
+        QTest::addColumn<QString>("afterwards"); // "" when hidden
+        QTest::newRow("room left") << u"Jane"_qs << u"28 bytes left"_qs << QString();
+        QTest::newRow("one left, in two-byte letters")
+            << QString(15, u'é') + u'x' << u"1 byte left"_qs << QString();
+        QTest::newRow("over") << QString(11, QChar(0x20AC)) << u"1 byte too many"_qs
+                              << u"1 byte too many"_qs;
+    }
+    void bytesLeftWhileTyping()
+    {
+        QFETCH(QString, typed);
+        ExifFieldPtr field = makeField(u"IPTC:By-line"_qs, FieldDataRepresentation::None);
+        field->setMaxBytes(32);
+        Row<TextEditor> row(field);
+        const ExifFileInfoPtr file = std::make_shared<ExifFileInfo>(u"/p/a.jpg"_qs);
+        file->setReadData({});
+        row.editor.setExifFiles({file});
+        QLabel *label = row.editor.bytesLeftLabel();
+        QVERIFY(label);
+        QLineEdit *edit = row.editor.editor();
+        edit->setFocus();
+        // One key event carrying the whole text: keyClicks takes Latin-1 only.
+        QTest::sendKeyEvent(QTest::Click, edit, Qt::Key_unknown, typed, Qt::NoModifier);
+        QCOMPARE(edit->text(), typed);
+        QVERIFY(label->isVisibleTo(edit));
+        QTEST(label->text(), "whileTyping");
+        QTest::keyClick(edit, Qt::Key_Return);
+        QTEST(label->isVisibleTo(edit) ? label->text() : QString(), "afterwards");
+    }
+
 private:
     QTemporaryDir m_dir;
 };
