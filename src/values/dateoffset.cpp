@@ -89,50 +89,6 @@ DateComponents magnitudes(const DateComponents &offset, bool negate)
     return units;
 }
 
-// How many whole units lie between start and target, largest first, the way a Gregorian calendar
-// computes a difference: start moves to start + result so the next, smaller unit continues there.
-qint64 unitDifference(QDateTime &start, const QDateTime &target, qint64 DateComponents::*unit)
-{
-    const qint64 goal = target.toMSecsSinceEpoch();
-    auto reach = [&start](qint64 n, qint64 DateComponents::*field) {
-        DateComponents step;
-        step.*field = n;
-        return addDateComponents(start, step);
-    };
-    const qint64 direction = goal >= start.toMSecsSinceEpoch() ? 1 : -1;
-    auto beyond = [&](qint64 n) {
-        const QDateTime moved = reach(n * direction, unit);
-        return !moved.isValid() || (moved.toMSecsSinceEpoch() - goal) * direction > 0;
-    };
-    qint64 low = 0;
-    qint64 high = 1;
-    while (!beyond(high)) {
-        low = high;
-        if (high > std::numeric_limits<qint64>::max() / 4)
-            break;
-        high *= 2;
-    }
-    while (high - low > 1) {
-        const qint64 middle = low + (high - low) / 2;
-        if (beyond(middle))
-            high = middle;
-        else
-            low = middle;
-    }
-    start = reach(low * direction, unit);
-    return low * direction;
-}
-
-DateComponents calendarDifference(const QDateTime &from, const QDateTime &to)
-{
-    DateComponents difference;
-    QDateTime cursor = from;
-    for (auto unit : {&DateComponents::year, &DateComponents::month, &DateComponents::day,
-                      &DateComponents::hour, &DateComponents::minute, &DateComponents::second})
-        difference.*unit = unitDifference(cursor, to, unit);
-    return difference;
-}
-
 } // namespace
 
 bool isDateOffsetText(const QString &text)
@@ -219,24 +175,6 @@ QString formatDateOffsetForWriting(const QString &offsetText, DateEditorType typ
     const DateComponents o = parseDateOffset(offsetText);
     return QString::asprintf("%c%lld:%lld:%lld %02lld:%02lld:%02lld", sign, o.year, o.month, o.day,
                              o.hour, o.minute, o.second);
-}
-
-DateComponents offsetBetweenDates(const QDateTime &current, const QDateTime &original)
-{
-    DateComponents offset = calendarDifference(current, original);
-    if (current > original)
-        offset.era = -1;
-    else if (current < original)
-        offset.era = 1;
-    return offset;
-}
-
-QString describeOffsetBetweenDates(const QDateTime &from, const QDateTime &to)
-{
-    const DateComponents difference = calendarDifference(from, to);
-    if (from == to)
-        return formatUnits(difference, true, true).mid(1);
-    return formatUnits(difference, from < to, true);
 }
 
 QDateTime applyDateOffset(const QString &offsetText, const QString &originalText)

@@ -32,13 +32,6 @@ QString formatDateOffsetForWriting(const QString &offsetText, DateEditorType typ
 // The offset with every unit's magnitude given sign (1 or -1); era is kept as it is.
 DateComponents withUnitSign(DateComponents offset, int sign);
 
-// Calendar difference from current to original, signed units; era -1 when current is the later
-// date, 1 when original is, unset when they are equal.
-DateComponents offsetBetweenDates(const QDateTime &current, const QDateTime &original);
-// "+1y 2d " style description of the difference from one date to another, not trimmed; no sign
-// when they are equal.
-QString describeOffsetBetweenDates(const QDateTime &from, const QDateTime &to);
-
 // The wall-clock reading (see datewallclock.h) that a value gives over an original date-time
 // text, as ExifTool writes it: a shift is applied with the magnitudes of its units, all negated
 // when the text holds no "+"; any other value is read as a date-time of its own. Invalid when the

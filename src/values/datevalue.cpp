@@ -153,25 +153,6 @@ DateComponents componentsFromDate(const QDateTime &date)
     return c;
 }
 
-QDateTime addDateComponents(const QDateTime &date, const DateComponents &units)
-{
-    if (!date.isValid())
-        return {};
-    const QDateTime local = date.toLocalTime();
-    // Years first, then months, each clamped: 2012:02:29 +1y1M is 2013:03:28, not 03:29.
-    const QDate day =
-        addMonthsClamped(addMonthsClamped(local.date(), units.year * 12), units.month);
-    if (!day.isValid())
-        return {};
-    const QDateTime moved =
-        localDateTime(day.addDays(units.day), local.time().msecsSinceStartOfDay());
-    if (!moved.isValid())
-        return {};
-    const qint64 seconds = (units.hour * 60 + units.minute) * 60 + units.second;
-    return QDateTime::fromMSecsSinceEpoch(moved.toMSecsSinceEpoch() + seconds * 1000,
-                                          Qt::LocalTime);
-}
-
 QString normalizeDateForWriting(const QString &text)
 {
     const QStringList pieces = text.section(u' ', 0, 0).split(u':');

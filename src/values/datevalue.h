@@ -32,10 +32,6 @@ QDateTime dateFromComponents(const DateComponents &components);
 // itself for a wall-clock one.
 DateComponents componentsFromDate(const QDateTime &date);
 
-// One calendar step with signed units: years, months and days move the wall-clock date (the day
-// is clamped to the target month's length), then hours, minutes and seconds add elapsed time.
-QDateTime addDateComponents(const QDateTime &date, const DateComponents &units);
-
 // The write form of an absolute value of a date-only field: "%04d:%02d:%02d" of the first three
 // colon-separated numbers before the first blank.
 QString normalizeDateForWriting(const QString &text);
