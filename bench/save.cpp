@@ -242,8 +242,7 @@ int main(int argc, char *argv[])
         << "median one batch write:               " << batch << " ms\n"
         << "median one batch write + batch read:  " << pair << " ms\n"
         << "median one process per file (scaled from " << sample << "): " << single << " ms\n"
-        << qSetRealNumberPrecision(2) << "ratio to batch write:          " << ours / batch
-        << "\n"
+        << qSetRealNumberPrecision(2) << "ratio to batch write:          " << ours / batch << "\n"
         << "ratio to batch write + read:   " << ours / pair << " (limit 1.25)\n"
         << "speed-up over process per file: " << single / ours << " (at least 30)\n"
         << "flushing one file and its folder: " << flush << " ms; ratio to batch write + read "

@@ -3,6 +3,7 @@
 #include "catalogue/preset.h"
 #include "controls/aperturetheme.h"
 #include "controls/tokenfield.h"
+#include "editors/rightedgenote.h"
 #include "values/taglist.h"
 
 #include <QAction>
@@ -30,6 +31,11 @@ StringsEditor::StringsEditor(ExifFieldPtr field, QObject *parent)
 
 StringsEditor::~StringsEditor() = default;
 
+QLabel *StringsEditor::bytesLeftLabel() const
+{
+    return m_bytesLeft;
+}
+
 TokenField *StringsEditor::editor() const
 {
     return m_editor;
@@ -47,6 +53,14 @@ int StringsEditor::createEditorContent(QWidget *parent, QRect frame)
     m_editor->setContextMenuPolicy(Qt::ActionsContextMenu);
     m_editor->addAction(m_replaceAction);
     m_editor->lineEdit()->installEventFilter(this);
+    if (field()->maxBytes() > 0) {
+        // Each item has its own dataset in IPTC-IIM: the one being typed counts its bytes.
+        m_bytesLeft = addRightEdgeNote(m_editor->lineEdit());
+        // Changed, not edited: a committed item leaves the input by a clear.
+        connect(m_editor->lineEdit(), &QLineEdit::textChanged, this, [this](const QString &text) {
+            showBytesLeft(m_bytesLeft, field()->maxBytes(), text.trimmed(), true);
+        });
+    }
     if (QLabel *rowLabel = label()) {
         rowLabel->setContextMenuPolicy(Qt::ActionsContextMenu);
         rowLabel->addAction(m_replaceAction);

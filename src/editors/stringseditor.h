@@ -6,6 +6,7 @@
 #include <QPointer>
 
 class QAction;
+class QLabel;
 class TokenField;
 
 // The row of a list field (keywords and the like): one token per item. Every change of the
@@ -20,6 +21,8 @@ public:
     ~StringsEditor() override;
 
     TokenField *editor() const;
+    // For a field with an IIM byte limit: the bytes left of the item being typed.
+    QLabel *bytesLeftLabel() const;
     bool textChanged() const { return m_textChanged; }
     // Whether typed items go into each file's own list rather than replace it.
     bool addsToEachFile() const { return m_addsToEachFile; }
@@ -45,6 +48,7 @@ private:
     void setAddsToEachFile(bool on);
 
     QPointer<TokenField> m_editor;
+    QPointer<QLabel> m_bytesLeft;
     QAction *m_replaceAction = nullptr;
     bool m_textChanged = false;
     bool m_addsToEachFile = false;

@@ -1,5 +1,6 @@
 #include "editors/texteditor.h"
 
+#include "editors/rightedgenote.h"
 #include "engine/editsession.h"
 
 #include "catalogue/preset.h"
@@ -61,38 +62,10 @@ QLabel *TextEditor::bytesLeftLabel() const
     return m_bytesLeft;
 }
 
-QLabel *TextEditor::addNoteAtRightEdge(QLineEdit *editor)
-{
-    auto *note = new QLabel(editor);
-    QFont font = editor->font();
-    font.setItalic(true);
-    note->setFont(font);
-    // In the field's own text colour, so it reads as well as the value beside it.
-    note->setForegroundRole(QPalette::Text);
-    note->setAlignment(Qt::AlignVCenter | Qt::AlignRight);
-    auto *layout = new QHBoxLayout(editor);
-    layout->setContentsMargins(0, 0, 6, 0);
-    layout->setSpacing(0);
-    layout->addStretch();
-    layout->addWidget(note);
-    note->hide();
-    return note;
-}
-
 void TextEditor::updateBytesLeft(bool typing)
 {
-    if (!m_bytesLeft)
-        return;
-    // IPTC-IIM counts bytes, and ExifTool cuts what does not fit: the row says so as it is typed.
-    const qint64 left = field()->maxBytes() - m_editor->text().toUtf8().size();
-    m_bytesLeft->setText(left >= 0 ? tr("%n byte(s) left", nullptr, int(left))
-                                   : tr("%n byte(s) too many", nullptr, int(-left)));
-    QPalette palette = m_bytesLeft->palette();
-    palette.setColor(QPalette::WindowText, left >= 0 ? m_editor->palette().color(QPalette::Text)
-                                                     : QColor(0xff, 0x8a, 0x80));
-    m_bytesLeft->setPalette(palette);
-    m_bytesLeft->setForegroundRole(QPalette::WindowText);
-    m_bytesLeft->setVisible(typing || left < 0);
+    if (m_bytesLeft)
+        showBytesLeft(m_bytesLeft, field()->maxBytes(), m_editor->text(), typing);
 }
 
 AttachedWindow *TextEditor::errorMessageWindow() const
@@ -126,10 +99,13 @@ int TextEditor::createEditorContent(QWidget *parent, QRect frame)
     }
     connect(m_editor, &QLineEdit::textEdited, this, &TextEditor::controlTextDidChange);
     connect(m_editor, &QLineEdit::editingFinished, this, &TextEditor::controlTextDidEndEditing);
-    if (field()->dataType() == FieldDataType::LangAlt)
-        m_otherLanguages = addNoteAtRightEdge(m_editor);
-    else if (field()->maxBytes() > 0)
-        m_bytesLeft = addNoteAtRightEdge(m_editor);
+    if (field()->dataType() == FieldDataType::LangAlt) {
+        m_otherLanguages = addRightEdgeNote(m_editor);
+        // In the field's own text colour, so it reads as well as the value beside it.
+        m_otherLanguages->setForegroundRole(QPalette::Text);
+    } else if (field()->maxBytes() > 0) {
+        m_bytesLeft = addRightEdgeNote(m_editor);
+    }
     setContentControl(m_editor);
     m_editor->show();
     stretchWithRow(m_editor);

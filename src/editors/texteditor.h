@@ -62,8 +62,6 @@ private:
     void controlTextDidEndEditing();
     void displayValue(const QString &value);
     void showOtherLanguages(const QList<ExifFileInfoPtr> &files);
-    // A note inside the editor's right edge, hidden at first.
-    static QLabel *addNoteAtRightEdge(QLineEdit *editor);
     void updateBytesLeft(bool typing);
     QString currentText() const;
     bool isCoordinate() const;

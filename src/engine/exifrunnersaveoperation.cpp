@@ -156,8 +156,8 @@ void ExifRunnerSaveOperation::runAfterFlush()
     if (writesFile()) {
         result = completeWrite(errors);
         if (result.replaced)
-            RevertRecord::storeAfterSave(fileName(), std::move(m_revert),
-                                         efi()->originalExifData(), result.reRead, errors);
+            RevertRecord::storeAfterSave(fileName(), std::move(m_revert), efi()->originalExifData(),
+                                         result.reRead, errors);
     }
     // A file changed by someone else is left whole, sidecar included.
     if (!m_sidecarPath.isEmpty() && !result.leftAlone)

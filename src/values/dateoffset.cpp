@@ -188,7 +188,8 @@ QDateTime applyDateOffset(const QString &offsetText, const QString &originalText
         return {};
     // A text holding both signs counts as plus.
     const bool negate = !offsetText.contains(u'+');
-    return shiftWallClock(wallClockDate(*original), magnitudes(parseDateOffset(offsetText), negate));
+    return shiftWallClock(wallClockDate(*original),
+                          magnitudes(parseDateOffset(offsetText), negate));
 }
 
 DateOffsetCells dateOffsetCells(const DateComponents &offset)

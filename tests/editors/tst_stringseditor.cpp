@@ -112,6 +112,31 @@ private Q_SLOTS:
         QCOMPARE(row.editor.isModified(), modified);
     }
 
+    // Each IPTC keyword has its own 64 bytes: the one being typed counts them, and the note
+    // goes with it into the list.
+    void keywordBeingTypedCountsItsBytes()
+    {
+        ExifFieldPtr field = makeField(Keywords, FieldDataRepresentation::Strings);
+        field->setMaxBytes(64);
+        Row<StringsEditor> row(field);
+        const auto files = makeFiles(Keywords, {QString(60, u'a')});
+        row.editor.setExifFiles(files);
+        QLineEdit *edit = row.editor.editor()->lineEdit();
+        QLabel *note = row.editor.bytesLeftLabel();
+        QVERIFY(note);
+        QVERIFY(!note->isVisibleTo(edit)); // the keywords already there count apart
+        edit->setFocus();
+        QTest::keyClicks(edit, QString(62, u'b'));
+        QVERIFY(note->isVisibleTo(edit));
+        QCOMPARE(note->text(), u"2 bytes left"_qs);
+        QTest::keyClicks(edit, u"bbb"_qs);
+        QCOMPARE(note->text(), u"1 byte too many"_qs);
+        QTest::keyClick(edit, Qt::Key_Return);
+        QVERIFY(!note->isVisibleTo(edit));
+        QCOMPARE(currentValues(files, Keywords),
+                 QStringList{QString(60, u'a') + u',' + QString(65, u'b')});
+    }
+
     void replaceInAllFilesGivesEveryFileTheTypedList()
     {
         Row<StringsEditor> row(makeField(Keywords, FieldDataRepresentation::Strings));

@@ -54,17 +54,16 @@ private Q_SLOTS:
         row("null over a value", {u"null A"_qs}, "A=,B=2", {u"A"_qs});
         row("null as a new key", {u"null C"_qs}, "A=1,B=2,C=", {u"C"_qs});
         row("empty is not null", {u"set A="_qs}, "A=,B=2", {u"A"_qs});
-        row("new original keeps the edits", {u"set A=9"_qs, u"original A=1,B=2,C=3"_qs},
-            "A=9,B=2", {u"A"_qs, u"C"_qs});
-        row("new original agrees with the edit", {u"set A=9"_qs, u"original A=9,B=2"_qs},
-            "A=9,B=2", {});
+        row("new original keeps the edits", {u"set A=9"_qs, u"original A=1,B=2,C=3"_qs}, "A=9,B=2",
+            {u"A"_qs, u"C"_qs});
+        row("new original agrees with the edit", {u"set A=9"_qs, u"original A=9,B=2"_qs}, "A=9,B=2",
+            {});
         row("new original under no edits", {u"original A=5,B=2"_qs}, "A=1,B=2", {u"A"_qs});
-        row("new original brings what was removed", {u"remove B"_qs, u"original A=1,B=3"_qs},
-            "A=1", {u"B"_qs});
+        row("new original brings what was removed", {u"remove B"_qs, u"original A=1,B=3"_qs}, "A=1",
+            {u"B"_qs});
         row("values replace all", {u"set A=9"_qs, u"values B=2,D=4"_qs}, "B=2,D=4",
             {u"A"_qs, u"D"_qs});
-        row("values equal to the original", {u"set A=9"_qs, u"values A=1,B=2"_qs}, "A=1,B=2",
-            {});
+        row("values equal to the original", {u"set A=9"_qs, u"values A=1,B=2"_qs}, "A=1,B=2", {});
     }
     void currentValuesFollowEveryStep()
     {

@@ -416,8 +416,8 @@ private Q_SLOTS:
         const QString tag = u"group-"_qs + QString::fromLatin1(QTest::currentDataTag());
         QList<ExifFileInfoPtr> files;
         QHash<QString, QByteArray> before;
-        for (const QString &name : {u"a.jpg"_qs, u"b.jpg"_qs, u"c.jpg"_qs, u"d.jpg"_qs,
-                                    u"e.jpg"_qs}) {
+        for (const QString &name :
+             {u"a.jpg"_qs, u"b.jpg"_qs, u"c.jpg"_qs, u"d.jpg"_qs, u"e.jpg"_qs}) {
             files << load(tag + u'/' + name, u"New "_qs + name);
             before.insert(name, readBytes(files.last()->fileName()));
         }

@@ -146,8 +146,7 @@ private Q_SLOTS:
         QTEST(describeWallClockOffset(start, end), "description");
         // The offset is the shift a user would type to go there.
         if (const DateComponents offset = wallClockOffset(start, end); offset.era) {
-            QCOMPARE(applyDateOffset(formatDateOffsetCompact(offset, *offset.era == 1), from),
-                     end);
+            QCOMPARE(applyDateOffset(formatDateOffsetCompact(offset, *offset.era == 1), from), end);
         }
     }
 

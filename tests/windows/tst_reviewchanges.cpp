@@ -89,8 +89,7 @@ private Q_SLOTS:
         TagDictionary atLimit = disk;
         atLimit.insert(u"IPTC:By-line"_qs, QString(16, u'é'));
         QTest::newRow("IIM text at its limit")
-            << disk << atLimit
-            << QStringList{u"a.jpg | IPTC:By-line |  | "_qs + QString(16, u'é')};
+            << disk << atLimit << QStringList{u"a.jpg | IPTC:By-line |  | "_qs + QString(16, u'é')};
         TagDictionary overLimit = disk;
         overLimit.insert(Keywords, u"a, "_qs + QString(65, u'k'));
         QTest::newRow("IIM item over its limit")
