@@ -191,6 +191,7 @@ bool FileRewriteOperation::stageWrite(const QStringList &arguments, ErrorMessage
 {
     m_pending = WriteResult();
     m_written.reset();
+    m_typeDiffers = false;
     const qint64 megabytes = QFileInfo(m_fileName).size() / (1024 * 1024);
     setCommandTimeout(int(std::min<qint64>(s_timeoutBaseMs + megabytes * s_timeoutPerMegabyteMs,
                                            std::numeric_limits<int>::max())));
