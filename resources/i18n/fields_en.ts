@@ -1752,6 +1752,66 @@
         <translation>Base URL</translation>
     </message>
     <message>
+        <source>XMP-iptcExt:PersonInImage</source>
+        <translation>Person In Image</translation>
+    </message>
+    <message>
+        <source>XMP-iptcExt:AdditionalModelInformation</source>
+        <translation>Additional Model Information</translation>
+    </message>
+    <message>
+        <source>XMP-iptcExt:ModelAge</source>
+        <translation>Model Age</translation>
+    </message>
+    <message>
+        <source>XMP-iptcExt:OrganisationInImageName</source>
+        <translation>Organisation In Image Name</translation>
+    </message>
+    <message>
+        <source>XMP-iptcExt:OrganisationInImageCode</source>
+        <translation>Organisation In Image Code</translation>
+    </message>
+    <message>
+        <source>XMP-iptcExt:Event</source>
+        <translation>Event</translation>
+    </message>
+    <message>
+        <source>XMP-iptcExt:EventID</source>
+        <translation>Event ID</translation>
+    </message>
+    <message>
+        <source>XMP-iptcExt:DigitalSourceType</source>
+        <translation>Digital Source Type</translation>
+    </message>
+    <message>
+        <source>XMP-iptcExt:DigitalImageGUID</source>
+        <translation>Digital Image GUID</translation>
+    </message>
+    <message>
+        <source>XMP-iptcExt:MaxAvailWidth</source>
+        <translation>Max Avail Width</translation>
+    </message>
+    <message>
+        <source>XMP-iptcExt:MaxAvailHeight</source>
+        <translation>Max Avail Height</translation>
+    </message>
+    <message>
+        <source>XMP-iptcExt:AISystemUsed</source>
+        <translation>AI System Used</translation>
+    </message>
+    <message>
+        <source>XMP-iptcExt:AISystemVersionUsed</source>
+        <translation>AI System Version Used</translation>
+    </message>
+    <message>
+        <source>XMP-iptcExt:AIPromptInformation</source>
+        <translation>AI Prompt Information</translation>
+    </message>
+    <message>
+        <source>XMP-iptcExt:AIPromptWriterName</source>
+        <translation>AI Prompt Writer Name</translation>
+    </message>
+    <message>
         <source>IFD0:Artist</source>
         <translation>Artist</translation>
     </message>
@@ -1874,6 +1934,158 @@
     <message>
         <source>XMP-xmpRights:Certificate</source>
         <translation>Certificate</translation>
+    </message>
+    <message>
+        <source>XMP-plus:ImageSupplierImageID</source>
+        <translation>Image Supplier Image ID</translation>
+    </message>
+    <message>
+        <source>XMP-plus:ModelReleaseStatus</source>
+        <translation>Model Release Status</translation>
+    </message>
+    <message>
+        <source>XMP-plus:ModelReleaseStatus:MR-LMR</source>
+        <translation>Limited or Incomplete Model Releases</translation>
+    </message>
+    <message>
+        <source>XMP-plus:ModelReleaseStatus:MR-NAP</source>
+        <translation>Not Applicable</translation>
+    </message>
+    <message>
+        <source>XMP-plus:ModelReleaseStatus:MR-NON</source>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>XMP-plus:ModelReleaseStatus:MR-UMR</source>
+        <translation>Unlimited Model Releases</translation>
+    </message>
+    <message>
+        <source>XMP-plus:ModelReleaseID</source>
+        <translation>Model Release ID</translation>
+    </message>
+    <message>
+        <source>XMP-plus:MinorModelAgeDisclosure</source>
+        <translation>Minor Model Age Disclosure</translation>
+    </message>
+    <message>
+        <source>XMP-plus:MinorModelAgeDisclosure:AG-A15</source>
+        <translation>Age 15</translation>
+    </message>
+    <message>
+        <source>XMP-plus:MinorModelAgeDisclosure:AG-A16</source>
+        <translation>Age 16</translation>
+    </message>
+    <message>
+        <source>XMP-plus:MinorModelAgeDisclosure:AG-A17</source>
+        <translation>Age 17</translation>
+    </message>
+    <message>
+        <source>XMP-plus:MinorModelAgeDisclosure:AG-A18</source>
+        <translation>Age 18</translation>
+    </message>
+    <message>
+        <source>XMP-plus:MinorModelAgeDisclosure:AG-A19</source>
+        <translation>Age 19</translation>
+    </message>
+    <message>
+        <source>XMP-plus:MinorModelAgeDisclosure:AG-A20</source>
+        <translation>Age 20</translation>
+    </message>
+    <message>
+        <source>XMP-plus:MinorModelAgeDisclosure:AG-A21</source>
+        <translation>Age 21</translation>
+    </message>
+    <message>
+        <source>XMP-plus:MinorModelAgeDisclosure:AG-A22</source>
+        <translation>Age 22</translation>
+    </message>
+    <message>
+        <source>XMP-plus:MinorModelAgeDisclosure:AG-A23</source>
+        <translation>Age 23</translation>
+    </message>
+    <message>
+        <source>XMP-plus:MinorModelAgeDisclosure:AG-A24</source>
+        <translation>Age 24</translation>
+    </message>
+    <message>
+        <source>XMP-plus:MinorModelAgeDisclosure:AG-A25</source>
+        <translation>Age 25 or Over</translation>
+    </message>
+    <message>
+        <source>XMP-plus:MinorModelAgeDisclosure:AG-U14</source>
+        <translation>Age 14 or Under</translation>
+    </message>
+    <message>
+        <source>XMP-plus:MinorModelAgeDisclosure:AG-UNK</source>
+        <translation>Age Unknown</translation>
+    </message>
+    <message>
+        <source>XMP-plus:PropertyReleaseStatus</source>
+        <translation>Property Release Status</translation>
+    </message>
+    <message>
+        <source>XMP-plus:PropertyReleaseStatus:PR-LPR</source>
+        <translation>Limited or Incomplete Property Releases</translation>
+    </message>
+    <message>
+        <source>XMP-plus:PropertyReleaseStatus:PR-NAP</source>
+        <translation>Not Applicable</translation>
+    </message>
+    <message>
+        <source>XMP-plus:PropertyReleaseStatus:PR-NON</source>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>XMP-plus:PropertyReleaseStatus:PR-UPR</source>
+        <translation>Unlimited Property Releases</translation>
+    </message>
+    <message>
+        <source>XMP-plus:PropertyReleaseID</source>
+        <translation>Property Release ID</translation>
+    </message>
+    <message>
+        <source>XMP-plus:DataMining</source>
+        <translation>Data Mining</translation>
+    </message>
+    <message>
+        <source>XMP-plus:DataMining:DMI-ALLOWED</source>
+        <translation>Allowed</translation>
+    </message>
+    <message>
+        <source>XMP-plus:DataMining:DMI-PROHIBITED</source>
+        <translation>Prohibited</translation>
+    </message>
+    <message>
+        <source>XMP-plus:DataMining:DMI-PROHIBITED-AIMLTRAINING</source>
+        <translation>Prohibited for AI/ML training</translation>
+    </message>
+    <message>
+        <source>XMP-plus:DataMining:DMI-PROHIBITED-EXCEPTSEARCHENGINEINDEXING</source>
+        <translation>Prohibited except for search engine indexing</translation>
+    </message>
+    <message>
+        <source>XMP-plus:DataMining:DMI-PROHIBITED-GENAIMLTRAINING</source>
+        <translation>Prohibited for Generative AI/ML training</translation>
+    </message>
+    <message>
+        <source>XMP-plus:DataMining:DMI-PROHIBITED-SEECONSTRAINT</source>
+        <translation>Prohibited, see plus:OtherConstraints</translation>
+    </message>
+    <message>
+        <source>XMP-plus:DataMining:DMI-PROHIBITED-SEEEMBEDDEDRIGHTSEXPR</source>
+        <translation>Prohibited, see iptcExt:EmbdEncRightsExpr</translation>
+    </message>
+    <message>
+        <source>XMP-plus:DataMining:DMI-PROHIBITED-SEELINKEDRIGHTSEXPR</source>
+        <translation>Prohibited, see iptcExt:LinkedEncRightsExpr</translation>
+    </message>
+    <message>
+        <source>XMP-plus:DataMining:DMI-UNSPECIFIED</source>
+        <translation>Unspecified - no prohibition defined</translation>
+    </message>
+    <message>
+        <source>XMP-plus:OtherConstraints</source>
+        <translation>Other Constraints</translation>
     </message>
     <message>
         <source>Canon:CanonImageType</source>

@@ -41,6 +41,14 @@ const Tag tags[] = {
     {"IPTC:Keywords", "=", "lake,dawn", R::Strings},
     {"XMP-dc:Subject", "=", "lake", R::Strings},
     {"XMP-xmpRights:Marked", "=", "True", R::Enum},
+    // IPTC Extension properties that are plain values, not structures.
+    {"XMP-iptcExt:PersonInImage", "=", "Ann,Bob", R::Strings},
+    {"XMP-iptcExt:MaxAvailWidth", "=", "6000", R::Number},
+    {"XMP-iptcExt:DigitalSourceType", "=",
+     "http://cv.iptc.org/newscodes/digitalsourcetype/trainedAlgorithmicMedia", R::None},
+    {"XMP-iptcExt:AISystemUsed", "=", "Model X", R::None},
+    {"XMP-plus:ModelReleaseStatus", "#=", "MR-NON", R::Enum},
+    {"XMP-plus:DataMining", "#=", "DMI-PROHIBITED-AIMLTRAINING", R::Enum},
 };
 
 QString sourcePath(const QString &relative)
