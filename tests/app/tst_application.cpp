@@ -4,6 +4,8 @@
 #include "values/debugmode.h"
 #include "values/usersettings.h"
 
+#include "../support/teststore.h"
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
@@ -66,14 +68,10 @@ class TestApplication : public QObject
     Q_OBJECT
 
     QTemporaryDir m_dir;
-    int m_storeNumber = 0;
 
 private Q_SLOTS:
     void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
-    void init()
-    {
-        UserSettings::setStoreFile(m_dir.filePath(u"store-%1.ini"_s.arg(++m_storeNumber)));
-    }
+    void init() { useFreshSettingsStore(); }
 
     void hasArgument_data()
     {

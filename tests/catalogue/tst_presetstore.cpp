@@ -2,10 +2,11 @@
 #include "values/tagsmithexception.h"
 #include "values/usersettings.h"
 
+#include "../support/teststore.h"
+
 #include <QRegularExpression>
 #include <QSettings>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -49,15 +50,9 @@ class TestPresetStore : public QObject
 {
     Q_OBJECT
 
-    QTemporaryDir m_dir;
-    int m_storeNumber = 0;
-
 private Q_SLOTS:
     void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
-    void init()
-    {
-        UserSettings::setStoreFile(m_dir.filePath(u"store-%1.ini"_s.arg(++m_storeNumber)));
-    }
+    void init() { useFreshSettingsStore(); }
 
     // A preset may hold anything a user can type; none may be lost or altered by the store.
     void presetSurvivesReopeningTheStore_data()

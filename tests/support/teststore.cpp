@@ -1,3 +1,5 @@
+#include "teststore.h"
+
 #include "values/usersettings.h"
 
 #include <QCoreApplication>
@@ -6,18 +8,29 @@
 
 namespace {
 
-// Every test program starts on a settings store of its own, so no test reads the user's
-// settings or leaves its own behind, even one that never thought of the store. Tests that need
-// a fresh store per case still set one.
-void useTemporaryStore()
+QString storeFolder()
 {
-    QStandardPaths::setTestModeEnabled(true);
     static QTemporaryDir dir;
     if (!dir.isValid())
         qFatal("No temporary folder for the settings store: %s", qPrintable(dir.errorString()));
-    UserSettings::setStoreFile(dir.filePath(QStringLiteral("settings.ini")));
+    return dir.path();
+}
+
+// Every test program starts on a settings store of its own, so no test reads the user's
+// settings or leaves its own behind, even one that never thought of the store. Tests that need
+// a fresh store per case call useFreshSettingsStore.
+void useTemporaryStore()
+{
+    QStandardPaths::setTestModeEnabled(true);
+    UserSettings::setStoreFile(storeFolder() + QStringLiteral("/settings.ini"));
 }
 
 } // namespace
+
+void useFreshSettingsStore()
+{
+    static int count = 0;
+    UserSettings::setStoreFile(storeFolder() + QStringLiteral("/store-%1.ini").arg(++count));
+}
 
 Q_COREAPP_STARTUP_FUNCTION(useTemporaryStore)

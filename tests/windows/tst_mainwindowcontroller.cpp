@@ -14,6 +14,7 @@
 #include "engine/writequeue.h"
 #include "engine/metadatareader.h"
 #include "../support/fixtures.h"
+#include "../support/teststore.h"
 #include "values/usersettings.h"
 #include "windows/addfilesnote.h"
 #include "windows/fileinfocell.h"
@@ -112,7 +113,6 @@ class TestMainWindowController : public QObject
     Q_OBJECT
 
     QTemporaryDir m_dir;
-    int m_number = 0;
     std::unique_ptr<PresetStore> m_store;
     std::unique_ptr<MainWindowController> m_controller;
     FakeRunner *m_runner = nullptr;
@@ -151,7 +151,7 @@ private Q_SLOTS:
     }
     void init()
     {
-        UserSettings::setStoreFile(m_dir.filePath(u"store-%1.ini"_s.arg(++m_number)));
+        useFreshSettingsStore();
         m_store = std::make_unique<PresetStore>();
         m_replies.clear();
     }

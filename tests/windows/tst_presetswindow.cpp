@@ -5,6 +5,8 @@
 #include "editors/texteditor.h"
 #include "values/usersettings.h"
 
+#include "../support/teststore.h"
+
 #include <QAbstractItemModel>
 #include <QApplication>
 #include <QCheckBox>
@@ -13,7 +15,6 @@
 #include <QLineEdit>
 #include <QStandardPaths>
 #include <QTableView>
-#include <QTemporaryDir>
 #include <QTest>
 
 namespace {
@@ -59,8 +60,6 @@ class TestPresetsWindow : public QObject
 {
     Q_OBJECT
 
-    QTemporaryDir m_dir;
-    int m_storeNumber = 0;
     std::unique_ptr<PresetStore> m_store;
 
     PresetPtr addPreset(const QString &name)
@@ -78,7 +77,7 @@ private Q_SLOTS:
     }
     void init()
     {
-        UserSettings::setStoreFile(m_dir.filePath(u"store-%1.ini"_qs.arg(++m_storeNumber)));
+        useFreshSettingsStore();
         m_store = std::make_unique<PresetStore>();
     }
 
