@@ -454,6 +454,28 @@ private Q_SLOTS:
                  QStringList({u"a.jpg"_qs, u"b.jpg"_qs, u"c.jpg"_qs, u"d.jpg"_qs, u"e.jpg"_qs}));
     }
 
+    // A checked file waits for the rest of its group before its rename: what another program
+    // writes to the file meanwhile is kept, and the save says so.
+    void outsideWriteWhileWaitingForTheGroupIsKept()
+    {
+        const ExifFileInfoPtr file = load(u"staged/a.jpg"_qs, u"Ours"_qs);
+        const auto operation =
+            ExifRunnerSaveOperation::create(file, ExifOperationOption::ReReadFile);
+        QVERIFY(operation->runUntilFlush());
+        QVERIFY(Fixtures::runExifTool(
+                    {u"-overwrite_original"_qs, u"-IFD0:Artist=Theirs"_qs, file->fileName()})
+                    .ok());
+        operation->runAfterFlush();
+        QCOMPARE(readWithExifTool(file->fileName())[u"IFD0:Artist"_qs].toString(), u"Theirs"_qs);
+        QCOMPARE(RunListener::texts(operation->errors()),
+                 QStringList{u"3 a.jpg was changed by another program after it was read; reload "
+                             u"it to see its new values."_qs});
+        QVERIFY(isExifFileModified(*file)); // the edit stays for the user
+        QCOMPARE(QDir(QFileInfo(file->fileName()).path())
+                     .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+                 QStringList{u"a.jpg"_qs});
+    }
+
     // IIM keeps a text in a dataset of so many bytes and ExifTool cuts a longer one, which other
     // programs would then read: such a value is refused before anything is written.
     void iimTextOverItsLimitIsNotCut_data()
