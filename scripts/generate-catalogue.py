@@ -208,6 +208,7 @@ def describe_field(record, key, options, maker):
         "maker": options.get("maker", maker),
         "title": options.get("title", record["title"]).replace("_", " "),
         "values": values,
+        "forms": [k for k in options.get("forms", "").split(",") if k],
     }
 
 
@@ -242,7 +243,26 @@ def build_catalogue(tables, selection_path):
                 raise SelectionError(f"{where}: ExifTool has no tag {key} in {table}")
             seen.add(key)
             groups[-1][1][-1][1].append(describe_field(record, key, options, maker))
+    _check_forms(groups)
     return groups
+
+
+def _check_forms(groups):
+    """One row writes the same value to each form, so each must take it as the row has it."""
+    fields = {f["key"]: f for _, sections in groups for _, fs in sections for f in fs}
+    owner = {}
+    for key, field in fields.items():
+        for form in field["forms"]:
+            other = fields.get(form)
+            if other is None:
+                raise SelectionError(f"{key}: form {form} is not in the selection")
+            if form in owner or other["forms"]:
+                raise SelectionError(f"{key}: form {form} already belongs to a row")
+            if (other["representation"] == "strings") != (field["representation"] == "strings") \
+                    or other["representation"] not in (None, "strings") \
+                    or field["representation"] not in (None, "strings"):
+                raise SelectionError(f"{key}: form {form} holds its value differently")
+            owner[form] = key
 
 
 def render_fields(groups, version):
@@ -267,6 +287,8 @@ def render_fields(groups, version):
                     attributes.append(f"maker={quoteattr(field['maker'])}")
                 if field["maxbytes"]:
                     attributes.append(f'maxbytes="{field["maxbytes"]}"')
+                if field["forms"]:
+                    attributes.append(f"forms={quoteattr(' '.join(field['forms']))}")
                 head = "      <field " + " ".join(attributes)
                 if not field["values"]:
                     out.append(head + "/>")

@@ -109,6 +109,16 @@
     </message>
 </context>
 <context>
+    <name>FieldEditor</name>
+    <message numerus="yes">
+        <source>In %n of the selected files the copies of this field differ. In %1:</source>
+        <translation>
+            <numerusform>In %n of the selected files the copies of this field differ. In %1:</numerusform>
+            <numerusform>In %n of the selected files the copies of this field differ. In %1:</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>GeotagDialog</name>
     <message numerus="yes">
         <source>%n photo(s) recorded the camera's time zone (OffsetTimeOriginal); it is used for them.</source>

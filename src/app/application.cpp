@@ -6,6 +6,7 @@
 #include "windows/preferenceswindow.h"
 #include "catalogue/presetstore.h"
 #include "catalogue/exiffieldscontroller.h"
+#include "values/usersettings.h"
 #include "controls/aperturetheme.h"
 #include "engine/exiftoolversion.h"
 #include "values/debugmode.h"
@@ -82,6 +83,7 @@ void Application::applicationWillFinishLaunching(const QList<QByteArray> &argume
     m_labelBoldFont = ApertureTheme::labelFont(true);
 
     ExifFieldsController::defaultInstance()->initializeConfigurations();
+    ExifFieldsController::defaultInstance()->setLinksForms(!UserSettings::showsEveryTag());
     PresetStore::instance().initializeSettings();
 
     // Closing the main window ends the program even while the preferences window is open,

@@ -2,6 +2,7 @@
 
 #include "catalogue/preset.h"
 #include "catalogue/exiffieldscontroller.h"
+#include "values/usersettings.h"
 #include "catalogue/presetstore.h"
 #include "engine/exiftoolpath.h"
 #include "engine/exiftoolversion.h"
@@ -59,6 +60,7 @@ int printVersion()
 int applyPreset(const CommandLine &line)
 {
     ExifFieldsController::defaultInstance()->initializeConfigurations();
+    ExifFieldsController::defaultInstance()->setLinksForms(!UserSettings::showsEveryTag());
     PresetStore &store = PresetStore::instance();
     store.initializeSettings();
     PresetPtr preset;

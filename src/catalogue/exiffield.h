@@ -47,6 +47,18 @@ public:
     // The items of value (the value itself for a field that is not a list) longer than maxBytes.
     QStringList itemsOverByteLimit(const QString &value) const;
 
+    // The other tags that hold this field's property in other standards (the caption's
+    // IPTC-IIM and EXIF copies of XMP's description), as the catalogue lists them.
+    const QStringList &formKeys() const { return m_formKeys; }
+    void setFormKeys(QStringList keys) { m_formKeys = std::move(keys); }
+    // The same while one row shows the property and writes every copy; empty while each tag
+    // has its own row.
+    const QStringList &linkedKeys() const { return m_linkedKeys; }
+    void setLinkedKeys(QStringList keys) { m_linkedKeys = std::move(keys); }
+    // For a copy that another field's row shows and writes: that field's key; empty otherwise.
+    const QString &rowKey() const { return m_rowKey; }
+    void setRowKey(QString key) { m_rowKey = std::move(key); }
+
     // A new formatter for this field's numbers, in the user's locale.
     std::unique_ptr<NumberFormatter> createFormatter() const;
 
@@ -63,6 +75,9 @@ private:
     qint64 m_decimals = -1;
     QString m_maker;
     qint64 m_maxBytes = 0;
+    QStringList m_formKeys;
+    QStringList m_linkedKeys;
+    QString m_rowKey;
 };
 
 using ExifFieldPtr = std::shared_ptr<ExifField>;

@@ -125,6 +125,8 @@ void ExifFieldsConfigurationParser::startField(const QXmlStreamAttributes &attri
         field->setMaker(*maker);
     if (const auto bytes = attribute(attributes, QLatin1StringView("maxbytes")))
         field->setMaxBytes(leadingInteger(*bytes));
+    if (const auto forms = attribute(attributes, QLatin1StringView("forms")))
+        field->setFormKeys(forms->split(u' ', Qt::SkipEmptyParts));
 
     m_currentField = field;
     m_fields.append(field);

@@ -31,4 +31,21 @@ void ExifFieldsController::take(const ExifFieldsConfigurationParser &parser)
     for (const ExifFieldPtr &field : std::as_const(m_configurations))
         map.insert(field->xmlName(), field);
     m_configurationsMap = map;
+    setLinksForms(m_linksForms);
+}
+
+void ExifFieldsController::setLinksForms(bool on)
+{
+    m_linksForms = on;
+    for (const ExifFieldPtr &field : std::as_const(m_configurations)) {
+        QStringList linked;
+        for (const QString &key : field->formKeys()) {
+            // A copy missing from the catalogue has no row to hide and no type to check.
+            if (const ExifFieldPtr form = m_configurationsMap.value(key)) {
+                form->setRowKey(on ? field->xmlName() : QString());
+                linked.append(key);
+            }
+        }
+        field->setLinkedKeys(on ? linked : QStringList());
+    }
 }

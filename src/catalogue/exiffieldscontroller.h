@@ -27,10 +27,16 @@ public:
     // The field of a tag key, or null.
     ExifFieldPtr field(const QString &xmlName) const { return m_configurationsMap.value(xmlName); }
 
+    // On (as loaded): a property kept in several standards is one row that writes all its
+    // copies. Off: every tag is a row of its own, for users who want to see each copy.
+    void setLinksForms(bool on);
+    bool linksForms() const { return m_linksForms; }
+
 private:
     void take(const ExifFieldsConfigurationParser &parser);
 
     QList<GroupPtr> m_groups;
     QList<ExifFieldPtr> m_configurations;
     QHash<QString, ExifFieldPtr> m_configurationsMap;
+    bool m_linksForms = true;
 };

@@ -98,6 +98,8 @@ double ConfigurationViewController::calculateMaxLabelWidth(const QList<GroupPtr>
     for (const GroupPtr &group : groups) {
         for (const SectionPtr &section : group->sections()) {
             for (const ExifFieldPtr &field : section->fields()) {
+                if (!field->rowKey().isEmpty())
+                    continue;
                 width = std::max(width, metrics.horizontalAdvance(field->title() + u':'));
                 any = true;
             }
@@ -149,6 +151,9 @@ void ConfigurationViewController::createUserInterface()
                 });
             }
             for (const ExifFieldPtr &field : section->fields()) {
+                // A copy of a property that another row shows and writes.
+                if (!field->rowKey().isEmpty())
+                    continue;
                 const qsizetype first = allEditors.size();
                 top = createFieldEditor(field, allEditors, top);
                 sectionEditor->editors().append(allEditors.mid(first));

@@ -1,5 +1,6 @@
 #include "editors/fieldeditor.h"
 
+#include "catalogue/exiffieldscontroller.h"
 #include "catalogue/preset.h"
 #include "catalogue/stringtables.h"
 #include "controls/aperturetheme.h"
@@ -9,8 +10,12 @@
 
 #include <QCheckBox>
 #include <QEvent>
+#include <QFileInfo>
 #include <QLabel>
+#include <QMenu>
 #include <QMouseEvent>
+#include <QStyle>
+#include <QToolButton>
 #include <QWidget>
 
 #include <algorithm>
@@ -137,6 +142,8 @@ FieldEditor::FieldEditor(ExifFieldPtr field, QObject *parent)
     : QObject(parent)
     , m_field(std::move(field))
 {
+    if (m_field)
+        m_forms = LinkedForms(*m_field);
 }
 
 FieldEditor::~FieldEditor()
@@ -174,6 +181,16 @@ void FieldEditor::setRemoveButtonChecked(bool on)
 void FieldEditor::visitValues(const QList<ExifFileInfoPtr> &files, bool withOriginal,
                               const ValueVisitor &visit) const
 {
+    if (m_forms.isLinked()) {
+        const ExifFilesSnapshot *snapshot = ExifFilesSnapshot::forFiles(files);
+        for (qsizetype i = 0; i < files.size(); ++i) {
+            const EditedValues values = snapshot ? snapshot->current(i) : files.at(i)->editedValues();
+            const QString original = withOriginal ? m_forms.valueIn(values.original()) : QString();
+            if (!visit(files.at(i), m_forms.valueIn(values), original))
+                return;
+        }
+        return;
+    }
     const QString &key = m_field->xmlName();
     if (const ExifFilesSnapshot *snapshot = ExifFilesSnapshot::forFiles(files)) {
         for (qsizetype i = 0; i < files.size(); ++i) {
@@ -193,6 +210,17 @@ void FieldEditor::visitValues(const QList<ExifFileInfoPtr> &files, bool withOrig
 void FieldEditor::visitChangedValues(const QList<ExifFileInfoPtr> &files,
                                      const ValueVisitor &visit) const
 {
+    if (m_forms.isLinked()) {
+        // A file counts as changed when any copy changed, even one the row does not show.
+        const ExifFilesSnapshot *snapshot = ExifFilesSnapshot::forFiles(files);
+        for (qsizetype i = 0; i < files.size(); ++i) {
+            const EditedValues values = snapshot ? snapshot->current(i) : files.at(i)->editedValues();
+            if (m_forms.isChanged(values) &&
+                !visit(files.at(i), m_forms.valueIn(values), m_forms.valueIn(values.original())))
+                return;
+        }
+        return;
+    }
     const QString &key = m_field->xmlName();
     const ExifFilesSnapshot *snapshot = ExifFilesSnapshot::forFiles(files);
     if (const ExifFilesSnapshot::Column *column = snapshot ? snapshot->column(key) : nullptr) {
@@ -214,7 +242,8 @@ void FieldEditor::visitChangedValues(const QList<ExifFileInfoPtr> &files,
 
 QSet<QString> FieldEditor::gatherExifFilesValues(const QList<ExifFileInfoPtr> &files) const
 {
-    if (const ExifFilesSnapshot *snapshot = ExifFilesSnapshot::forFiles(files)) {
+    if (const ExifFilesSnapshot *snapshot =
+            m_forms.isLinked() ? nullptr : ExifFilesSnapshot::forFiles(files)) {
         if (const ExifFilesSnapshot::Column *column = snapshot->column(m_field->xmlName()))
             return column->values;
     }
@@ -243,6 +272,15 @@ bool FieldEditor::isModified() const
     // The same rule as the file list's mark, the review and the save.
     const FieldDataRepresentation representation = m_field->dataRepresentation();
     bool modified = false;
+    if (m_forms.isLinked()) {
+        // Only files with a changed copy are visited: a copy set to what the row already
+        // showed is a change all the same.
+        visitChangedValues(m_exifFiles, [&modified](auto &, auto &, auto &) {
+            modified = true;
+            return false;
+        });
+        return modified;
+    }
     visitChangedValues(
         m_exifFiles, [&](const ExifFileInfoPtr &, const QString &current, const QString &original) {
             modified = isValueModified(current, original, representation);
@@ -283,6 +321,7 @@ void FieldEditor::placeRemovalHint()
 void FieldEditor::updateModifiedLabel()
 {
     updateRemovalHint();
+    updateCopiesMark();
     if (!m_boldFontOnChange || !m_label)
         return;
     const bool bold = isModified();
@@ -328,6 +367,17 @@ int FieldEditor::createEditor(QWidget *parent, int top)
         placeRemovalHint();
         connect(m_removeButton, &QCheckBox::toggled, this, &FieldEditor::updateRemovalHint);
     }
+    if (m_forms.isLinked()) {
+        m_copiesMark = new QToolButton(parent);
+        m_copiesMark->setObjectName(u"copiesMark"_qs);
+        m_copiesMark->setAutoRaise(true);
+        m_copiesMark->setFocusPolicy(Qt::NoFocus);
+        m_copiesMark->setIcon(parent->style()->standardIcon(QStyle::SP_MessageBoxWarning));
+        m_copiesMark->setIconSize(QSize(14, 14));
+        m_copiesMark->setAccessibleName(tr("The copies of this field differ"));
+        m_copiesMark->hide();
+        connect(m_copiesMark, &QToolButton::clicked, this, &FieldEditor::showCopiesMenu);
+    }
     parent->installEventFilter(this);
     return top + std::max({MinimumRowHeight, labelHeight, contentHeight});
 }
@@ -358,6 +408,7 @@ int FieldEditor::showEditor(int top)
     }
     placeRemovalHint();
     updateRemovalHint();
+    updateCopiesMark();
     if (m_content) {
         m_content->move(m_content->x(), top + m_contentOffset);
         m_content->show();
@@ -373,6 +424,8 @@ int FieldEditor::hideEditor(int top)
         m_removeButton->hide();
     if (m_removalHint)
         m_removalHint->hide();
+    if (m_copiesMark)
+        m_copiesMark->hide();
     if (m_content)
         m_content->hide();
     return top;
@@ -407,6 +460,10 @@ bool FieldEditor::copyToExifFiles(const QList<ExifFileInfoPtr> &files)
     bool changed = false;
     for (const ExifFileInfoPtr &file : files) {
         updateExifFileValue(file);
+        if (m_forms.isLinked()) {
+            changed = changed || m_forms.isChanged(file->editedValues());
+            continue;
+        }
         const QString current = file->exifValue(key);
         const QString original = file->originalExifData().value(key);
         if (current.isNull() != original.isNull() || current != original)
@@ -509,12 +566,156 @@ bool FieldEditor::isFieldEnabledForFiles(const QList<ExifFileInfoPtr> &files) co
 
 void FieldEditor::restoreOriginalValue(const ExifFileInfoPtr &file) const
 {
-    const QString &key = m_field->xmlName();
-    const QString original = file->originalExifData().value(key);
-    if (original.isNull())
-        file->removeExifValue(key);
-    else
-        file->setExifValue(key, original);
+    m_forms.restoreOriginal(*file);
+}
+
+QString FieldEditor::currentValue(const ExifFileInfo &file) const
+{
+    return m_forms.isLinked() ? m_forms.valueIn(file.editedValues())
+                              : file.exifValue(m_field->xmlName());
+}
+
+void FieldEditor::storeValue(ExifFileInfo &file, const QString &value) const
+{
+    m_forms.set(file, value);
+}
+
+void FieldEditor::removeValue(ExifFileInfo &file) const
+{
+    m_forms.remove(file);
+}
+
+QString FieldEditor::presetKey(const Preset &configuration) const
+{
+    for (const QString &key : m_forms.keys()) {
+        if (configuration.changedValues().contains(key) ||
+            configuration.removedValues().contains(key))
+            return key;
+    }
+    return m_field->xmlName();
+}
+
+void FieldEditor::forgetCopies(Preset &configuration) const
+{
+    for (const QString &key : m_forms.keys()) {
+        configuration.changedValues().remove(key);
+        configuration.removedValues().remove(key);
+    }
+}
+
+qint64 FieldEditor::byteLimit() const
+{
+    const ExifFieldsController *catalogue = ExifFieldsController::defaultInstance();
+    qint64 limit = 0;
+    for (const QString &key : m_forms.keys()) {
+        const ExifFieldPtr field = key == m_field->xmlName() ? m_field : catalogue->field(key);
+        if (field && field->maxBytes() > 0 && (limit == 0 || field->maxBytes() < limit))
+            limit = field->maxBytes();
+    }
+    return limit;
+}
+
+QToolButton *FieldEditor::copiesMark() const
+{
+    return m_copiesMark;
+}
+
+void FieldEditor::placeCopiesMark()
+{
+    if (!m_copiesMark || !m_label)
+        return;
+    // Just left of the label's text, which is aligned to the right of its column.
+    const int textWidth = m_label->fontMetrics().horizontalAdvance(m_label->text());
+    const int x = std::max(0, m_label->x() + m_label->width() - textWidth - 20);
+    m_copiesMark->setGeometry(x, m_top + 3, 18, 18);
+}
+
+void FieldEditor::updateCopiesMark()
+{
+    if (!m_copiesMark)
+        return;
+    QStringList lines;
+    int differing = 0;
+    QString firstName;
+    const ExifFilesSnapshot *snapshot = ExifFilesSnapshot::forFiles(m_exifFiles);
+    for (qsizetype i = 0; i < m_exifFiles.size(); ++i) {
+        const ExifFileInfoPtr &file = m_exifFiles.at(i);
+        const QList<LinkedForms::Copy> copies =
+            m_forms.differingCopies(snapshot ? snapshot->current(i) : file->editedValues());
+        if (copies.isEmpty())
+            continue;
+        if (++differing > 1)
+            continue;
+        firstName = QFileInfo(file->fileName()).fileName();
+        for (const LinkedForms::Copy &copy : copies) {
+            lines.append(tr("%1 (%2): \u201c%3\u201d")
+                             .arg(LinkedForms::standardOfKey(copy.key), copy.key, copy.value));
+        }
+    }
+    const bool shown = differing > 0 && m_label && !m_label->isHidden();
+    m_copiesMark->setVisible(shown);
+    if (!shown)
+        return;
+    const QString head =
+        m_exifFiles.size() == 1
+            ? tr("The copies of this field in the file's standards differ:")
+            : tr("In %n of the selected files the copies of this field differ. In %1:", nullptr,
+                 differing)
+                  .arg(firstName);
+    m_copiesMark->setToolTip(head + u'\n' + lines.join(u'\n') + u'\n' +
+                             tr("Click to choose one value for every copy."));
+    placeCopiesMark();
+    m_copiesMark->raise();
+}
+
+void FieldEditor::showCopiesMenu()
+{
+    if (!m_copiesMark)
+        return;
+    // The copies present in any file that differs, in the row's order.
+    QStringList keys;
+    QHash<QString, QString> valueOfKey;
+    for (const ExifFileInfoPtr &file : std::as_const(m_exifFiles)) {
+        for (const LinkedForms::Copy &copy : m_forms.differingCopies(file->editedValues())) {
+            if (!valueOfKey.contains(copy.key))
+                valueOfKey.insert(copy.key, copy.value);
+        }
+    }
+    for (const QString &key : m_forms.keys()) {
+        if (valueOfKey.contains(key))
+            keys.append(key);
+    }
+    QMenu menu(m_copiesMark);
+    const QFontMetrics metrics(menu.font());
+    for (const QString &key : std::as_const(keys)) {
+        const QString standard = LinkedForms::standardOfKey(key);
+        const QString text =
+            m_exifFiles.size() == 1
+                ? tr("Use \u201c%1\u201d from %2 (%3) for every copy")
+                      .arg(metrics.elidedText(valueOfKey.value(key), Qt::ElideRight, 300),
+                           standard, key)
+                : tr("Use each file's %1 value (%2) for every copy").arg(standard, key);
+        menu.addAction(text, this, [this, key] { useCopyEverywhere(key); });
+    }
+    menu.exec(m_copiesMark->mapToGlobal(QPoint(0, m_copiesMark->height())));
+}
+
+void FieldEditor::useCopyEverywhere(const QString &key)
+{
+    bool any = false;
+    for (const ExifFileInfoPtr &file : std::as_const(m_exifFiles)) {
+        const EditedValues values = file->editedValues();
+        if (m_forms.differingCopies(values).isEmpty())
+            continue;
+        const QString chosen = values.value(key);
+        m_forms.set(*file, chosen.isNull() ? m_forms.valueIn(values) : chosen);
+        any = true;
+    }
+    if (!any)
+        return;
+    const QString shown = currentValue(*m_exifFiles.constFirst());
+    sendChangeNotification(shown.isEmpty() ? std::nullopt : std::optional<QString>(shown));
+    setExifFiles(QList<ExifFileInfoPtr>(m_exifFiles));
 }
 
 QString FieldEditor::multipleValuesText()

@@ -2,6 +2,7 @@
 
 #include "catalogue/exiffield.h"
 #include "engine/exiffileinfo.h"
+#include "engine/linkedforms.h"
 
 #include <QHash>
 #include <QList>
@@ -20,6 +21,7 @@ class EditSession;
 class Preset;
 struct ExifFilesUpdate;
 class QCheckBox;
+class QToolButton;
 class QLabel;
 class QWidget;
 
@@ -127,6 +129,15 @@ public:
     void setEditSession(EditSession *session);
     EditSession *editSession() const;
 
+    // The tags the row shows and writes: its field's alone, or every copy of its property.
+    const LinkedForms &forms() const { return m_forms; }
+    // Shown beside the label while a selected file's copies of the property disagree; null for
+    // a row without copies.
+    QToolButton *copiesMark() const;
+    // Gives every copy of the property, in each file whose copies disagree, the value of the
+    // copy in key; a file without that copy keeps the value the row shows for it.
+    void useCopyEverywhere(const QString &key);
+
     // Posts "ExifFilesUpdate" for the editor's files; nothing without files.
     void sendChangeNotification(const std::optional<QString> &newValue, const QString &xmlName);
     void sendChangeNotification(const std::optional<QString> &newValue);
@@ -155,6 +166,17 @@ protected:
     bool isFieldEnabledForFiles(const QList<ExifFileInfoPtr> &files) const;
     // Puts the file's original value back (or removes the tag): a preset row that is off.
     void restoreOriginalValue(const ExifFileInfoPtr &file) const;
+    // The row's value in a file, and the writes of one: every copy of the property at once.
+    QString currentValue(const ExifFileInfo &file) const;
+    void storeValue(ExifFileInfo &file, const QString &value) const;
+    void removeValue(ExifFileInfo &file) const;
+    // The key under which a preset holds the row's value: the row's own tag, else the first
+    // copy it has (a preset made while each tag had its row); the row's own tag without any.
+    QString presetKey(const Preset &configuration) const;
+    // Drops every copy of the row's property from a preset: the row was unticked.
+    void forgetCopies(Preset &configuration) const;
+    // The fewest bytes IPTC-IIM keeps of any copy the row writes; 0 without a limit.
+    qint64 byteLimit() const;
     void setRemoveButtonChecked(bool on);
     // Calls visit(file, current, original) for each file with the field's values (null when
     // absent); original stays null unless asked for.
@@ -173,6 +195,9 @@ protected:
 private:
     void layoutToParentWidth(int width);
     void placeRemovalHint();
+    void updateCopiesMark();
+    void placeCopiesMark();
+    void showCopiesMenu();
 
     QPointer<QLabel> m_label;
     bool m_boldFontOnChange = false;
@@ -180,6 +205,8 @@ private:
     QPointer<QCheckBox> m_removeButton;
     QPointer<QLabel> m_removalHint;
     ExifFieldPtr m_field;
+    LinkedForms m_forms;
+    QPointer<QToolButton> m_copiesMark;
     int m_top = 0;
     double m_maxLabelWidth = 0;
     QList<ExifFileInfoPtr> m_exifFiles;

@@ -12,11 +12,15 @@ QLabel *addRightEdgeNote(QLineEdit *editor)
     font.setItalic(true);
     note->setFont(font);
     note->setAlignment(Qt::AlignVCenter | Qt::AlignRight);
-    auto *layout = new QHBoxLayout(editor);
-    layout->setContentsMargins(0, 0, 6, 0);
-    layout->setSpacing(0);
-    layout->addStretch();
-    layout->addWidget(note);
+    // A second note (bytes left beside the other languages) goes left of the first.
+    auto *layout = qobject_cast<QHBoxLayout *>(editor->layout());
+    if (!layout) {
+        layout = new QHBoxLayout(editor);
+        layout->setContentsMargins(0, 0, 6, 0);
+        layout->setSpacing(8);
+        layout->addStretch();
+    }
+    layout->insertWidget(1, note);
     note->hide();
     return note;
 }

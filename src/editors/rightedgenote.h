@@ -5,7 +5,8 @@
 class QLabel;
 class QLineEdit;
 
-// A note inside a line edit's right edge, in the edit's font made italic; hidden at first.
+// A note inside a line edit's right edge, in the edit's font made italic; hidden at first. A
+// later note sits left of the earlier ones.
 QLabel *addRightEdgeNote(QLineEdit *editor);
 
 // For a text IPTC-IIM keeps in a dataset of limit bytes, which ExifTool would cut: shows how many

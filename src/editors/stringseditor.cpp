@@ -53,12 +53,12 @@ int StringsEditor::createEditorContent(QWidget *parent, QRect frame)
     m_editor->setContextMenuPolicy(Qt::ActionsContextMenu);
     m_editor->addAction(m_replaceAction);
     m_editor->lineEdit()->installEventFilter(this);
-    if (field()->maxBytes() > 0) {
+    if (byteLimit() > 0) {
         // Each item has its own dataset in IPTC-IIM: the one being typed counts its bytes.
         m_bytesLeft = addRightEdgeNote(m_editor->lineEdit());
         // Changed, not edited: a committed item leaves the input by a clear.
         connect(m_editor->lineEdit(), &QLineEdit::textChanged, this, [this](const QString &text) {
-            showBytesLeft(m_bytesLeft, field()->maxBytes(), text.trimmed(), true);
+            showBytesLeft(m_bytesLeft, byteLimit(), text.trimmed(), true);
         });
     }
     if (QLabel *rowLabel = label()) {
@@ -123,6 +123,7 @@ void StringsEditor::setAddsToEachFile(bool on)
 {
     m_addsToEachFile = on;
     m_ownLists.clear();
+    m_ownCopies.clear();
     m_replaceAction->setEnabled(on);
     if (m_editor) {
         // "new, Multiple values": the typed items join what each file has.
@@ -138,9 +139,10 @@ void StringsEditor::controlTextDidChange()
 {
     // Taken at the first typed item rather than with the selection, which must stay cheap.
     if (m_addsToEachFile && !m_textChanged) {
-        const QString &key = field()->xmlName();
-        for (const ExifFileInfoPtr &file : exifFiles())
-            m_ownLists.insert(file.get(), file->exifValue(key));
+        for (const ExifFileInfoPtr &file : exifFiles()) {
+            m_ownLists.insert(file.get(), currentValue(*file));
+            m_ownCopies.insert(file.get(), forms().copiesIn(file->editedValues()));
+        }
     }
     m_textChanged = true;
     // Checked first: an unchecked row would put the originals back instead of the typed list.
@@ -174,19 +176,23 @@ void StringsEditor::updateExifFileValue(const ExifFileInfoPtr &file)
     // Untouched, a multiple-values row shows no tokens: writing that would wipe every file.
     if (!m_textChanged || !m_editor)
         return;
-    const QString &key = field()->xmlName();
     QString text;
     if (m_addsToEachFile) {
         const auto own = m_ownLists.constFind(file.get());
-        text = withStringsItemsAdded(own != m_ownLists.cend() ? *own : file->exifValue(key),
-                                     m_editor->tokens());
+        const QString list = own != m_ownLists.cend() ? *own : currentValue(*file);
+        text = withStringsItemsAdded(list, m_editor->tokens());
+        // A file that has every typed item keeps what it had, down to its copies.
+        if (text == list && m_ownCopies.contains(file.get())) {
+            forms().setCopies(*file, m_ownCopies.value(file.get()));
+            return;
+        }
     } else {
         text = m_editor->text().trimmed();
     }
     if (text.isNull() || (!m_addsToEachFile && text.isEmpty()))
-        file->removeExifValue(key);
+        removeValue(*file);
     else
-        file->setExifValue(key, text);
+        storeValue(*file, text);
 }
 
 bool StringsEditor::eventFilter(QObject *watched, QEvent *event)
@@ -212,7 +218,7 @@ void StringsEditor::setExifConfiguration(const Preset *configuration)
     m_textChanged = false;
     setAddsToEachFile(false);
     m_editor->setPlaceholderText(QString());
-    const QString &key = field()->xmlName();
+    const QString key = configuration ? presetKey(*configuration) : field()->xmlName();
     if (configuration->removedValues().contains(key)) {
         setRemoveButtonChecked(true);
         m_editor->clear();
@@ -226,11 +232,10 @@ void StringsEditor::setExifConfiguration(const Preset *configuration)
 
 bool StringsEditor::copyToConfiguration(Preset &configuration)
 {
-    const QString &key = field()->xmlName();
+    const QString key = presetKey(configuration);
     const QString text = m_editor ? m_editor->text().trimmed() : QString();
     if (!isRemoveButtonChecked()) {
-        configuration.changedValues().remove(key);
-        configuration.removedValues().remove(key);
+        forgetCopies(configuration);
     } else if (!text.isEmpty()) {
         configuration.changedValues().insert(key, text);
         configuration.removedValues().remove(key);

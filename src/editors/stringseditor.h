@@ -54,4 +54,7 @@ private:
     bool m_addsToEachFile = false;
     // Each file's list as it was before the first typed item; what the items are added to.
     QHash<const ExifFileInfo *, QString> m_ownLists;
+    // Each file's copies of the property when typing began: a file whose list already holds
+    // the typed items gets them back, whatever the earlier keystrokes wrote.
+    QHash<const ExifFileInfo *, QStringList> m_ownCopies;
 };

@@ -65,7 +65,7 @@ QLabel *TextEditor::bytesLeftLabel() const
 void TextEditor::updateBytesLeft(bool typing)
 {
     if (m_bytesLeft)
-        showBytesLeft(m_bytesLeft, field()->maxBytes(), m_editor->text(), typing);
+        showBytesLeft(m_bytesLeft, byteLimit(), m_editor->text(), typing);
 }
 
 AttachedWindow *TextEditor::errorMessageWindow() const
@@ -103,9 +103,9 @@ int TextEditor::createEditorContent(QWidget *parent, QRect frame)
         m_otherLanguages = addRightEdgeNote(m_editor);
         // In the field's own text colour, so it reads as well as the value beside it.
         m_otherLanguages->setForegroundRole(QPalette::Text);
-    } else if (field()->maxBytes() > 0) {
-        m_bytesLeft = addRightEdgeNote(m_editor);
     }
+    if (byteLimit() > 0)
+        m_bytesLeft = addRightEdgeNote(m_editor);
     setContentControl(m_editor);
     m_editor->show();
     stretchWithRow(m_editor);
@@ -224,7 +224,7 @@ void TextEditor::updateExifFileValue(const ExifFileInfoPtr &file)
     const QString &key = field()->xmlName();
     const QString value = currentText();
     if (value.isEmpty()) {
-        file->removeExifValue(key);
+        removeValue(*file);
         showErrorPopup(QString());
         return;
     }
@@ -245,7 +245,7 @@ void TextEditor::updateExifFileValue(const ExifFileInfoPtr &file)
             file->setExifValue(key, value);
         break;
     default:
-        file->setExifValue(key, value);
+        storeValue(*file, value);
     }
 }
 
@@ -276,8 +276,9 @@ bool TextEditor::copyToExifFiles(const QList<ExifFileInfoPtr> &files)
 {
     if (!m_textChanged) {
         const QString &key = field()->xmlName();
-        return std::any_of(files.cbegin(), files.cend(), [&key](const ExifFileInfoPtr &file) {
-            return file->exifValue(key) != file->originalExifData().value(key);
+        return std::any_of(files.cbegin(), files.cend(), [&](const ExifFileInfoPtr &file) {
+            return forms().isLinked() ? forms().isChanged(file->editedValues())
+                                      : file->exifValue(key) != file->originalExifData().value(key);
         });
     }
     m_pendingReference.clear();
@@ -290,8 +291,7 @@ bool TextEditor::copyToExifFiles(const QList<ExifFileInfoPtr> &files)
     if (!m_pendingReference.isEmpty())
         sendChangeNotification(m_pendingReference, referenceKey());
     // What was stored, not what was typed: "-33.8688" is stored as 33.8688 with its "S".
-    const QString stored =
-        files.isEmpty() ? QString() : files.constFirst()->exifValue(field()->xmlName());
+    const QString stored = files.isEmpty() ? QString() : currentValue(*files.constFirst());
     sendChangeNotification(stored.isEmpty() ? std::nullopt : std::optional<QString>(stored));
     return changed;
 }
@@ -353,7 +353,7 @@ void TextEditor::setExifConfiguration(const Preset *configuration)
     if (m_editor)
         m_editor->setReadOnly(false);
     m_textChanged = false;
-    const QString &key = field()->xmlName();
+    const QString key = configuration ? presetKey(*configuration) : field()->xmlName();
     if (!configuration) {
         clearEditor();
         return;
@@ -374,11 +374,10 @@ void TextEditor::setExifConfiguration(const Preset *configuration)
 
 bool TextEditor::copyToConfiguration(Preset &configuration)
 {
-    const QString &key = field()->xmlName();
+    const QString key = presetKey(configuration);
     const Qt::CheckState state = removeButtonState();
     if (state == Qt::Unchecked) {
-        configuration.changedValues().remove(key);
-        configuration.removedValues().remove(key);
+        forgetCopies(configuration);
         return true;
     }
     if (state != Qt::Checked)

@@ -6,9 +6,12 @@
 #include "engine/metadatareader.h"
 #include "engine/exifutil.h"
 #include "engine/fileadmission.h"
+#include "engine/linkedforms.h"
 #include "values/trcontext.h"
 
 #include <QEventLoop>
+
+#include <algorithm>
 
 namespace {
 
@@ -28,10 +31,31 @@ QStringList messagesOfType(const ErrorMessages &messages, qint32 type)
 
 void applyPreset(const Preset &preset, ExifFileInfo &file)
 {
-    for (auto it = preset.changedValues().cbegin(); it != preset.changedValues().cend(); ++it)
-        file.setExifValue(it.key(), it.value());
-    for (const QString &key : preset.removedValues())
-        file.removeExifValue(key);
+    const auto &changed = preset.changedValues();
+    // A value for one copy of a property that the form shows as one row goes to every copy,
+    // as the row's edit would. Of several copies in the preset, the row's own tag (else the
+    // first in the row's order) gives the value, whatever order the preset keeps.
+    const auto givesValue = [&changed](const QString &key, const LinkedForms &forms) {
+        for (const QString &form : forms.keys()) {
+            if (changed.contains(form))
+                return form == key;
+        }
+        return false;
+    };
+    for (auto it = changed.cbegin(); it != changed.cend(); ++it) {
+        const LinkedForms forms = LinkedForms::ofKey(it.key());
+        if (!forms.isLinked())
+            file.setExifValue(it.key(), it.value());
+        else if (givesValue(it.key(), forms))
+            forms.set(file, it.value());
+    }
+    for (const QString &key : preset.removedValues()) {
+        const LinkedForms forms = LinkedForms::ofKey(key);
+        const bool valueGiven = std::any_of(forms.keys().cbegin(), forms.keys().cend(),
+                                            [&changed](const QString &k) { return changed.contains(k); });
+        if (!valueGiven)
+            forms.remove(file);
+    }
 }
 
 QList<PresetBatch::FileResult> PresetBatch::run(const Preset &preset, const QStringList &paths)

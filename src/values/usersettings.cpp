@@ -75,7 +75,7 @@ QVariant UserSettings::defaultValue(const QString &key)
     if (key == GpsFormat || key == FileModifyDate || key == FileCreateDate)
         return 0;
     if (key == ForceFixBase || key == IgnoreMinorErrors || key == WriteXmpSidecars ||
-        key == WriteReadOnlyFiles || key == PasteEverything)
+        key == WriteReadOnlyFiles || key == PasteEverything || key == ShowEveryTag)
         return false;
     return {};
 }
@@ -178,4 +178,9 @@ bool UserSettings::writesXmpSidecars()
 bool UserSettings::writesReadOnlyFiles()
 {
     return value(WriteReadOnlyFiles).toBool();
+}
+
+bool UserSettings::showsEveryTag()
+{
+    return value(ShowEveryTag).toBool();
 }

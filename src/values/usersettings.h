@@ -24,6 +24,10 @@ public:
     // "Write files that are read-only": a file without its owner's write permission, or
     // owned by another user, is saved all the same. Off by default.
     static inline const QString WriteReadOnlyFiles = QStringLiteral("WRITE_READ_ONLY_FILES");
+    // "Show every tag as a row of its own": the caption's XMP, IPTC and EXIF copies (and those
+    // of the other properties kept in several standards) get a row each, and an edit writes
+    // only its row's tag. Off by default: one row shows and writes every copy.
+    static inline const QString ShowEveryTag = QStringLiteral("SHOW_EVERY_TAG_AS_ROW");
     // The last choice of the paste dialog.
     static inline const QString PasteEverything = QStringLiteral("PASTE_METADATA_EVERYTHING");
     static inline const QString PasteSections = QStringLiteral("PASTE_METADATA_SECTIONS");
@@ -60,6 +64,7 @@ public:
     static bool verifiesImageData(const QString &path);
     static bool writesXmpSidecars();
     static bool writesReadOnlyFiles();
+    static bool showsEveryTag();
 
 private:
     static int intValue(const QString &key);

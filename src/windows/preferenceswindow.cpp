@@ -30,6 +30,15 @@ PreferencesWindow::PreferencesWindow(const QString &exifToolProgram, QWidget *pa
                                   {{0, localized(QStringLiteral("Degrees, minutes and seconds"))},
                                    {1, localized(QStringLiteral("Degrees and decimal minutes"))},
                                    {2, localized(QStringLiteral("Decimal degrees"))}}));
+    QCheckBox *everyTag = addFlag(
+        UserSettings::ShowEveryTag,
+        localized(QStringLiteral("Show every tag as a row of its own (takes effect at the next "
+                                 "start)")));
+    everyTag->setToolTip(localized(QStringLiteral(
+        "Caption, keywords, creator, copyright and the other fields that XMP, IPTC and EXIF "
+        "each keep are one row by default, and an edit writes every copy. Ticked, each copy "
+        "has its own row and an edit changes only that tag.")));
+    displayForm->addRow(everyTag);
     layout->addWidget(display);
 
     auto *saving = new QGroupBox(localized(QStringLiteral("Saving")), this);

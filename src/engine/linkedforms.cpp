@@ -1,0 +1,153 @@
+#include "engine/linkedforms.h"
+
+#include "catalogue/exiffield.h"
+#include "catalogue/exiffieldscontroller.h"
+#include "engine/exiffileinfo.h"
+#include "engine/exifutil.h"
+#include "values/taglist.h"
+
+LinkedForms::LinkedForms(const ExifField &field)
+    : m_keys(QStringList{field.xmlName()} + field.linkedKeys())
+    , m_representation(field.dataRepresentation())
+{
+}
+
+LinkedForms LinkedForms::ofKey(const QString &key)
+{
+    const ExifFieldsController *catalogue = ExifFieldsController::defaultInstance();
+    ExifFieldPtr field = catalogue->field(key);
+    if (field && !field->rowKey().isEmpty())
+        field = catalogue->field(field->rowKey());
+    if (field)
+        return LinkedForms(*field);
+    LinkedForms alone;
+    alone.m_keys = {key};
+    return alone;
+}
+
+template <typename Lookup>
+QString LinkedForms::firstValue(const Lookup &lookup) const
+{
+    QString own;
+    for (const QString &key : m_keys) {
+        QString value = lookup(key);
+        if (!value.isEmpty())
+            return value;
+        if (own.isNull())
+            own = value;
+    }
+    return own;
+}
+
+QString LinkedForms::valueIn(const EditedValues &values) const
+{
+    return firstValue([&values](const QString &key) { return values.value(key); });
+}
+
+QString LinkedForms::valueIn(const TagDictionary &values) const
+{
+    return firstValue([&values](const QString &key) { return values.value(key); });
+}
+
+bool LinkedForms::isChanged(const EditedValues &values) const
+{
+    if (!values.isEdited())
+        return false;
+    const TagDictionary &original = values.original();
+    for (const QString &key : m_keys) {
+        if ((values.changed().contains(key) || values.removed().contains(key)) &&
+            isValueModified(values.value(key), original.value(key), m_representation)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+QString LinkedForms::comparable(const QString &value) const
+{
+    if (m_representation == FieldDataRepresentation::Strings) {
+        QStringList items = splitStringsValue(value).values();
+        items.sort();
+        return items.join(u'\n');
+    }
+    // EXIF and IPTC readers drop trailing blanks that XMP keeps.
+    qsizetype end = value.size();
+    while (end > 0 && value.at(end - 1).isSpace())
+        --end;
+    return value.left(end);
+}
+
+QList<LinkedForms::Copy> LinkedForms::differingCopies(const EditedValues &values) const
+{
+    if (!isLinked())
+        return {};
+    QList<Copy> copies;
+    bool identical = true;
+    for (const QString &key : m_keys) {
+        QString value = values.value(key);
+        if (value.isNull())
+            continue;
+        identical = identical && (copies.isEmpty() || copies.constFirst().value == value);
+        copies.append({key, std::move(value)});
+    }
+    // The common case, checked first: the form asks this of every file on each selection.
+    if (identical)
+        return {};
+    const QString first = comparable(copies.constFirst().value);
+    for (qsizetype i = 1; i < copies.size(); ++i) {
+        if (comparable(copies.at(i).value) != first)
+            return copies;
+    }
+    return {};
+}
+
+QStringList LinkedForms::copiesIn(const EditedValues &values) const
+{
+    QStringList copies;
+    for (const QString &key : m_keys)
+        copies.append(values.value(key));
+    return copies;
+}
+
+void LinkedForms::setCopies(ExifFileInfo &file, const QStringList &copies) const
+{
+    for (qsizetype i = 0; i < m_keys.size() && i < copies.size(); ++i) {
+        if (copies.at(i).isNull())
+            file.removeExifValue(m_keys.at(i));
+        else
+            file.setExifValue(m_keys.at(i), copies.at(i));
+    }
+}
+
+void LinkedForms::set(ExifFileInfo &file, const QString &value) const
+{
+    for (const QString &key : m_keys)
+        file.setExifValue(key, value);
+}
+
+void LinkedForms::remove(ExifFileInfo &file) const
+{
+    for (const QString &key : m_keys)
+        file.removeExifValue(key);
+}
+
+void LinkedForms::restoreOriginal(ExifFileInfo &file) const
+{
+    const TagDictionary original = file.originalExifData();
+    for (const QString &key : m_keys) {
+        const QString value = original.value(key);
+        if (value.isNull())
+            file.removeExifValue(key);
+        else
+            file.setExifValue(key, value);
+    }
+}
+
+QString LinkedForms::standardOfKey(const QString &key)
+{
+    if (key.startsWith(u"XMP"))
+        return QStringLiteral("XMP");
+    if (key.startsWith(u"IPTC"))
+        return QStringLiteral("IPTC");
+    return QStringLiteral("EXIF");
+}
