@@ -1,6 +1,8 @@
 // Times the form over the real catalogue with in-memory files: building it once, showing a
 // selection of every file, and switching between two halves of the files.
-//   bench_form [files=1000] [rounds=7]
+//   bench_form [files=1000] [rounds=7] [--row-per-tag]
+// With --row-per-tag, the copies of a property kept in several standards get a row each, as
+// with the expert preference, instead of one row that shows and writes them all.
 
 #include "catalogue/exiffieldscontroller.h"
 #include "editors/configurationviewcontroller.h"
@@ -92,6 +94,7 @@ int main(int argc, char *argv[])
 
     ExifFieldsController &catalogue = *ExifFieldsController::defaultInstance();
     catalogue.initializeConfigurations();
+    catalogue.setLinksForms(!app.arguments().contains(u"--row-per-tag"_qs));
     const QList<ExifFileInfoPtr> all = makeFiles(catalogue, count);
     const QList<ExifFileInfoPtr> first = all.mid(0, count / 2);
     const QList<ExifFileInfoPtr> second = all.mid(count / 2);

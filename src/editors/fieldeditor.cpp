@@ -124,6 +124,24 @@ void ExifFilesSnapshot::gatherColumns(const QStringList &keys)
     }
 }
 
+const ExifFilesSnapshot::LinkedColumn &
+ExifFilesSnapshot::linkedColumn(const LinkedForms &forms) const
+{
+    const QString &key = forms.keys().constFirst();
+    if (const auto found = m_linkedColumns.constFind(key); found != m_linkedColumns.cend())
+        return *found;
+    LinkedColumn column;
+    column.shown.reserve(m_values.size());
+    for (qsizetype i = 0; i < m_values.size(); ++i) {
+        LinkedForms::Reading reading = forms.read(m_values.at(i));
+        column.values.insert(reading.value.isNull() ? QString(u""_qs) : reading.value);
+        if (reading.copiesDiffer)
+            column.differing.append(i);
+        column.shown.append(std::move(reading.value));
+    }
+    return *m_linkedColumns.insert(key, std::move(column));
+}
+
 ExifFilesSnapshot::~ExifFilesSnapshot()
 {
     s_activeSnapshot = m_previous;
@@ -183,6 +201,14 @@ void FieldEditor::visitValues(const QList<ExifFileInfoPtr> &files, bool withOrig
 {
     if (m_forms.isLinked()) {
         const ExifFilesSnapshot *snapshot = ExifFilesSnapshot::forFiles(files);
+        if (snapshot && !withOriginal) {
+            const QList<QString> &shown = snapshot->linkedColumn(m_forms).shown;
+            for (qsizetype i = 0; i < files.size(); ++i) {
+                if (!visit(files.at(i), shown.at(i), QString()))
+                    return;
+            }
+            return;
+        }
         for (qsizetype i = 0; i < files.size(); ++i) {
             const EditedValues values = snapshot ? snapshot->current(i) : files.at(i)->editedValues();
             const QString original = withOriginal ? m_forms.valueIn(values.original()) : QString();
@@ -242,8 +268,9 @@ void FieldEditor::visitChangedValues(const QList<ExifFileInfoPtr> &files,
 
 QSet<QString> FieldEditor::gatherExifFilesValues(const QList<ExifFileInfoPtr> &files) const
 {
-    if (const ExifFilesSnapshot *snapshot =
-            m_forms.isLinked() ? nullptr : ExifFilesSnapshot::forFiles(files)) {
+    if (const ExifFilesSnapshot *snapshot = ExifFilesSnapshot::forFiles(files)) {
+        if (m_forms.isLinked())
+            return snapshot->linkedColumn(m_forms).values;
         if (const ExifFilesSnapshot::Column *column = snapshot->column(m_field->xmlName()))
             return column->values;
     }
@@ -408,7 +435,10 @@ int FieldEditor::showEditor(int top)
     }
     placeRemovalHint();
     updateRemovalHint();
-    updateCopiesMark();
+    if (m_copiesMark) {
+        placeCopiesMark();
+        m_copiesMark->setVisible(m_copiesDiffer);
+    }
     if (m_content) {
         m_content->move(m_content->x(), top + m_contentOffset);
         m_content->show();
@@ -634,33 +664,34 @@ void FieldEditor::updateCopiesMark()
 {
     if (!m_copiesMark)
         return;
+    QList<qsizetype> differing;
+    if (const ExifFilesSnapshot *snapshot = ExifFilesSnapshot::forFiles(m_exifFiles)) {
+        differing = snapshot->linkedColumn(m_forms).differing;
+    } else {
+        for (qsizetype i = 0; i < m_exifFiles.size(); ++i) {
+            if (m_forms.read(m_exifFiles.at(i)->editedValues()).copiesDiffer)
+                differing.append(i);
+        }
+    }
     QStringList lines;
-    int differing = 0;
     QString firstName;
-    const ExifFilesSnapshot *snapshot = ExifFilesSnapshot::forFiles(m_exifFiles);
-    for (qsizetype i = 0; i < m_exifFiles.size(); ++i) {
-        const ExifFileInfoPtr &file = m_exifFiles.at(i);
-        const QList<LinkedForms::Copy> copies =
-            m_forms.differingCopies(snapshot ? snapshot->current(i) : file->editedValues());
-        if (copies.isEmpty())
-            continue;
-        if (++differing > 1)
-            continue;
+    if (!differing.isEmpty()) {
+        const ExifFileInfoPtr &file = m_exifFiles.at(differing.constFirst());
         firstName = QFileInfo(file->fileName()).fileName();
-        for (const LinkedForms::Copy &copy : copies) {
+        for (const LinkedForms::Copy &copy : m_forms.differingCopies(file->editedValues())) {
             lines.append(tr("%1 (%2): \u201c%3\u201d")
                              .arg(LinkedForms::standardOfKey(copy.key), copy.key, copy.value));
         }
     }
-    const bool shown = differing > 0 && m_label && !m_label->isHidden();
-    m_copiesMark->setVisible(shown);
-    if (!shown)
+    m_copiesDiffer = !differing.isEmpty();
+    m_copiesMark->setVisible(m_copiesDiffer && m_label && !m_label->isHidden());
+    if (!m_copiesDiffer)
         return;
     const QString head =
         m_exifFiles.size() == 1
             ? tr("The copies of this field in the file's standards differ:")
             : tr("In %n of the selected files the copies of this field differ. In %1:", nullptr,
-                 differing)
+                 int(differing.size()))
                   .arg(firstName);
     m_copiesMark->setToolTip(head + u'\n' + lines.join(u'\n') + u'\n' +
                              tr("Click to choose one value for every copy."));

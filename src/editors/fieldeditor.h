@@ -53,12 +53,23 @@ public:
     // Null for a key the snapshot was not asked to gather.
     const Column *column(const QString &key) const;
 
+    // What a row showing several copies of a property shows in each file, gathered once per
+    // row at its first call.
+    struct LinkedColumn
+    {
+        QList<QString> shown;       // per file, null when no copy is there
+        QSet<QString> values;       // the distinct ones, "" for none
+        QList<qsizetype> differing; // indexes of the files whose copies disagree
+    };
+    const LinkedColumn &linkedColumn(const LinkedForms &forms) const;
+
 private:
     void gatherColumns(const QStringList &keys);
 
     QList<ExifFileInfoPtr> m_files;
     QList<EditedValues> m_values;
     QHash<QString, Column> m_columns;
+    mutable QHash<QString, LinkedColumn> m_linkedColumns;
     const ExifFilesSnapshot *m_previous = nullptr;
 };
 
@@ -207,6 +218,7 @@ private:
     ExifFieldPtr m_field;
     LinkedForms m_forms;
     QPointer<QToolButton> m_copiesMark;
+    bool m_copiesDiffer = false;
     int m_top = 0;
     double m_maxLabelWidth = 0;
     QList<ExifFileInfoPtr> m_exifFiles;

@@ -49,6 +49,28 @@ QString LinkedForms::valueIn(const TagDictionary &values) const
     return firstValue([&values](const QString &key) { return values.value(key); });
 }
 
+LinkedForms::Reading LinkedForms::read(const EditedValues &values) const
+{
+    Reading reading;
+    QString first;
+    bool identical = true;
+    bool any = false;
+    for (const QString &key : m_keys) {
+        const QString value = values.value(key);
+        if (reading.value.isEmpty() && (!value.isEmpty() || reading.value.isNull()))
+            reading.value = value;
+        if (value.isNull())
+            continue;
+        if (!any)
+            first = value;
+        else
+            identical = identical && value == first;
+        any = true;
+    }
+    reading.copiesDiffer = !identical && !differingCopies(values).isEmpty();
+    return reading;
+}
+
 bool LinkedForms::isChanged(const EditedValues &values) const
 {
     if (!values.isEdited())

@@ -37,6 +37,14 @@ public:
     // text (an old file often has the IPTC caption only). Null when no copy is there.
     QString valueIn(const EditedValues &values) const;
     QString valueIn(const TagDictionary &values) const;
+    // valueIn and whether differingCopies would find any, in one pass over the copies: what the
+    // form asks of every file on each selection.
+    struct Reading
+    {
+        QString value;
+        bool copiesDiffer = false;
+    };
+    Reading read(const EditedValues &values) const;
     // Whether any copy differs from what was read.
     bool isChanged(const EditedValues &values) const;
     // The copies present, when they do not all say the same; empty when they agree.
