@@ -34,6 +34,21 @@ void ExifFieldsController::take(const ExifFieldsConfigurationParser &parser)
     setLinksForms(m_linksForms);
 }
 
+ExifFieldPtr ExifFieldsController::fieldOf(const QString &key) const
+{
+    if (ExifFieldPtr found = m_configurationsMap.value(key))
+        return found;
+    if (!key.startsWith(u"XMP-"))
+        return nullptr;
+    const qsizetype colon = key.indexOf(u':');
+    const qsizetype dash = colon > 0 ? key.indexOf(u'-', colon) : -1;
+    if (dash < 0)
+        return nullptr;
+    ExifFieldPtr alternative = m_configurationsMap.value(key.left(dash));
+    return alternative && alternative->dataType() == FieldDataType::LangAlt ? alternative
+                                                                            : nullptr;
+}
+
 void ExifFieldsController::setLinksForms(bool on)
 {
     m_linksForms = on;

@@ -27,6 +27,10 @@ public:
     // The field of a tag key, or null.
     ExifFieldPtr field(const QString &xmlName) const { return m_configurationsMap.value(xmlName); }
 
+    // The same, and for a key that names one language of a language alternative
+    // ("XMP-dc:Title-de", "XMP-dc:Rights-fr-CA"), that alternative's field.
+    ExifFieldPtr fieldOf(const QString &key) const;
+
     // On (as loaded): a property kept in several standards is one row that writes all its
     // copies. Off: every tag is a row of its own, for users who want to see each copy.
     void setLinksForms(bool on);

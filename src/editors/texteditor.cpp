@@ -1,7 +1,9 @@
 #include "editors/texteditor.h"
 
+#include "editors/otherlanguagesdialog.h"
 #include "editors/rightedgenote.h"
 #include "engine/editsession.h"
+#include "engine/languagealternatives.h"
 
 #include "catalogue/preset.h"
 #include "catalogue/stringtables.h"
@@ -15,6 +17,8 @@
 #include "values/usersettings.h"
 
 #include <QAbstractScrollArea>
+#include <QContextMenuEvent>
+#include <QMenu>
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -103,6 +107,9 @@ int TextEditor::createEditorContent(QWidget *parent, QRect frame)
         m_otherLanguages = addRightEdgeNote(m_editor);
         // In the field's own text colour, so it reads as well as the value beside it.
         m_otherLanguages->setForegroundRole(QPalette::Text);
+        m_otherLanguages->setCursor(Qt::PointingHandCursor);
+        m_otherLanguages->installEventFilter(this);
+        m_editor->installEventFilter(this);
     }
     if (byteLimit() > 0)
         m_bytesLeft = addRightEdgeNote(m_editor);
@@ -179,12 +186,12 @@ void TextEditor::showOtherLanguages(const QList<ExifFileInfoPtr> &files)
 {
     if (!m_otherLanguages)
         return;
-    const QString prefix = field()->xmlName() + u'-';
     QStringList languages;
     for (const ExifFileInfoPtr &file : files) {
-        for (const QString &key : file->languageKeys()) {
-            if (key.startsWith(prefix) && !languages.contains(key.mid(prefix.size())))
-                languages.append(key.mid(prefix.size()));
+        const QMap<QString, QString> held = otherLanguages(*file, field()->xmlName());
+        for (auto it = held.cbegin(); it != held.cend(); ++it) {
+            if (!languages.contains(it.key()))
+                languages.append(it.key());
         }
     }
     if (languages.isEmpty()) {
@@ -195,7 +202,8 @@ void TextEditor::showOtherLanguages(const QList<ExifFileInfoPtr> &files)
     languages.sort();
     m_otherLanguages->setText(tr("%n other language(s)", nullptr, int(languages.size())));
     m_otherLanguages->setToolTip(
-        tr("Also held in: %1. Editing changes the default language only; the others are kept.")
+        tr("Also held in: %1. Editing changes the default language only; the others are kept. "
+           "Click to see and edit them.")
             .arg(languages.join(QStringLiteral(", "))));
     m_otherLanguages->show();
     m_editor->setTextMargins(0, 0, m_otherLanguages->sizeHint().width() + 8, 0);
@@ -406,6 +414,62 @@ bool TextEditor::copyToConfiguration(Preset &configuration)
     }
     configuration.removedValues().remove(key);
     return true;
+}
+
+bool TextEditor::isModified() const
+{
+    if (FieldEditor::isModified())
+        return true;
+    if (field()->dataType() != FieldDataType::LangAlt)
+        return false;
+    const QString prefix = field()->xmlName() + u'-';
+    return std::any_of(exifFiles().cbegin(), exifFiles().cend(), [&prefix](const auto &file) {
+        const EditedValues values = file->editedValues();
+        const auto isLanguage = [&prefix](const QString &key) { return key.startsWith(prefix); };
+        return std::any_of(values.removed().cbegin(), values.removed().cend(), isLanguage) ||
+               std::any_of(values.changed().keyBegin(), values.changed().keyEnd(), isLanguage);
+    });
+}
+
+OtherLanguagesDialog *TextEditor::openOtherLanguages()
+{
+    if (field()->dataType() != FieldDataType::LangAlt || !hasExifFiles() || !m_editor)
+        return nullptr;
+    auto *dialog = new OtherLanguagesDialog(field()->title(), field()->xmlName(), exifFiles(),
+                                            m_editor->window());
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::accepted, this, [this, dialog] {
+        const QList<ExifFileInfoPtr> changed = dialog->changedFiles();
+        if (changed.isEmpty() || !editSession())
+            return;
+        // The default language's text rides along: the receivers refresh whole files.
+        const QString shown = currentValue(*changed.constFirst());
+        editSession()->post(field()->xmlName(), changed,
+                            shown.isEmpty() ? std::nullopt : std::optional<QString>(shown),
+                            exifFiles(), this);
+        showOtherLanguages(exifFiles());
+        updateModifiedLabel();
+    });
+    dialog->open();
+    return dialog;
+}
+
+bool TextEditor::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_otherLanguages && event->type() == QEvent::MouseButtonPress) {
+        openOtherLanguages();
+        return true;
+    }
+    if (watched == m_editor && event->type() == QEvent::ContextMenu) {
+        std::unique_ptr<QMenu> menu(m_editor->createStandardContextMenu());
+        menu->addSeparator();
+        QAction *languages = menu->addAction(tr("Other Languages\u2026"), this,
+                                             &TextEditor::openOtherLanguages);
+        languages->setEnabled(hasExifFiles());
+        menu->exec(static_cast<QContextMenuEvent *>(event)->globalPos());
+        return true;
+    }
+    return FieldEditor::eventFilter(watched, event);
 }
 
 void TextEditor::focusControl()

@@ -8,6 +8,7 @@
 
 class AttachedWindow;
 class NumberFormatter;
+class OtherLanguagesDialog;
 class QLabel;
 class QLineEdit;
 struct ExifFilesUpdate;
@@ -27,6 +28,8 @@ public:
     // The open error popup, if any.
     AttachedWindow *errorMessageWindow() const;
 
+    // Also when only another language of a language alternative was edited.
+    bool isModified() const override;
     void clearEditor() override;
     int hideEditor(int top) override;
     void setExifFiles(const QList<ExifFileInfoPtr> &files) override;
@@ -43,6 +46,10 @@ public:
     // For a language alternative: "N other languages" inside the row when the files hold the
     // value in other languages too, which an edit of the default one keeps; otherwise null.
     QLabel *otherLanguagesLabel() const;
+    // For a language alternative: opens the window of its other languages over the selected
+    // files (not modal to the program; null for another field or without files). What it
+    // changes is announced and shown when it closes with OK.
+    OtherLanguagesDialog *openOtherLanguages();
     // For a field with an IIM byte limit: the bytes left, shown while typing and while over.
     QLabel *bytesLeftLabel() const;
 
@@ -53,6 +60,7 @@ public:
     void showErrorPopup(const QString &message);
 
 protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
     // A coordinate row follows the other coordinate.
     bool followsOtherRows() const override;
     void receiveFilesUpdateNotification(const ExifFilesUpdate &update) override;

@@ -33,7 +33,7 @@ QStringList changedKeys(const EditedValues &values, bool skipGenerated, bool sto
     const auto differs = [&](const QString &key, const QString &current) {
         if (skipGenerated && ExifUtil::isAutomaticallyGeneratedFieldXmlName(key))
             return false;
-        const ExifFieldPtr field = catalogue->field(key);
+        const ExifFieldPtr field = catalogue->fieldOf(key);
         return field && !valuesEqualForRepresentation(current, original.value(key),
                                                       field->dataRepresentation());
     };
@@ -180,13 +180,13 @@ QSet<QString> ExifUtil::removedFieldsSet(const ExifFileInfo &file)
     const ExifFieldsController *catalogue = ExifFieldsController::defaultInstance();
     QSet<QString> removed;
     for (const QString &key : values.removed()) {
-        if (catalogue->field(key))
+        if (catalogue->fieldOf(key))
             removed.insert(key);
     }
     // Absent, not blank: a value of spaces, as some cameras write, is a value.
     for (auto it = values.changed().cbegin(); it != values.changed().cend(); ++it) {
         if (it.value().isNull() && values.original().contains(it.key()) &&
-            catalogue->field(it.key())) {
+            catalogue->fieldOf(it.key())) {
             removed.insert(it.key());
         }
     }

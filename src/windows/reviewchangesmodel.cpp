@@ -42,7 +42,8 @@ void ReviewChangesModel::appendSlice()
     clock.start();
     const ExifFieldsController *catalogue = ExifFieldsController::defaultInstance();
     const auto tagOf = [&](const QString &key) {
-        const ExifFieldPtr field = catalogue->field(key);
+        // One language of a language alternative reads "Caption (XMP-dc:Description-de)".
+        const ExifFieldPtr field = catalogue->fieldOf(key);
         return field && !field->title().isEmpty()
                    ? field->title() + QStringLiteral(" (") + key + u')'
                    : key;
