@@ -40,6 +40,19 @@ QString sampleValue(const ExifField &field, int variant)
         return QString::number(48.1 + variant * 0.01);
     case FieldDataRepresentation::Strings:
         return u"travel,family,day %1"_qs.arg(variant);
+    case FieldDataRepresentation::Structure: {
+        // Two items of whatever members the structure has, the first differing between files.
+        QStringList first;
+        QStringList second;
+        for (const ExifField::Member &member : field.members()) {
+            if (member.kind == ExifField::Member::Kind::Text) {
+                first.append(member.name + u"=Item %1|, one"_qs.arg(variant));
+                second.append(member.name + u"=Item two"_qs);
+            }
+        }
+        const QString items = u"{%1},{%2}"_qs.arg(first.join(u','), second.join(u','));
+        return field.isStructureList() ? u'[' + items + u']' : u'{' + first.join(u',') + u'}';
+    }
     default:
         return u"Value %1 of %2"_qs.arg(variant).arg(field.title());
     }
@@ -55,8 +68,12 @@ QList<ExifFileInfoPtr> makeFiles(const ExifFieldsController &catalogue, int coun
         const QString maker = canon ? u"Canon"_qs : u"Nikon"_qs;
         TagDictionary data{{u"IFD0:Make"_qs, canon ? u"Canon"_qs : u"NIKON CORPORATION"_qs},
                            {u"System:FileName"_qs, u"IMG_%1.JPG"_qs.arg(i)}};
-        for (qsizetype f = 0; f < fields.size() && data.size() < 150; ++f) {
+        for (qsizetype f = 0; f < fields.size(); ++f) {
             const ExifField &field = *fields.at(f);
+            // About 150 tags a file, as a camera file has, and every structure.
+            if (data.size() >= 150 &&
+                field.dataRepresentation() != FieldDataRepresentation::Structure)
+                continue;
             if (!field.maker().isEmpty() && field.maker() != maker)
                 continue;
             // A third of the fields differ between files, the rest are shared.

@@ -22,7 +22,7 @@ HERE = os.path.dirname(os.path.abspath(__file__))
 ROOT = os.path.dirname(HERE)
 
 REPRESENTATIONS = {"number", "date", "datetime", "enum", "multi-enum", "fraction",
-                   "longitude", "latitude", "strings", "none"}
+                   "longitude", "latitude", "strings", "structure", "none"}
 DATATYPES = {"string", "int8", "uint8", "int16", "uint16", "int32", "uint32", "float",
              "double", "udouble", "binary", "enum", "rdf-bag", "lang-alt"}
 
@@ -156,6 +156,8 @@ def describe_field(record, key, options, maker):
         representation = "datetime"
     elif kind == "lang-alt":
         datatype = "lang-alt"
+    elif kind == "struct":
+        representation = "structure"
     if kind == "boolean":
         values = [("True", "True"), ("False", "False")]
     if values and "noenum" not in options:
@@ -166,7 +168,7 @@ def describe_field(record, key, options, maker):
         representation, decimals = "enum", None
     else:
         values = None
-    if is_list:
+    if is_list and kind != "struct":
         representation = "strings"
         datatype = "rdf-bag" if "Bag" in record["flags"] else "string"
 
@@ -209,6 +211,7 @@ def describe_field(record, key, options, maker):
         "title": options.get("title", record["title"]).replace("_", " "),
         "values": values,
         "forms": [k for k in options.get("forms", "").split(",") if k],
+        "structure": None,  # (list type or None, [(member, kind)]) for a structure
     }
 
 
@@ -238,11 +241,14 @@ def build_catalogue(tables, selection_path):
                 raise SelectionError(f"{where}: field outside a section")
             if key in seen:
                 raise SelectionError(f"{where}: {key} listed twice")
-            record = _find_tag(tables, options.pop("table", table), key)
+            tag_table = options.pop("table", table)
+            record = _find_tag(tables, tag_table, key)
             if record is None:
                 raise SelectionError(f"{where}: ExifTool has no tag {key} in {table}")
             seen.add(key)
-            groups[-1][1][-1][1].append(describe_field(record, key, options, maker))
+            field = describe_field(record, key, options, maker)
+            field["table"] = tag_table
+            groups[-1][1][-1][1].append(field)
     _check_forms(groups)
     return groups
 
@@ -263,6 +269,23 @@ def _check_forms(groups):
                     or field["representation"] not in (None, "strings"):
                 raise SelectionError(f"{key}: form {form} holds its value differently")
             owner[form] = key
+
+
+def add_structure_members(groups, exiftool):
+    """Asks ExifTool's own tag tables for the members of each structure field."""
+    fields = [f for _, sections in groups for _, fs in sections for f in fs
+              if f["representation"] == "structure"]
+    if not fields:
+        return
+    library = os.path.join(os.path.dirname(os.path.realpath(exiftool)), "lib")
+    command = ["perl"] + (["-I", library] if os.path.isdir(library) else []) + \
+        [os.path.join(HERE, "structure-members.pl")] + \
+        [f"{f['table']} {f['key'].partition(':')[2]}" for f in fields]
+    lines = subprocess.run(command, check=True, stdout=subprocess.PIPE).stdout.decode()
+    for field, line in zip(fields, lines.splitlines()):
+        words = line.split()
+        field["structure"] = (None if words[2] == "-" else words[2],
+                              [tuple(w.split(":", 1)) for w in words[3:]])
 
 
 def render_fields(groups, version):
@@ -289,7 +312,16 @@ def render_fields(groups, version):
                     attributes.append(f'maxbytes="{field["maxbytes"]}"')
                 if field["forms"]:
                     attributes.append(f"forms={quoteattr(' '.join(field['forms']))}")
+                if field["structure"] and field["structure"][0]:
+                    attributes.append('list="true"')
                 head = "      <field " + " ".join(attributes)
+                if field["structure"]:
+                    out.append(head + ">")
+                    for member, kind in field["structure"][1]:
+                        kind_attribute = "" if kind == "text" else f" kind={quoteattr(kind)}"
+                        out.append(f"        <member name={quoteattr(member)}{kind_attribute}/>")
+                    out.append("      </field>")
+                    continue
                 if not field["values"]:
                     out.append(head + "/>")
                     continue
@@ -340,6 +372,7 @@ def main():
     tables, version = load_database(arguments.exiftool)
     try:
         groups = build_catalogue(tables, arguments.selection)
+        add_structure_members(groups, arguments.exiftool)
     except SelectionError as error:
         print(f"generate-catalogue: {error}", file=sys.stderr)
         return 1

@@ -1348,6 +1348,14 @@
         <translation>Country</translation>
     </message>
     <message>
+        <source>XMP-iptcExt:LocationShown</source>
+        <translation>Location Shown</translation>
+    </message>
+    <message>
+        <source>XMP-iptcExt:LocationCreated</source>
+        <translation>Location Created</translation>
+    </message>
+    <message>
         <source>IFD0:ImageDescription</source>
         <translation>Image Description</translation>
     </message>
@@ -1470,6 +1478,14 @@
     <message>
         <source>XMP-xmp:Nickname</source>
         <translation>Nickname</translation>
+    </message>
+    <message>
+        <source>XMP-iptcExt:AboutCvTerm</source>
+        <translation>About Cv Term</translation>
+    </message>
+    <message>
+        <source>XMP-iptcExt:Genre</source>
+        <translation>Genre</translation>
     </message>
     <message>
         <source>IPTC:Urgency</source>
@@ -1780,6 +1796,22 @@
         <translation>Event ID</translation>
     </message>
     <message>
+        <source>XMP-iptcExt:PersonInImageWDetails</source>
+        <translation>Person In Image W Details</translation>
+    </message>
+    <message>
+        <source>XMP-iptcExt:ProductInImage</source>
+        <translation>Product In Image</translation>
+    </message>
+    <message>
+        <source>XMP-iptcExt:ArtworkOrObject</source>
+        <translation>Artwork Or Object</translation>
+    </message>
+    <message>
+        <source>XMP-iptcExt:ImageRegion</source>
+        <translation>Image Region</translation>
+    </message>
+    <message>
         <source>XMP-iptcExt:DigitalSourceType</source>
         <translation>Digital Source Type</translation>
     </message>
@@ -2086,6 +2118,38 @@
     <message>
         <source>XMP-plus:OtherConstraints</source>
         <translation>Other Constraints</translation>
+    </message>
+    <message>
+        <source>XMP-plus:ImageCreator</source>
+        <translation>Image Creator</translation>
+    </message>
+    <message>
+        <source>XMP-plus:CopyrightOwner</source>
+        <translation>Copyright Owner</translation>
+    </message>
+    <message>
+        <source>XMP-plus:Licensor</source>
+        <translation>Licensor</translation>
+    </message>
+    <message>
+        <source>XMP-plus:ImageSupplier</source>
+        <translation>Image Supplier</translation>
+    </message>
+    <message>
+        <source>XMP-iptcExt:Contributor</source>
+        <translation>Contributor</translation>
+    </message>
+    <message>
+        <source>XMP-iptcExt:RegistryID</source>
+        <translation>Registry ID</translation>
+    </message>
+    <message>
+        <source>XMP-iptcExt:EmbdEncRightsExpr</source>
+        <translation>Embd Enc Rights Expr</translation>
+    </message>
+    <message>
+        <source>XMP-iptcExt:LinkedEncRightsExpr</source>
+        <translation>Linked Enc Rights Expr</translation>
     </message>
     <message>
         <source>Canon:CanonImageType</source>

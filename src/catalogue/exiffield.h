@@ -47,6 +47,19 @@ public:
     // The items of value (the value itself for a field that is not a list) longer than maxBytes.
     QStringList itemsOverByteLimit(const QString &value) const;
 
+    // For a structure: its members as ExifTool names them, each with how it holds its value.
+    struct Member
+    {
+        enum class Kind { Text, List, LangAlt, Structure };
+        QString name;
+        Kind kind = Kind::Text;
+    };
+    const QList<Member> &members() const { return m_members; }
+    void setMembers(QList<Member> members) { m_members = std::move(members); }
+    // Whether the structure's value is a list of items rather than one.
+    bool isStructureList() const { return m_isStructureList; }
+    void setStructureList(bool on) { m_isStructureList = on; }
+
     // The other tags that hold this field's property in other standards (the caption's
     // IPTC-IIM and EXIF copies of XMP's description), as the catalogue lists them.
     const QStringList &formKeys() const { return m_formKeys; }
@@ -75,6 +88,8 @@ private:
     qint64 m_decimals = -1;
     QString m_maker;
     qint64 m_maxBytes = 0;
+    QList<Member> m_members;
+    bool m_isStructureList = false;
     QStringList m_formKeys;
     QStringList m_linkedKeys;
     QString m_rowKey;

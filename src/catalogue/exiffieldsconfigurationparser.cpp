@@ -84,6 +84,19 @@ void ExifFieldsConfigurationParser::didStartElement(const QString &elementName,
 
     if (elementName == QLatin1StringView("field")) {
         startField(attributes);
+    } else if (elementName == QLatin1StringView("member") && m_currentField) {
+        ExifField::Member member;
+        member.name = attribute(attributes, QLatin1StringView("name")).value_or(QString());
+        const QString kind = attribute(attributes, QLatin1StringView("kind")).value_or(QString());
+        if (kind == u"list")
+            member.kind = ExifField::Member::Kind::List;
+        else if (kind == u"lang-alt")
+            member.kind = ExifField::Member::Kind::LangAlt;
+        else if (kind == u"structure")
+            member.kind = ExifField::Member::Kind::Structure;
+        QList<ExifField::Member> members = m_currentField->members();
+        members.append(member);
+        m_currentField->setMembers(members);
     } else if (elementName == QLatin1StringView("section")) {
         m_currentSectionName = attribute(attributes, QLatin1StringView("name")).value_or(QString());
         m_currentSection = std::make_shared<Section>(m_currentSectionName);
@@ -125,6 +138,8 @@ void ExifFieldsConfigurationParser::startField(const QXmlStreamAttributes &attri
         field->setMaker(*maker);
     if (const auto bytes = attribute(attributes, QLatin1StringView("maxbytes")))
         field->setMaxBytes(leadingInteger(*bytes));
+    field->setStructureList(attribute(attributes, QLatin1StringView("list")) ==
+                            QLatin1StringView("true"));
     if (const auto forms = attribute(attributes, QLatin1StringView("forms")))
         field->setFormKeys(forms->split(u' ', Qt::SkipEmptyParts));
 

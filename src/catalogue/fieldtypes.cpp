@@ -33,7 +33,7 @@ FieldDataType fieldDataTypeFromString(const QString &text)
 
 FieldDataRepresentation fieldDataRepresentationFromString(const QString &text)
 {
-    static const std::array<std::pair<QLatin1StringView, FieldDataRepresentation>, 9> keywords{{
+    static const std::array<std::pair<QLatin1StringView, FieldDataRepresentation>, 10> keywords{{
         {QLatin1StringView("enum"), FieldDataRepresentation::Enum},
         {QLatin1StringView("date"), FieldDataRepresentation::Date},
         {QLatin1StringView("datetime"), FieldDataRepresentation::DateTime},
@@ -43,6 +43,7 @@ FieldDataRepresentation fieldDataRepresentationFromString(const QString &text)
         {QLatin1StringView("longitude"), FieldDataRepresentation::Longitude},
         {QLatin1StringView("latitude"), FieldDataRepresentation::Latitude},
         {QLatin1StringView("strings"), FieldDataRepresentation::Strings},
+        {QLatin1StringView("structure"), FieldDataRepresentation::Structure},
     }};
     for (const auto &[keyword, representation] : keywords) {
         if (text == keyword)

@@ -34,6 +34,8 @@ enum class FieldDataRepresentation : qint32 {
     Longitude = 7,
     Latitude = 8,
     Strings = 9,
+    // An XMP structure or a list of them, held in ExifTool's serialized form.
+    Structure = 10,
 };
 
 // Exact, case-sensitive keywords of the catalogue file. An unknown type keyword is logged

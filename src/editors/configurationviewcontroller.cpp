@@ -9,6 +9,7 @@
 #include "editors/readonlyeditor.h"
 #include "editors/sectioneditor.h"
 #include "editors/stringseditor.h"
+#include "editors/structureeditor.h"
 #include "editors/texteditor.h"
 
 #include "catalogue/exiffieldscontroller.h"
@@ -212,6 +213,9 @@ int ConfigurationViewController::createFieldEditor(const ExifFieldPtr &field,
             break;
         case FieldDataRepresentation::Strings:
             editor = new StringsEditor(field, this);
+            break;
+        case FieldDataRepresentation::Structure:
+            editor = new StructureEditor(field, this);
             break;
         default:
             throw TagsmithException(TagsmithException::Unimplemented,

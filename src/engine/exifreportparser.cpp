@@ -3,6 +3,11 @@
 namespace {
 const QString descriptionElement = QStringLiteral("rdf:Description");
 const QString listItemElement = QStringLiteral("rdf:li");
+const QString bagElement = QStringLiteral("rdf:Bag");
+const QString seqElement = QStringLiteral("rdf:Seq");
+const QString altElement = QStringLiteral("rdf:Alt");
+const QString parseTypeAttribute = QStringLiteral("rdf:parseType");
+const QString resourceParseType = QStringLiteral("Resource");
 const QString fileNameElement = QStringLiteral("System:FileName");
 const QString directoryElement = QStringLiteral("System:Directory");
 } // namespace
@@ -51,7 +56,7 @@ void ExifReportParser::readAvailable()
     while (!m_reader.atEnd()) {
         switch (m_reader.readNext()) {
         case QXmlStreamReader::StartElement:
-            handleStart(m_reader.qualifiedName());
+            handleStart(m_reader.qualifiedName(), m_reader.attributes());
             break;
         case QXmlStreamReader::EndElement:
             handleEnd(m_reader.qualifiedName());
@@ -59,6 +64,9 @@ void ExifReportParser::readAvailable()
         case QXmlStreamReader::Characters:
             if (m_hasTextBuffer)
                 m_textBuffer += m_reader.text();
+            // Only a member's text: a plain tag's is the buffer's.
+            if (m_frames.size() > 1 && m_frames.constLast().value.kind == StructValue::Kind::Text)
+                m_frames.last().value.text += m_reader.text();
             break;
         case QXmlStreamReader::Invalid:
             if (m_reader.error() == QXmlStreamReader::PrematureEndOfDocumentError)
@@ -71,14 +79,37 @@ void ExifReportParser::readAvailable()
     }
 }
 
-void ExifReportParser::handleStart(QStringView name)
+void ExifReportParser::handleStart(QStringView name, const QXmlStreamAttributes &attributes)
 {
+    const bool resource = attributes.value(parseTypeAttribute) == resourceParseType;
     if (name == descriptionElement) {
         m_currentParserDictionary = TagDictionary();
         m_parsePosition = 1;
     } else if (m_parsePosition == 1) {
         m_parsePosition = 2;
         m_currentElementName = name.toString();
+        m_frames.clear();
+        m_frames.append(Frame{});
+        m_isStructure = resource;
+        if (resource)
+            m_frames.last().value.kind = StructValue::Kind::Struct;
+    } else if (m_parsePosition == 2) {
+        if (name == bagElement || name == seqElement || name == altElement) {
+            m_frames.last().value.kind = StructValue::Kind::List;
+        } else {
+            Frame frame;
+            if (name != listItemElement) {
+                // A member: its holder is a structure.
+                m_frames.last().value.kind = StructValue::Kind::Struct;
+                m_isStructure = true;
+                frame.name = name.mid(name.indexOf(u':') + 1).toString();
+            }
+            if (resource) {
+                frame.value.kind = StructValue::Kind::Struct;
+                m_isStructure = true;
+            }
+            m_frames.append(std::move(frame));
+        }
     }
     m_textBuffer.clear();
     m_hasTextBuffer = true;
@@ -106,7 +137,24 @@ void ExifReportParser::handleEnd(QStringView name)
         m_currentDirName = m_hasTextBuffer ? m_textBuffer : QString();
     }
 
-    if (m_parsePosition == 2) {
+    if (m_parsePosition == 2 && !m_frames.isEmpty() && name != bagElement &&
+        name != seqElement && name != altElement) {
+        Frame done = m_frames.takeLast();
+        if (m_frames.isEmpty()) {
+            if (m_isStructure)
+                m_currentParserDictionary.insert(m_currentElementName, done.value.serialized());
+        } else if (m_frames.constLast().value.kind == StructValue::Kind::List) {
+            m_frames.last().value.items.append(std::move(done.value));
+        } else {
+            m_frames.last().value.members.append({std::move(done.name), std::move(done.value)});
+        }
+    }
+    if (m_parsePosition == 2 && m_isStructure) {
+        if (name == m_currentElementName) {
+            m_parsePosition = 1;
+            m_currentElementName = QString();
+        }
+    } else if (m_parsePosition == 2) {
         if (name == listItemElement) {
             QString item = m_hasTextBuffer ? m_textBuffer : QString();
             item.replace(QLatin1Char(','), QStringLiteral("\\,"));

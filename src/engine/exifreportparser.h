@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/tagdictionary.h"
+#include "values/structvalue.h"
 
 #include <QByteArray>
 #include <QHash>
@@ -39,7 +40,7 @@ public:
 
 private:
     void readAvailable();
-    void handleStart(QStringView name);
+    void handleStart(QStringView name, const QXmlStreamAttributes &attributes);
     void handleEnd(QStringView name);
 
     QXmlStreamReader m_reader;
@@ -57,4 +58,13 @@ private:
     bool m_hasTextBuffer = false;
     // 0 outside a record, 1 inside a record between tags, 2 inside a tag element.
     qint32 m_parsePosition = 0;
+    // Inside a tag element: the values being built, outermost first. A tag whose value has
+    // members (an XMP structure, or a list of them) is kept in ExifTool's serialized form.
+    struct Frame
+    {
+        StructValue value;
+        QString name;
+    };
+    QList<Frame> m_frames;
+    bool m_isStructure = false;
 };

@@ -1,4 +1,5 @@
 #include "engine/exifrunnerremoveexifgroupsoperation.h"
+#include "engine/metadatareader.h"
 
 ExifRunnerRemoveExifGroupsOperation::ExifRunnerRemoveExifGroupsOperation(
     ExifFileInfoPtr efi, ExifOperationOption options)
@@ -46,13 +47,16 @@ bool ExifRunnerRemoveExifGroupsOperation::hasUndecodedMakerNotes(const TagDictio
 
 QStringList ExifRunnerRemoveExifGroupsOperation::undecodedMakerNotesArgs()
 {
-    return {QStringLiteral("-n"), QStringLiteral("-X"), QStringLiteral("-MakerNotes:all=")};
+    return QStringList{QStringLiteral("-n"), QStringLiteral("-X"),
+                       QStringLiteral("-MakerNotes:all=")} +
+           MetadataReader::structureArguments();
 }
 
 QStringList ExifRunnerRemoveExifGroupsOperation::addRemoveArgs() const
 {
     // Make and model go with the notes on purpose: the camera maker is what brings the
     // maker-note fields into the form, and they would have nothing left to show.
-    return {QStringLiteral("-n"), QStringLiteral("-X"), QStringLiteral("-make="),
-            QStringLiteral("-model="), QStringLiteral("-makernotes=")};
+    return QStringList{QStringLiteral("-n"), QStringLiteral("-X"), QStringLiteral("-make="),
+                       QStringLiteral("-model="), QStringLiteral("-makernotes=")} +
+           MetadataReader::structureArguments();
 }

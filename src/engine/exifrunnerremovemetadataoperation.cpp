@@ -1,6 +1,7 @@
 #include "engine/exifrunnerremovemetadataoperation.h"
 
 #include "engine/revertrecord.h"
+#include "engine/metadatareader.h"
 #include "values/trcontext.h"
 
 #include <QFileInfo>
@@ -167,5 +168,5 @@ QStringList ExifRunnerRemoveMetadataOperation::addRemoveArgs(QStringList argumen
 {
     // No "-charset", "-lang", "-F" or "-m": a strip takes none of the user's save options.
     arguments << QStringLiteral("-n") << QStringLiteral("-X");
-    return arguments;
+    return arguments + MetadataReader::structureArguments();
 }

@@ -334,6 +334,7 @@ QStringList ExifRunnerSaveOperation::otherExifFileArguments()
     QStringList arguments{QStringLiteral("-n"),    QStringLiteral("-lang"),
                           QStringLiteral("en"),    QStringLiteral("-charset"),
                           QStringLiteral("UTF-8"), QStringLiteral("-X")};
+    arguments += MetadataReader::structureArguments();
     if (UserSettings::forceFixBase())
         arguments.append(QStringLiteral("-F"));
     if (UserSettings::ignoreMinorErrors())
@@ -401,6 +402,8 @@ bool ExifRunnerSaveOperation::readsBackAsWritten(const QString &key, const QStri
             gotNumber = leadingNumber(got);
         return expectedNumber && numbersMatch(*gotNumber, *expectedNumber, field->decimals());
     }
+    case FieldDataRepresentation::Structure:
+        return valuesEqualForRepresentation(got, value, representation);
     case FieldDataRepresentation::None: {
         if (isNumericType(field)) {
             bool isNumber = false;

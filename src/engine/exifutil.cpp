@@ -1,6 +1,7 @@
 #include "engine/exifutil.h"
 
 #include "catalogue/exiffieldscontroller.h"
+#include "values/structvalue.h"
 #include "values/datevalue.h"
 #include "values/leadingnumber.h"
 #include "values/numberformatter.h"
@@ -103,6 +104,14 @@ bool valuesEqualForRepresentation(const QString &newValue, const QString &oldVal
         const auto a = numberOfText(newValue);
         const auto b = numberOfText(oldValue);
         return a && b && std::fabs(*a - *b) <= 1e-7;
+    }
+    case FieldDataRepresentation::Structure: {
+        // Members in another order are the same structure.
+        if (newValue == oldValue)
+            return true;
+        const auto a = StructValue::parse(newValue);
+        const auto b = StructValue::parse(oldValue);
+        return a && b && *a == *b;
     }
     case FieldDataRepresentation::Date:
         return dateValuesEqual(newValue, oldValue, DateEditorTypeDate);

@@ -41,6 +41,7 @@ QStringList MetadataReader::readCommandArguments(const QStringList &paths)
 {
     QStringList arguments{QStringLiteral("-g1"), QStringLiteral("-X"), QStringLiteral("-n"),
                           QStringLiteral("-charset"), QStringLiteral("UTF-8")};
+    arguments += structureArguments();
     arguments += paths;
     return arguments;
 }

@@ -35,6 +35,12 @@ class MetadataReader
 {
 public:
     explicit MetadataReader(QString exifToolProgram = exifToolPath());
+    // Every report of a file's values gives an XMP structure (Location Shown, Artwork or
+    // Object...) whole, as well as its members as flat tags: the form edits the whole.
+    static QStringList structureArguments()
+    {
+        return {QStringLiteral("-api"), QStringLiteral("struct=2")};
+    }
     ~MetadataReader();
     MetadataReader(const MetadataReader &) = delete;
     MetadataReader &operator=(const MetadataReader &) = delete;

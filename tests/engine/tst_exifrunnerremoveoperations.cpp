@@ -134,7 +134,7 @@ private Q_SLOTS:
 
     void stripRemovesUserTagsAndKeepsThePicture_data()
     {
-        const QStringList tail{u"-n"_qs, u"-X"_qs};
+        const QStringList tail{u"-n"_qs, u"-X"_qs, u"-api"_qs, u"struct=2"_qs};
         QTest::addColumn<QString>("suffix");
         QTest::addColumn<QStringList>("arguments"); // empty: ExifTool must not run
         QTest::addColumn<int>("warnings"); // of the two IFD0 warnings added to ExifTool's output
@@ -290,9 +290,11 @@ private Q_SLOTS:
 
         const auto op = run(false, file);
         QList<QStringList> expected{
-            {u"-n"_qs, u"-X"_qs, u"-make="_qs, u"-model="_qs, u"-makernotes="_qs}};
+            {u"-n"_qs, u"-X"_qs, u"-make="_qs, u"-model="_qs, u"-makernotes="_qs, u"-api"_qs,
+             u"struct=2"_qs}};
         if (!readable)
-            expected.prepend({u"-n"_qs, u"-X"_qs, u"-MakerNotes:all="_qs});
+            expected.prepend(
+                {u"-n"_qs, u"-X"_qs, u"-MakerNotes:all="_qs, u"-api"_qs, u"struct=2"_qs});
         compareWrites(expected, path);
         QVERIFY(op->errors());
         QCOMPARE(op->errors()->errorsCount(), quint64(0));

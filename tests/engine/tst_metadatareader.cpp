@@ -73,6 +73,7 @@ private Q_SLOTS:
         QCOMPARE(
             QString::fromUtf8(readFile(m_dir.filePath(u"runs.log"_qs))).split(u'\n'),
             QStringList({u"-v0"_qs, u"-g1"_qs, u"-X"_qs, u"-n"_qs, u"-charset"_qs, u"UTF-8"_qs,
+                         u"-api"_qs, u"struct=2"_qs,
                          m_set.jpeg, m_set.tiff, m_set.png, m_set.text, u"--end--"_qs, QString()}));
         QVERIFY(!record(m_set.missing)->isValid());
         QVERIFY(record(m_set.missing)->exifData().isEmpty());
@@ -188,7 +189,8 @@ private Q_SLOTS:
         QVERIFY(runs >= 2 && runs <= 4);
         QCOMPARE(logged.count(u"-X"_qs), runs); // each run has the read options
         for (const QString &option :
-             {u"-v0"_qs, u"-g1"_qs, u"-X"_qs, u"-n"_qs, u"-charset"_qs, u"UTF-8"_qs})
+             {u"-v0"_qs, u"-g1"_qs, u"-X"_qs, u"-n"_qs, u"-charset"_qs, u"UTF-8"_qs, u"-api"_qs,
+              u"struct=2"_qs})
             logged.removeAll(option);
         QCOMPARE(logged, paths);
     }
