@@ -264,7 +264,10 @@ def _check_forms(groups):
                 raise SelectionError(f"{key}: form {form} is not in the selection")
             if form in owner or other["forms"]:
                 raise SelectionError(f"{key}: form {form} already belongs to a row")
-            if (other["representation"] == "strings") != (field["representation"] == "strings") \
+            # A list may also have a copy in one text (EXIF's Artist), its items joined.
+            joined = field["representation"] == "strings" and other["representation"] is None
+            if ((other["representation"] == "strings") != (field["representation"] == "strings")
+                    and not joined) \
                     or other["representation"] not in (None, "strings") \
                     or field["representation"] not in (None, "strings"):
                 raise SelectionError(f"{key}: form {form} holds its value differently")

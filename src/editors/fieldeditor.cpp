@@ -738,7 +738,7 @@ void FieldEditor::useCopyEverywhere(const QString &key)
         const EditedValues values = file->editedValues();
         if (m_forms.differingCopies(values).isEmpty())
             continue;
-        const QString chosen = values.value(key);
+        const QString chosen = m_forms.rowValueOf(key, values.value(key));
         m_forms.set(*file, chosen.isNull() ? m_forms.valueIn(values) : chosen);
         any = true;
     }

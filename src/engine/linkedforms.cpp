@@ -10,6 +10,34 @@ LinkedForms::LinkedForms(const ExifField &field)
     : m_keys(QStringList{field.xmlName()} + field.linkedKeys())
     , m_representation(field.dataRepresentation())
 {
+    const ExifFieldsController *catalogue = ExifFieldsController::defaultInstance();
+    for (const QString &key : std::as_const(m_keys)) {
+        const ExifFieldPtr form = key == field.xmlName() ? nullptr : catalogue->field(key);
+        m_joined.append(m_representation == FieldDataRepresentation::Strings && form &&
+                        form->dataRepresentation() != FieldDataRepresentation::Strings);
+    }
+}
+
+QString LinkedForms::rowValue(qsizetype index, const QString &stored) const
+{
+    if (!m_joined.value(index) || stored.isNull())
+        return stored;
+    QStringList items;
+    for (const QString &item : stored.split(u';')) {
+        if (!item.trimmed().isEmpty())
+            items.append(item.trimmed());
+    }
+    return joinStringsValue(items);
+}
+
+QString LinkedForms::rowValueOf(const QString &key, const QString &stored) const
+{
+    return rowValue(m_keys.indexOf(key), stored);
+}
+
+QString LinkedForms::storedValue(qsizetype index, const QString &value) const
+{
+    return m_joined.value(index) ? splitStringsItems(value).join(u"; "_qs) : value;
 }
 
 LinkedForms LinkedForms::ofKey(const QString &key)
@@ -29,8 +57,8 @@ template <typename Lookup>
 QString LinkedForms::firstValue(const Lookup &lookup) const
 {
     QString own;
-    for (const QString &key : m_keys) {
-        QString value = lookup(key);
+    for (qsizetype i = 0; i < m_keys.size(); ++i) {
+        QString value = rowValue(i, lookup(m_keys.at(i)));
         if (!value.isEmpty())
             return value;
         if (own.isNull())
@@ -55,8 +83,8 @@ LinkedForms::Reading LinkedForms::read(const EditedValues &values) const
     QString first;
     bool identical = true;
     bool any = false;
-    for (const QString &key : m_keys) {
-        const QString value = values.value(key);
+    for (qsizetype i = 0; i < m_keys.size(); ++i) {
+        const QString value = rowValue(i, values.value(m_keys.at(i)));
         if (reading.value.isEmpty() && (!value.isEmpty() || reading.value.isNull()))
             reading.value = value;
         if (value.isNull())
@@ -76,9 +104,11 @@ bool LinkedForms::isChanged(const EditedValues &values) const
     if (!values.isEdited())
         return false;
     const TagDictionary &original = values.original();
-    for (const QString &key : m_keys) {
+    for (qsizetype i = 0; i < m_keys.size(); ++i) {
+        const QString &key = m_keys.at(i);
         if ((values.changed().contains(key) || values.removed().contains(key)) &&
-            isValueModified(values.value(key), original.value(key), m_representation)) {
+            isValueModified(values.value(key), original.value(key),
+                            m_joined.value(i) ? FieldDataRepresentation::None : m_representation)) {
             return true;
         }
     }
@@ -104,20 +134,16 @@ QList<LinkedForms::Copy> LinkedForms::differingCopies(const EditedValues &values
     if (!isLinked())
         return {};
     QList<Copy> copies;
-    bool identical = true;
-    for (const QString &key : m_keys) {
-        QString value = values.value(key);
+    QList<QString> seen;
+    for (qsizetype i = 0; i < m_keys.size(); ++i) {
+        QString value = values.value(m_keys.at(i));
         if (value.isNull())
             continue;
-        identical = identical && (copies.isEmpty() || copies.constFirst().value == value);
-        copies.append({key, std::move(value)});
+        seen.append(comparable(rowValue(i, value)));
+        copies.append({m_keys.at(i), std::move(value)});
     }
-    // The common case, checked first: the form asks this of every file on each selection.
-    if (identical)
-        return {};
-    const QString first = comparable(copies.constFirst().value);
-    for (qsizetype i = 1; i < copies.size(); ++i) {
-        if (comparable(copies.at(i).value) != first)
+    for (const QString &other : std::as_const(seen)) {
+        if (other != seen.constFirst())
             return copies;
     }
     return {};
@@ -143,8 +169,8 @@ void LinkedForms::setCopies(ExifFileInfo &file, const QStringList &copies) const
 
 void LinkedForms::set(ExifFileInfo &file, const QString &value) const
 {
-    for (const QString &key : m_keys)
-        file.setExifValue(key, value);
+    for (qsizetype i = 0; i < m_keys.size(); ++i)
+        file.setExifValue(m_keys.at(i), storedValue(i, value));
 }
 
 void LinkedForms::remove(ExifFileInfo &file) const

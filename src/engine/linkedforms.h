@@ -54,6 +54,9 @@ public:
     QStringList copiesIn(const EditedValues &values) const;
     void setCopies(ExifFileInfo &file, const QStringList &copies) const;
 
+    // A copy's stored text as the row holds the value.
+    QString rowValueOf(const QString &key, const QString &stored) const;
+
     void set(ExifFileInfo &file, const QString &value) const;
     void remove(ExifFileInfo &file) const;
     void restoreOriginal(ExifFileInfo &file) const;
@@ -65,7 +68,13 @@ private:
     template <typename Lookup>
     QString firstValue(const Lookup &lookup) const;
     QString comparable(const QString &value) const;
+    // A copy kept as one text where the row has a list (EXIF's Artist beside XMP's creators,
+    // "A; B" as the Metadata Working Group joins them): its value as the row holds it, and
+    // back.
+    QString rowValue(qsizetype index, const QString &stored) const;
+    QString storedValue(qsizetype index, const QString &value) const;
 
     QStringList m_keys;
+    QList<bool> m_joined;
     FieldDataRepresentation m_representation = FieldDataRepresentation::None;
 };

@@ -47,7 +47,7 @@ void applyPreset(const Preset &preset, ExifFileInfo &file)
         if (!forms.isLinked())
             file.setExifValue(it.key(), it.value());
         else if (givesValue(it.key(), forms))
-            forms.set(file, it.value());
+            forms.set(file, forms.rowValueOf(it.key(), it.value()));
     }
     for (const QString &key : preset.removedValues()) {
         const LinkedForms forms = LinkedForms::ofKey(key);

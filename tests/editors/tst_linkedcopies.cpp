@@ -169,6 +169,37 @@ private Q_SLOTS:
         }
     }
 
+    // Two creators typed: both lists get them, EXIF's one text gets them joined.
+    void creatorsReachEveryCopy()
+    {
+        const QString path = m_dir.filePath(u"creators.jpg"_qs);
+        QCOMPARE(Fixtures::makeImage(path, writeArguments({{u"IFD0:Artist"_qs, u"Old Name"_qs}})),
+                 QString());
+        const QList<ExifFileInfoPtr> files{std::make_shared<ExifFileInfo>(path)};
+        QVERIFY(MetadataReader(Fixtures::exifTool()).readRecords(files).ok());
+        EditorFixtures::Row<StringsEditor> row(
+            ExifFieldsController::defaultInstance()->field(u"XMP-dc:Creator"_qs));
+        row.editor.setExifFiles(files);
+        QCOMPARE(row.editor.editor()->text(), u"Old Name"_qs);
+        QLineEdit *edit = row.editor.editor()->lineEdit();
+        edit->setFocus();
+        QTest::keyClick(edit, Qt::Key_Backspace); // the token typed before
+        QTest::keyClick(edit, Qt::Key_Backspace);
+        for (const QString &name : {u"Ann Smith"_qs, u"Bob Jones"_qs}) {
+            QTest::keyClicks(edit, name);
+            QTest::keyClick(edit, Qt::Key_Return);
+        }
+        QCOMPARE(row.editor.editor()->tokens(), (QStringList{u"Ann Smith"_qs, u"Bob Jones"_qs}));
+        save(files);
+        const QJsonObject read =
+            QJsonDocument::fromJson(Fixtures::runExifTool({u"-j"_qs, u"-G1"_qs, u"--"_qs, path}).out)[0]
+                .toObject();
+        for (const QString &list : {u"XMP-dc:Creator"_qs, u"IPTC:By-line"_qs})
+            QCOMPARE(read.value(list).toVariant().toStringList(),
+                     (QStringList{u"Ann Smith"_qs, u"Bob Jones"_qs}));
+        QCOMPARE(read.value(u"IFD0:Artist"_qs).toString(), u"Ann Smith; Bob Jones"_qs);
+    }
+
     // The row writes By-line too, so a creator longer than IPTC keeps is flagged while typing
     // and the save leaves the file as it was.
     void aCreatorOverTheIptcLimitIsRefused()

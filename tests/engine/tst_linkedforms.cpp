@@ -16,6 +16,9 @@ const QString Keywords = QStringLiteral("IPTC:Keywords");
 const QString Rights = QStringLiteral("XMP-dc:Rights");
 const QString CopyrightNotice = QStringLiteral("IPTC:CopyrightNotice");
 const QString Copyright = QStringLiteral("IFD0:Copyright");
+const QString Creator = QStringLiteral("XMP-dc:Creator");
+const QString ByLine = QStringLiteral("IPTC:By-line");
+const QString Artist = QStringLiteral("IFD0:Artist");
 
 using Values = QMap<QString, QString>;
 
@@ -52,22 +55,30 @@ private Q_SLOTS:
 
     void theRowShowsTheFirstCopyWithText_data()
     {
+        QTest::addColumn<QString>("key");
         QTest::addColumn<Values>("values");
         QTest::addColumn<QString>("shown");
-        QTest::newRow("XMP first") << Values{{Description, u"x"_qs}, {Caption, u"i"_qs}} << u"x"_qs;
-        QTest::newRow("IPTC only, as in older files") << Values{{Caption, u"i"_qs}} << u"i"_qs;
-        QTest::newRow("EXIF only") << Values{{ImageDescription, u"e"_qs}} << u"e"_qs;
+        // EXIF keeps the creators in one text, joined as the Metadata Working Group says.
+        QTest::newRow("creators from EXIF's artist")
+            << Artist << Values{{Artist, u"Ann Smith; Bob, Jr.;"_qs}}
+            << u"Ann Smith,Bob\\, Jr."_qs;
+        QTest::newRow("creators from XMP first")
+            << Artist << Values{{Creator, u"Ann"_qs}, {Artist, u"Bob"_qs}} << u"Ann"_qs;
+        QTest::newRow("XMP first") << Caption << Values{{Description, u"x"_qs}, {Caption, u"i"_qs}} << u"x"_qs;
+        QTest::newRow("IPTC only, as in older files") << Caption << Values{{Caption, u"i"_qs}} << u"i"_qs;
+        QTest::newRow("EXIF only") << Caption << Values{{ImageDescription, u"e"_qs}} << u"e"_qs;
         QTest::newRow("empty XMP, text in EXIF")
-            << Values{{Description, u""_qs}, {ImageDescription, u"e"_qs}} << u"e"_qs;
-        QTest::newRow("empty XMP only") << Values{{Description, u""_qs}} << u""_qs;
-        QTest::newRow("none") << Values{} << QString();
+            << Caption << Values{{Description, u""_qs}, {ImageDescription, u"e"_qs}} << u"e"_qs;
+        QTest::newRow("empty XMP only") << Caption << Values{{Description, u""_qs}} << u""_qs;
+        QTest::newRow("none") << Caption << Values{} << QString();
     }
     void theRowShowsTheFirstCopyWithText()
     {
+        QFETCH(QString, key);
         QFETCH(Values, values);
         QFETCH(QString, shown);
-        const LinkedForms forms = LinkedForms::ofKey(Caption);
-        QCOMPARE(forms.keys(), (QStringList{Description, Caption, ImageDescription}));
+        const LinkedForms forms = LinkedForms::ofKey(key);
+        QCOMPARE(forms.keys().size(), 3);
         const QString value = forms.valueIn(fileWith(values)->editedValues());
         QCOMPARE(value, shown);
         QCOMPARE(value.isNull(), shown.isNull());
@@ -98,6 +109,12 @@ private Q_SLOTS:
             << Subject << Values{{Subject, u"sea,dawn"_qs}, {Keywords, u"dawn,sea"_qs}} << false;
         QTest::newRow("a keyword missing")
             << Subject << Values{{Subject, u"sea,dawn"_qs}, {Keywords, u"sea"_qs}} << true;
+        QTest::newRow("creators joined in EXIF")
+            << Creator << Values{{Creator, u"Ann,Bob"_qs}, {ByLine, u"Ann,Bob"_qs},
+                                 {Artist, u"Ann; Bob"_qs}}
+            << false;
+        QTest::newRow("a creator missing from EXIF")
+            << Creator << Values{{Creator, u"Ann,Bob"_qs}, {Artist, u"Ann"_qs}} << true;
         QTest::newRow("an item with a comma against two items")
             << Subject << Values{{Subject, u"Smith\\, John"_qs}, {Keywords, u"Smith,John"_qs}}
             << true;
@@ -154,6 +171,13 @@ private Q_SLOTS:
             << true << Values{{Copyright, u"old"_qs}} << Values{{Rights, u"new"_qs}}
             << QStringList{Copyright}
             << Values{{Rights, u"new"_qs}, {CopyrightNotice, u"new"_qs}, {Copyright, u"new"_qs}};
+        QTest::newRow("creators joined for EXIF")
+            << true << Values{} << Values{{Creator, u"Ann,Bob\\, Jr."_qs}} << none
+            << Values{{Creator, u"Ann,Bob\\, Jr."_qs}, {ByLine, u"Ann,Bob\\, Jr."_qs},
+                      {Artist, u"Ann; Bob, Jr."_qs}};
+        QTest::newRow("EXIF's artist split for the lists")
+            << true << Values{} << Values{{Artist, u"Ann; Bob"_qs}} << none
+            << Values{{Creator, u"Ann,Bob"_qs}, {ByLine, u"Ann,Bob"_qs}, {Artist, u"Ann; Bob"_qs}};
         QTest::newRow("a row per tag: the tag alone")
             << false << Values{{Description, u"old"_qs}} << Values{{Caption, u"new"_qs}} << none
             << Values{{Description, u"old"_qs}, {Caption, u"new"_qs}, {ImageDescription, u"<absent>"_qs}};
