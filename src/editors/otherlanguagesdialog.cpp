@@ -1,9 +1,9 @@
 #include "editors/otherlanguagesdialog.h"
 
 #include "catalogue/stringtables.h"
+#include "editors/dialogfooter.h"
 #include "engine/languagealternatives.h"
 
-#include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -46,16 +46,7 @@ OtherLanguagesDialog::OtherLanguagesDialog(const QString &title, QString key,
     connect(add, &QPushButton::clicked, this, [this] { addLanguage().code->setFocus(); });
     layout->addWidget(add, 0, Qt::AlignLeft);
 
-    m_error = new QLabel(this);
-    m_error->setWordWrap(true);
-    m_error->setStyleSheet(u"color: rgb(255, 138, 128);"_qs);
-    m_error->hide();
-    layout->addWidget(m_error);
-
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    connect(buttons, &QDialogButtonBox::accepted, this, &OtherLanguagesDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &OtherLanguagesDialog::reject);
-    layout->addWidget(buttons);
+    m_error = addDialogFooter(this, layout);
 }
 
 void OtherLanguagesDialog::addRow(const QString &language, const QString &commonText)

@@ -1,8 +1,8 @@
 #include "editors/structitemdialog.h"
 
 #include "catalogue/stringtables.h"
+#include "editors/dialogfooter.h"
 
-#include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -95,15 +95,7 @@ StructItemDialog::StructItemDialog(const ExifField &field, const QString &title,
     scroll->setWidget(content);
     layout->addWidget(scroll);
 
-    m_error = new QLabel(this);
-    m_error->setWordWrap(true);
-    m_error->setStyleSheet(u"color: rgb(255, 138, 128);"_qs);
-    m_error->hide();
-    layout->addWidget(m_error);
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    connect(buttons, &QDialogButtonBox::accepted, this, &StructItemDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &StructItemDialog::reject);
-    layout->addWidget(buttons);
+    m_error = addDialogFooter(this, layout);
     if (!m_rows.isEmpty())
         m_rows.constFirst().edit->setFocus();
 }

@@ -7,7 +7,6 @@
 #include "engine/exifutil.h"
 #include "engine/metadatareader.h"
 #include "engine/writequeue.h"
-#include "values/usersettings.h"
 
 #include "../support/fixtures.h"
 #include "../support/runlistener.h"
@@ -72,7 +71,6 @@ private Q_SLOTS:
     void initTestCase()
     {
         QVERIFY(m_dir.isValid());
-        UserSettings::setStoreFile(m_dir.filePath(u"settings.ini"_qs));
         ExifFieldsController::defaultInstance()->initializeConfigurations();
     }
 
@@ -223,25 +221,17 @@ private Q_SLOTS:
         QCOMPARE(row.editor.bytesLeftLabel()->text(), u"4 bytes too many"_qs);
         QTest::keyClick(edit, Qt::Key_Return);
 
-        RunListener listener;
-        WriteQueue runner;
-        listener.listen(runner);
-        QVERIFY(runner.saveFiles(files, ExifOperationOption::ReReadFile) > 0);
-        QVERIFY(listener.wait());
-        QVERIFY(listener.messages(path).join(u'\n').contains(u"longer than IPTC allows"));
+        const auto listener = RunListener::save(files);
+        QVERIFY(listener->messages(path).join(u'\n').contains(u"longer than IPTC allows"));
         QCOMPARE(Fixtures::readBytes(path), bytes);
     }
 
 private:
     void save(const QList<ExifFileInfoPtr> &files)
     {
-        RunListener listener;
-        WriteQueue runner;
-        listener.listen(runner);
-        if (runner.saveFiles(files, ExifOperationOption::ReReadFile) > 0)
-            QVERIFY(listener.wait());
+        const auto listener = RunListener::save(files);
         for (const ExifFileInfoPtr &file : files) {
-            QCOMPARE(listener.messages(file->fileName()), QStringList());
+            QCOMPARE(listener->messages(file->fileName()), QStringList());
             QVERIFY(!isExifFileModified(*file));
         }
     }

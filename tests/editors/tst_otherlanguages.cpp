@@ -6,7 +6,6 @@
 #include "engine/exifutil.h"
 #include "engine/metadatareader.h"
 #include "engine/writequeue.h"
-#include "values/usersettings.h"
 
 #include "../support/fixtures.h"
 #include "../support/runlistener.h"
@@ -64,7 +63,6 @@ private Q_SLOTS:
     void initTestCase()
     {
         QVERIFY(m_dir.isValid());
-        UserSettings::setStoreFile(m_dir.filePath(u"settings.ini"_qs));
         ExifFieldsController::defaultInstance()->initializeConfigurations();
     }
 
@@ -160,13 +158,9 @@ private Q_SLOTS:
         QCOMPARE(isExifFileModified(*m_files.at(1)), second != Second);
         QCOMPARE(m_row->editor.isModified(), first != First || second != Second);
 
-        RunListener listener;
-        WriteQueue runner;
-        listener.listen(runner);
-        if (runner.saveFiles(m_files, ExifOperationOption::ReReadFile) > 0)
-            QVERIFY(listener.wait());
+        const auto listener = RunListener::save(m_files);
         for (const ExifFileInfoPtr &file : std::as_const(m_files)) {
-            QCOMPARE(listener.messages(file->fileName()), QStringList());
+            QCOMPARE(listener->messages(file->fileName()), QStringList());
             QVERIFY(!isExifFileModified(*file));
         }
         QCOMPARE(languagesOnDisk(m_files.at(0)->fileName()), first);

@@ -6,7 +6,6 @@
 #include "engine/exifutil.h"
 #include "engine/metadatareader.h"
 #include "engine/writequeue.h"
-#include "values/usersettings.h"
 
 #include "../support/fixtures.h"
 #include "../support/runlistener.h"
@@ -48,7 +47,6 @@ private Q_SLOTS:
     void initTestCase()
     {
         QVERIFY(m_dir.isValid());
-        UserSettings::setStoreFile(m_dir.filePath(u"settings.ini"_qs));
         ExifFieldsController::defaultInstance()->initializeConfigurations();
     }
 
@@ -137,14 +135,10 @@ private Q_SLOTS:
         }
         QVERIFY(row.editor.isModified());
 
-        RunListener listener;
-        WriteQueue runner;
-        listener.listen(runner);
-        QVERIFY(runner.saveFiles(infos, ExifOperationOption::ReReadFile) > 0);
-        QVERIFY(listener.wait());
+        const auto listener = RunListener::save(infos);
         for (qsizetype i = 0; i < infos.size(); ++i) {
             const QString &path = infos.at(i)->fileName();
-            QCOMPARE(listener.messages(path), QStringList());
+            QCOMPARE(listener->messages(path), QStringList());
             QCOMPARE(locationsOnDisk(path), after.at(i));
             QVERIFY(!isExifFileModified(*infos.at(i)));
         }

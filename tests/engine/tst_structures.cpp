@@ -2,7 +2,6 @@
 #include "engine/exifutil.h"
 #include "engine/metadatareader.h"
 #include "engine/writequeue.h"
-#include "values/usersettings.h"
 
 #include "../support/fixtures.h"
 #include "../support/runlistener.h"
@@ -51,7 +50,6 @@ private Q_SLOTS:
     void initTestCase()
     {
         QVERIFY(m_dir.isValid());
-        UserSettings::setStoreFile(m_dir.filePath(u"settings.ini"_qs));
         ExifFieldsController::defaultInstance()->initializeConfigurations();
     }
 
@@ -135,12 +133,7 @@ private Q_SLOTS:
         const ExifFileInfoPtr file = load(path);
         QVERIFY(file->isValid());
         file->setExifValue(u"IFD0:Software"_qs, u"Tagsmith test"_qs);
-        RunListener listener;
-        WriteQueue runner;
-        listener.listen(runner);
-        QCOMPARE(runner.saveFiles({file}, ExifOperationOption::ReReadFile), 1);
-        QVERIFY(listener.wait());
-        QCOMPARE(listener.messages(path), QStringList());
+        QCOMPARE(RunListener::save({file})->messages(path), QStringList());
 
         QJsonObject after = everyTag(path);
         QCOMPARE(after.take(u"IFD0:Software"_qs).toString(), u"Tagsmith test"_qs);

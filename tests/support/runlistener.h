@@ -7,6 +7,8 @@
 #include <QStringList>
 #include <QTest>
 
+#include <memory>
+
 // Hears a background batch as lines "before NAME i/n", "after NAME i/n" and "finish N", so one
 // comparison shows order, pairing and counts; keeps the records the runner named with each.
 struct RunListener final : QObject
@@ -52,6 +54,17 @@ struct RunListener final : QObject
             .arg(QLatin1String(what), QFileInfo(s.fileName()).fileName())
             .arg(s.processedTasks())
             .arg(s.totalTasks());
+    }
+
+    // Saves the files through a queue of their own and waits for the batch to end.
+    static std::unique_ptr<RunListener> save(const QList<ExifFileInfoPtr> &files)
+    {
+        auto listener = std::make_unique<RunListener>();
+        WriteQueue runner;
+        listener->listen(runner);
+        if (runner.saveFiles(files, ExifOperationOption::ReReadFile) > 0 && !listener->wait())
+            qWarning("the save did not finish");
+        return listener;
     }
 
     QStringList events;
