@@ -87,8 +87,11 @@ int GroupEditor::createInParent(QWidget *parent, int top, bool first)
 
 int GroupEditor::showEditor(int top)
 {
-    // The separator stays where it was built: only the heading follows the layout.
+    // The separator moves with the heading: left where it was built, it crossed the tall
+    // rows (lists, structures) at the end of the group before.
     m_top = top;
+    if (m_line)
+        m_line->move(m_line->x(), top);
     if (m_label)
         m_label->move(m_label->x(), top + 3);
     return top + 23;

@@ -183,6 +183,9 @@ private Q_SLOTS:
         for (GroupEditor *group : form->groupEditors()) {
             QVERIFY(group->top() > lastTop);
             lastTop = group->top();
+            // The line above a heading goes where the heading goes.
+            if (group->line())
+                QCOMPARE(group->line()->y(), group->top());
             for (SectionEditor *section : group->sectionEditors()) {
                 if (section->label()->isHidden())
                     continue;
