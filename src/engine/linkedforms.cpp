@@ -4,7 +4,10 @@
 #include "catalogue/exiffieldscontroller.h"
 #include "engine/exiffileinfo.h"
 #include "engine/exifutil.h"
+#include "values/imagefiletypes.h"
 #include "values/taglist.h"
+
+#include <algorithm>
 
 LinkedForms::LinkedForms(const ExifField &field)
     : m_keys(QStringList{field.xmlName()} + field.linkedKeys())
@@ -169,8 +172,21 @@ void LinkedForms::setCopies(ExifFileInfo &file, const QStringList &copies) const
 
 void LinkedForms::set(ExifFileInfo &file, const QString &value) const
 {
-    for (qsizetype i = 0; i < m_keys.size(); ++i)
+    for (qsizetype i = 0; i < m_keys.size(); ++i) {
+        if (i > 0 && !takesCopy(file, m_keys.at(i)))
+            continue;
         file.setExifValue(m_keys.at(i), storedValue(i, value));
+    }
+}
+
+bool LinkedForms::takesCopy(const ExifFileInfo &file, const QString &key)
+{
+    if (!key.startsWith(u"IPTC:") || ImageFileTypes::holdsIptcRecord(file.fileName()))
+        return true;
+    // Where another program put an IPTC record, its copy is kept in step like any other.
+    const TagDictionary original = file.originalExifData();
+    return std::any_of(original.keyBegin(), original.keyEnd(),
+                       [](const QString &k) { return k.startsWith(u"IPTC:"); });
 }
 
 void LinkedForms::remove(ExifFileInfo &file) const

@@ -68,6 +68,9 @@ private:
     template <typename Lookup>
     QString firstValue(const Lookup &lookup) const;
     QString comparable(const QString &value) const;
+    // Whether a file gets its copy of the property in key: an IPTC copy only where an IPTC
+    // record belongs.
+    static bool takesCopy(const ExifFileInfo &file, const QString &key);
     // A copy kept as one text where the row has a list (EXIF's Artist beside XMP's creators,
     // "A; B" as the Metadata Working Group joins them): its value as the row holds it, and
     // back.

@@ -48,3 +48,9 @@ QString ImageFileTypes::extensionOf(const QString &path)
         return {};
     return path.mid(dot + 1).toLower();
 }
+
+bool ImageFileTypes::holdsIptcRecord(const QString &path)
+{
+    static const QStringList extensions{u"jpg"_qs, u"jpeg"_qs, u"jpe"_qs, u"tif"_qs, u"tiff"_qs};
+    return extensions.contains(extensionOf(path));
+}

@@ -16,6 +16,10 @@ public:
     static bool isSupportedFile(const QString &path);
     static bool isCameraRawFile(const QString &path);
 
+    // Whether an IPTC-IIM record is at home in the file: JPEG and TIFF. Elsewhere ExifTool either
+    // cannot write one (WebP, HEIC) or makes one no other program reads (PNG).
+    static bool holdsIptcRecord(const QString &path);
+
     // Lower-cased, without the dot; empty when the name has none.
     static QString extensionOf(const QString &path);
 };
