@@ -87,8 +87,8 @@ int GroupEditor::createInParent(QWidget *parent, int top, bool first)
 
 int GroupEditor::showEditor(int top)
 {
-    // The separator moves with the heading: left where it was built, it crossed the tall
-    // rows (lists, structures) at the end of the group before.
+    // The separator goes with the heading: left where it was built, it would cross the tall
+    // rows (lists, structures) that end the group above.
     m_top = top;
     if (m_line)
         m_line->move(m_line->x(), top);
