@@ -45,8 +45,7 @@ ExifFieldPtr ExifFieldsController::fieldOf(const QString &key) const
     if (dash < 0)
         return nullptr;
     ExifFieldPtr alternative = m_configurationsMap.value(key.left(dash));
-    return alternative && alternative->dataType() == FieldDataType::LangAlt ? alternative
-                                                                            : nullptr;
+    return alternative && alternative->dataType() == FieldDataType::LangAlt ? alternative : nullptr;
 }
 
 void ExifFieldsController::setLinksForms(bool on)

@@ -210,7 +210,8 @@ void FieldEditor::visitValues(const QList<ExifFileInfoPtr> &files, bool withOrig
             return;
         }
         for (qsizetype i = 0; i < files.size(); ++i) {
-            const EditedValues values = snapshot ? snapshot->current(i) : files.at(i)->editedValues();
+            const EditedValues values =
+                snapshot ? snapshot->current(i) : files.at(i)->editedValues();
             const QString original = withOriginal ? m_forms.valueIn(values.original()) : QString();
             if (!visit(files.at(i), m_forms.valueIn(values), original))
                 return;
@@ -240,7 +241,8 @@ void FieldEditor::visitChangedValues(const QList<ExifFileInfoPtr> &files,
         // A file counts as changed when any copy changed, even one the row does not show.
         const ExifFilesSnapshot *snapshot = ExifFilesSnapshot::forFiles(files);
         for (qsizetype i = 0; i < files.size(); ++i) {
-            const EditedValues values = snapshot ? snapshot->current(i) : files.at(i)->editedValues();
+            const EditedValues values =
+                snapshot ? snapshot->current(i) : files.at(i)->editedValues();
             if (m_forms.isChanged(values) &&
                 !visit(files.at(i), m_forms.valueIn(values), m_forms.valueIn(values.original())))
                 return;
@@ -723,8 +725,8 @@ void FieldEditor::showCopiesMenu()
         const QString text =
             m_exifFiles.size() == 1
                 ? tr("Use \u201c%1\u201d from %2 (%3) for every copy")
-                      .arg(metrics.elidedText(valueOfKey.value(key), Qt::ElideRight, 300),
-                           standard, key)
+                      .arg(metrics.elidedText(valueOfKey.value(key), Qt::ElideRight, 300), standard,
+                           key)
                 : tr("Use each file's %1 value (%2) for every copy").arg(standard, key);
         menu.addAction(text, this, [this, key] { useCopyEverywhere(key); });
     }

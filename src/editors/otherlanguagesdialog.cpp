@@ -122,8 +122,8 @@ void OtherLanguagesDialog::accept()
         const QString code = normalizedLanguage(typed);
         QString problem;
         if (code.isNull())
-            problem = tr("\u201c%1\u201d is not a language code such as de, fr-CA or pt-BR.")
-                          .arg(typed);
+            problem =
+                tr("\u201c%1\u201d is not a language code such as de, fr-CA or pt-BR.").arg(typed);
         else if (seen.contains(code))
             problem = tr("%1 is listed twice.").arg(code);
         if (!problem.isEmpty()) {

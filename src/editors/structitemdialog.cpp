@@ -120,8 +120,9 @@ QString StructItemDialog::displayText(const StructValue &value)
     case StructValue::Kind::Text:
         return value.text;
     case StructValue::Kind::List: {
-        if (std::all_of(value.items.cbegin(), value.items.cend(),
-                        [](const StructValue &item) { return item.kind == StructValue::Kind::Text; })) {
+        if (std::all_of(value.items.cbegin(), value.items.cend(), [](const StructValue &item) {
+                return item.kind == StructValue::Kind::Text;
+            })) {
             QStringList texts;
             for (const StructValue &item : value.items)
                 texts.append(item.text);
@@ -152,8 +153,8 @@ void StructItemDialog::accept()
         if (serialized) {
             const auto value = StructValue::parse(text);
             if (!value) {
-                m_error->setText(tr("%1 is not in ExifTool's structure form.")
-                                     .arg(memberTitle(row.name)));
+                m_error->setText(
+                    tr("%1 is not in ExifTool's structure form.").arg(memberTitle(row.name)));
                 m_error->show();
                 row.edit->setFocus();
                 return;

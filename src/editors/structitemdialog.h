@@ -22,8 +22,8 @@ class StructItemDialog : public QDialog
 
 public:
     // items: the item in each file that has it (one for a single file or a new item: empty).
-    StructItemDialog(const ExifField &field, const QString &title,
-                     const QList<StructValue> &items, QWidget *parent = nullptr);
+    StructItemDialog(const ExifField &field, const QString &title, const QList<StructValue> &items,
+                     QWidget *parent = nullptr);
 
     QLineEdit *memberField(const QString &name) const;
     QString errorText() const;

@@ -106,16 +106,13 @@ int StructureEditor::createEditorContent(QWidget *parent, QRect frame)
     }
     connect(m_add, &QPushButton::clicked, this, [this] { openItem(-1); });
     connect(m_edit, &QPushButton::clicked, this, [this] { openItem(m_list->currentRow()); });
-    connect(m_list, &QListWidget::itemActivated, this,
-            [this] { openItem(m_list->currentRow()); });
+    connect(m_list, &QListWidget::itemActivated, this, [this] { openItem(m_list->currentRow()); });
     connect(m_remove, &QPushButton::clicked, this,
             [this] { removeItem(field()->isStructureList() ? m_list->currentRow() : 0); });
-    connect(m_up, &QPushButton::clicked, this, [this] {
-        moveItem(m_list->currentRow(), m_list->currentRow() - 1);
-    });
-    connect(m_down, &QPushButton::clicked, this, [this] {
-        moveItem(m_list->currentRow(), m_list->currentRow() + 1);
-    });
+    connect(m_up, &QPushButton::clicked, this,
+            [this] { moveItem(m_list->currentRow(), m_list->currentRow() - 1); });
+    connect(m_down, &QPushButton::clicked, this,
+            [this] { moveItem(m_list->currentRow(), m_list->currentRow() + 1); });
     connect(m_list, &QListWidget::currentRowChanged, this, &StructureEditor::updateButtons);
     setContentControl(m_box);
     m_box->show();

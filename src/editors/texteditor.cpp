@@ -463,8 +463,8 @@ bool TextEditor::eventFilter(QObject *watched, QEvent *event)
     if (watched == m_editor && event->type() == QEvent::ContextMenu) {
         std::unique_ptr<QMenu> menu(m_editor->createStandardContextMenu());
         menu->addSeparator();
-        QAction *languages = menu->addAction(tr("Other Languages\u2026"), this,
-                                             &TextEditor::openOtherLanguages);
+        QAction *languages =
+            menu->addAction(tr("Other Languages\u2026"), this, &TextEditor::openOtherLanguages);
         languages->setEnabled(hasExifFiles());
         menu->exec(static_cast<QContextMenuEvent *>(event)->globalPos());
         return true;

@@ -137,8 +137,8 @@ void ExifReportParser::handleEnd(QStringView name)
         m_currentDirName = m_hasTextBuffer ? m_textBuffer : QString();
     }
 
-    if (m_parsePosition == 2 && !m_frames.isEmpty() && name != bagElement &&
-        name != seqElement && name != altElement) {
+    if (m_parsePosition == 2 && !m_frames.isEmpty() && name != bagElement && name != seqElement &&
+        name != altElement) {
         Frame done = m_frames.takeLast();
         if (m_frames.isEmpty()) {
             if (m_isStructure)

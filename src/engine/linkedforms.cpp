@@ -56,8 +56,7 @@ LinkedForms LinkedForms::ofKey(const QString &key)
     return alone;
 }
 
-template <typename Lookup>
-QString LinkedForms::firstValue(const Lookup &lookup) const
+template <typename Lookup> QString LinkedForms::firstValue(const Lookup &lookup) const
 {
     QString own;
     for (qsizetype i = 0; i < m_keys.size(); ++i) {

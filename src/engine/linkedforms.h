@@ -65,8 +65,7 @@ public:
     static QString standardOfKey(const QString &key);
 
 private:
-    template <typename Lookup>
-    QString firstValue(const Lookup &lookup) const;
+    template <typename Lookup> QString firstValue(const Lookup &lookup) const;
     QString comparable(const QString &value) const;
     // Whether a file gets its copy of the property in key: an IPTC copy only where an IPTC
     // record belongs.

@@ -51,8 +51,9 @@ void applyPreset(const Preset &preset, ExifFileInfo &file)
     }
     for (const QString &key : preset.removedValues()) {
         const LinkedForms forms = LinkedForms::ofKey(key);
-        const bool valueGiven = std::any_of(forms.keys().cbegin(), forms.keys().cend(),
-                                            [&changed](const QString &k) { return changed.contains(k); });
+        const bool valueGiven =
+            std::any_of(forms.keys().cbegin(), forms.keys().cend(),
+                        [&changed](const QString &k) { return changed.contains(k); });
         if (!valueGiven)
             forms.remove(file);
     }

@@ -24,7 +24,10 @@ QString escaped(const QString &text, QChar close)
 class Reader
 {
 public:
-    explicit Reader(const QString &text) : m_text(text) {}
+    explicit Reader(const QString &text)
+        : m_text(text)
+    {
+    }
 
     std::optional<StructValue> value(QChar close)
     {
@@ -73,8 +76,7 @@ private:
         const qsizetype start = m_pos;
         while (m_pos < m_text.size() &&
                (m_text.at(m_pos).isLetterOrNumber() || m_text.at(m_pos) == u'_' ||
-                m_text.at(m_pos) == u'-' || m_text.at(m_pos) == u':' ||
-                m_text.at(m_pos) == u'.'))
+                m_text.at(m_pos) == u'-' || m_text.at(m_pos) == u':' || m_text.at(m_pos) == u'.'))
             ++m_pos;
         const QString found = m_text.mid(start, m_pos - start);
         skipBlanks();

@@ -7,9 +7,10 @@
 #include <optional>
 
 // A value of an XMP structure (IPTC's Location Shown, Artwork or Object...) as ExifTool writes
-// and reads it in its own serialized form: "[{City=Vienna,LocationId=[a,b]},{City=Paris|, France}]".
-// Braces hold a structure's members, brackets a list's items, and a bar escapes the characters
-// that would end a value. A member in a language other than the default is a member of its own
+// and reads it in its own serialized form: "[{City=Vienna,LocationId=[a,b]},{City=Paris|,
+// France}]". Braces hold a structure's members, brackets a list's items, and a bar escapes the
+// characters that would end a value. A member in a language other than the default is a member of
+// its own
 // ("AOTitle-fr"), as ExifTool reads it.
 struct StructValue
 {

@@ -125,10 +125,9 @@ private Q_SLOTS:
         QFile file(sourcePath(u"resources/Fields.xml"_s));
         QVERIFY(file.open(QIODevice::ReadOnly));
         // An unknown representation keyword loads silently as none.
-        static const QSet<QString> known{u"number"_s,    u"date"_s,       u"datetime"_s,
-                                         u"enum"_s,      u"multi-enum"_s, u"fraction"_s,
-                                         u"longitude"_s, u"latitude"_s,   u"strings"_s,
-                                         u"structure"_s};
+        static const QSet<QString> known{
+            u"number"_s,   u"date"_s,      u"datetime"_s, u"enum"_s,    u"multi-enum"_s,
+            u"fraction"_s, u"longitude"_s, u"latitude"_s, u"strings"_s, u"structure"_s};
         static const QRegularExpression attribute(u"representation=\"([^\"]*)\""_s);
         for (const auto &match : attribute.globalMatch(QString::fromUtf8(file.readAll())))
             QVERIFY2(known.contains(match.captured(1)), qPrintable(match.captured(1)));

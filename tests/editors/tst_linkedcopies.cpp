@@ -31,9 +31,9 @@ using Values = QMap<QString, QString>;
 Values copiesOnDisk(const QString &path, const QStringList &keys)
 {
     const QJsonObject read =
-        QJsonDocument::fromJson(
-            Fixtures::runExifTool({u"-j"_qs, u"-G1"_qs, u"-charset"_qs, u"iptc=UTF8"_qs, u"--"_qs, path})
-                .out)[0]
+        QJsonDocument::fromJson(Fixtures::runExifTool({u"-j"_qs, u"-G1"_qs, u"-charset"_qs,
+                                                       u"iptc=UTF8"_qs, u"--"_qs, path})
+                                    .out)[0]
             .toObject();
     Values values;
     for (const QString &key : keys) {
@@ -116,7 +116,8 @@ private Q_SLOTS:
         const QList<ExifFileInfoPtr> files{std::make_shared<ExifFileInfo>(path)};
         QVERIFY(MetadataReader(Fixtures::exifTool()).readRecords(files).ok());
 
-        EditorFixtures::Row<TextEditor> row(ExifFieldsController::defaultInstance()->field(Description));
+        EditorFixtures::Row<TextEditor> row(
+            ExifFieldsController::defaultInstance()->field(Description));
         row.editor.setExifFiles(files);
         QCOMPARE(row.editor.editor()->text(), shown.isNull() ? QString(u""_qs) : shown);
         QVERIFY(row.editor.copiesMark()->isHidden());
@@ -144,10 +145,10 @@ private Q_SLOTS:
         QTest::addColumn<QString>("chosen");
         QTest::addColumn<QStringList>("result");
         const Values harbour{{Description, u"Harbour at dawn"_qs}, {Caption, u"Harbour"_qs}};
-        QTest::newRow("XMP chosen") << QList<Values>{harbour} << Description
-                                    << QStringList{u"Harbour at dawn"_qs};
-        QTest::newRow("IPTC chosen") << QList<Values>{harbour} << Caption
-                                     << QStringList{u"Harbour"_qs};
+        QTest::newRow("XMP chosen")
+            << QList<Values>{harbour} << Description << QStringList{u"Harbour at dawn"_qs};
+        QTest::newRow("IPTC chosen")
+            << QList<Values>{harbour} << Caption << QStringList{u"Harbour"_qs};
         // Each file takes its own EXIF copy, a file without one the value its row shows; a
         // file whose copies agree is left alone.
         QTest::newRow("three files, EXIF chosen")
@@ -170,7 +171,8 @@ private Q_SLOTS:
         }
         QVERIFY(MetadataReader(Fixtures::exifTool()).readRecords(infos).ok());
 
-        EditorFixtures::Row<TextEditor> row(ExifFieldsController::defaultInstance()->field(Description));
+        EditorFixtures::Row<TextEditor> row(
+            ExifFieldsController::defaultInstance()->field(Description));
         row.editor.setExifFiles(infos);
         QToolButton *mark = row.editor.copiesMark();
         QVERIFY(mark->isVisible());
@@ -217,7 +219,8 @@ private Q_SLOTS:
         QCOMPARE(row.editor.editor()->tokens(), (QStringList{u"Ann Smith"_qs, u"Bob Jones"_qs}));
         save(files);
         const QJsonObject read =
-            QJsonDocument::fromJson(Fixtures::runExifTool({u"-j"_qs, u"-G1"_qs, u"--"_qs, path}).out)[0]
+            QJsonDocument::fromJson(
+                Fixtures::runExifTool({u"-j"_qs, u"-G1"_qs, u"--"_qs, path}).out)[0]
                 .toObject();
         for (const QString &list : {u"XMP-dc:Creator"_qs, u"IPTC:By-line"_qs})
             QCOMPARE(read.value(list).toVariant().toStringList(),

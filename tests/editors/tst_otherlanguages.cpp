@@ -24,8 +24,7 @@ using Languages = QMap<QString, QString>; // "x-default" for the default one
 Languages languagesOnDisk(const QString &path)
 {
     const QJsonObject read =
-        QJsonDocument::fromJson(Fixtures::runExifTool({u"-j"_qs, u"-G1"_qs, u"--"_qs, path})
-                                    .out)[0]
+        QJsonDocument::fromJson(Fixtures::runExifTool({u"-j"_qs, u"-G1"_qs, u"--"_qs, path}).out)[0]
             .toObject();
     Languages languages;
     for (auto it = read.constBegin(); it != read.constEnd(); ++it) {

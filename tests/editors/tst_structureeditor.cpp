@@ -21,9 +21,9 @@ const QString Key = QStringLiteral("XMP-iptcExt:LocationShown");
 
 QString locationsOnDisk(const QString &path)
 {
-    return QString::fromUtf8(
-               Fixtures::runExifTool({u"-struct"_qs, u"-n"_qs, u"-s3"_qs, u'-' + Key, u"--"_qs, path})
-                   .out)
+    return QString::fromUtf8(Fixtures::runExifTool(
+                                 {u"-struct"_qs, u"-n"_qs, u"-s3"_qs, u'-' + Key, u"--"_qs, path})
+                                 .out)
         .trimmed();
 }
 
@@ -73,8 +73,9 @@ private Q_SLOTS:
             << QStringList{u'[' + vienna + u',' + paris + u']', u'[' + rome + u',' + paris + u']'}
             << u"edit 1 CountryCode FRA"_qs
             << QStringList{u"Multiple values"_qs, u"Paris, France, Left bank"_qs}
-            << QStringList{u'[' + vienna + u",{City=Paris|, France,CountryCode=FRA,Sublocation=Left bank}]",
-                           u'[' + rome + u",{City=Paris|, France,CountryCode=FRA,Sublocation=Left bank}]"};
+            << QStringList{
+                   u'[' + vienna + u",{City=Paris|, France,CountryCode=FRA,Sublocation=Left bank}]",
+                   u'[' + rome + u",{City=Paris|, France,CountryCode=FRA,Sublocation=Left bank}]"};
         QTest::newRow("an item added to files without one")
             << QStringList{QString(), u'[' + rome + u']'} << u"add City Oslo"_qs
             << QStringList{u"Multiple values"_qs}
@@ -84,8 +85,8 @@ private Q_SLOTS:
             << QStringList{u"Vienna, Austria, a; b"_qs, u"Paris, France, Left bank"_qs}
             << QStringList{u'[' + paris + u']'};
         QTest::newRow("the last item removed")
-            << QStringList{u'[' + rome + u']'} << u"remove 0"_qs
-            << QStringList{u"Rome, Europe"_qs} << QStringList{QString()};
+            << QStringList{u'[' + rome + u']'} << u"remove 0"_qs << QStringList{u"Rome, Europe"_qs}
+            << QStringList{QString()};
         QTest::newRow("the second item moved up")
             << QStringList{u'[' + vienna + u',' + paris + u']'} << u"move 1 0"_qs
             << QStringList{u"Vienna, Austria, a; b"_qs, u"Paris, France, Left bank"_qs}
@@ -110,7 +111,8 @@ private Q_SLOTS:
         }
         QVERIFY(MetadataReader(Fixtures::exifTool()).readRecords(infos).ok());
 
-        EditorFixtures::Row<StructureEditor> row(ExifFieldsController::defaultInstance()->field(Key));
+        EditorFixtures::Row<StructureEditor> row(
+            ExifFieldsController::defaultInstance()->field(Key));
         row.editor.setExifFiles(infos);
         QCOMPARE(shownItems(row.editor.itemsList()), shown);
 

@@ -289,9 +289,8 @@ private Q_SLOTS:
         QCOMPARE(warnings().contains("MakerNotes"), !readable);
 
         const auto op = run(false, file);
-        QList<QStringList> expected{
-            {u"-n"_qs, u"-X"_qs, u"-make="_qs, u"-model="_qs, u"-makernotes="_qs, u"-api"_qs,
-             u"struct=2"_qs}};
+        QList<QStringList> expected{{u"-n"_qs, u"-X"_qs, u"-make="_qs, u"-model="_qs,
+                                     u"-makernotes="_qs, u"-api"_qs, u"struct=2"_qs}};
         if (!readable)
             expected.prepend(
                 {u"-n"_qs, u"-X"_qs, u"-MakerNotes:all="_qs, u"-api"_qs, u"struct=2"_qs});

@@ -105,8 +105,8 @@ private Q_SLOTS:
 
     void fixedArgumentsFollowTheForceSettings()
     {
-        const QStringList always{u"-n"_qs,     u"-lang"_qs, u"en"_qs,      u"-charset"_qs,
-                                 u"UTF-8"_qs,  u"-X"_qs,    u"-api"_qs,    u"struct=2"_qs};
+        const QStringList always{u"-n"_qs,    u"-lang"_qs, u"en"_qs,   u"-charset"_qs,
+                                 u"UTF-8"_qs, u"-X"_qs,    u"-api"_qs, u"struct=2"_qs};
         for (const bool on : {false, true}) {
             UserSettings::setValue(UserSettings::ForceFixBase, on);
             UserSettings::setValue(UserSettings::IgnoreMinorErrors, on);

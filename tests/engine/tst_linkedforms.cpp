@@ -60,12 +60,13 @@ private Q_SLOTS:
         QTest::addColumn<QString>("shown");
         // EXIF keeps the creators in one text, joined as the Metadata Working Group says.
         QTest::newRow("creators from EXIF's artist")
-            << Artist << Values{{Artist, u"Ann Smith; Bob, Jr.;"_qs}}
-            << u"Ann Smith,Bob\\, Jr."_qs;
+            << Artist << Values{{Artist, u"Ann Smith; Bob, Jr.;"_qs}} << u"Ann Smith,Bob\\, Jr."_qs;
         QTest::newRow("creators from XMP first")
             << Artist << Values{{Creator, u"Ann"_qs}, {Artist, u"Bob"_qs}} << u"Ann"_qs;
-        QTest::newRow("XMP first") << Caption << Values{{Description, u"x"_qs}, {Caption, u"i"_qs}} << u"x"_qs;
-        QTest::newRow("IPTC only, as in older files") << Caption << Values{{Caption, u"i"_qs}} << u"i"_qs;
+        QTest::newRow("XMP first")
+            << Caption << Values{{Description, u"x"_qs}, {Caption, u"i"_qs}} << u"x"_qs;
+        QTest::newRow("IPTC only, as in older files")
+            << Caption << Values{{Caption, u"i"_qs}} << u"i"_qs;
         QTest::newRow("EXIF only") << Caption << Values{{ImageDescription, u"e"_qs}} << u"e"_qs;
         QTest::newRow("empty XMP, text in EXIF")
             << Caption << Values{{Description, u""_qs}, {ImageDescription, u"e"_qs}} << u"e"_qs;
@@ -95,23 +96,21 @@ private Q_SLOTS:
             << false;
         QTest::newRow("one copy") << Description << Values{{Caption, u"a"_qs}} << false;
         // EXIF and IPTC readers drop trailing blanks that XMP keeps.
-        QTest::newRow("trailing blank") << Description
-                                        << Values{{Description, u"a "_qs}, {Caption, u"a"_qs}}
-                                        << false;
-        QTest::newRow("other text") << Description
-                                    << Values{{Description, u"a"_qs}, {Caption, u"b"_qs}} << true;
+        QTest::newRow("trailing blank")
+            << Description << Values{{Description, u"a "_qs}, {Caption, u"a"_qs}} << false;
+        QTest::newRow("other text")
+            << Description << Values{{Description, u"a"_qs}, {Caption, u"b"_qs}} << true;
         QTest::newRow("empty against text")
             << Description << Values{{Description, u""_qs}, {ImageDescription, u"a"_qs}} << true;
-        QTest::newRow("leading blank") << Description
-                                       << Values{{Description, u" a"_qs}, {Caption, u"a"_qs}}
-                                       << true;
+        QTest::newRow("leading blank")
+            << Description << Values{{Description, u" a"_qs}, {Caption, u"a"_qs}} << true;
         QTest::newRow("keywords in another order")
             << Subject << Values{{Subject, u"sea,dawn"_qs}, {Keywords, u"dawn,sea"_qs}} << false;
         QTest::newRow("a keyword missing")
             << Subject << Values{{Subject, u"sea,dawn"_qs}, {Keywords, u"sea"_qs}} << true;
         QTest::newRow("creators joined in EXIF")
-            << Creator << Values{{Creator, u"Ann,Bob"_qs}, {ByLine, u"Ann,Bob"_qs},
-                                 {Artist, u"Ann; Bob"_qs}}
+            << Creator
+            << Values{{Creator, u"Ann,Bob"_qs}, {ByLine, u"Ann,Bob"_qs}, {Artist, u"Ann; Bob"_qs}}
             << false;
         QTest::newRow("a creator missing from EXIF")
             << Creator << Values{{Creator, u"Ann,Bob"_qs}, {Artist, u"Ann"_qs}} << true;
@@ -125,7 +124,8 @@ private Q_SLOTS:
         QFETCH(Values, values);
         QFETCH(bool, differ);
         const LinkedForms forms = LinkedForms::ofKey(key);
-        const QList<LinkedForms::Copy> copies = forms.differingCopies(fileWith(values)->editedValues());
+        const QList<LinkedForms::Copy> copies =
+            forms.differingCopies(fileWith(values)->editedValues());
         QCOMPARE(!copies.isEmpty(), differ);
         if (differ) {
             // Every copy present, in the row's order, with its own text.
@@ -153,19 +153,23 @@ private Q_SLOTS:
         const QStringList none;
         QTest::newRow("a copy's value goes to every copy")
             << true << Values{{Description, u"old"_qs}} << Values{{Caption, u"new"_qs}} << none
-            << Values{{Description, u"new"_qs}, {Caption, u"new"_qs}, {ImageDescription, u"new"_qs}};
+            << Values{
+                   {Description, u"new"_qs}, {Caption, u"new"_qs}, {ImageDescription, u"new"_qs}};
         QTest::newRow("the row's own tag wins over a copy")
             << true << Values{} << Values{{Caption, u"iptc"_qs}, {Description, u"xmp"_qs}} << none
-            << Values{{Description, u"xmp"_qs}, {Caption, u"xmp"_qs}, {ImageDescription, u"xmp"_qs}};
+            << Values{
+                   {Description, u"xmp"_qs}, {Caption, u"xmp"_qs}, {ImageDescription, u"xmp"_qs}};
         QTest::newRow("of two copies, the first in the row's order")
             << true << Values{} << Values{{ImageDescription, u"exif"_qs}, {Caption, u"iptc"_qs}}
             << none
-            << Values{{Description, u"iptc"_qs}, {Caption, u"iptc"_qs}, {ImageDescription, u"iptc"_qs}};
+            << Values{{Description, u"iptc"_qs},
+                      {Caption, u"iptc"_qs},
+                      {ImageDescription, u"iptc"_qs}};
         QTest::newRow("removing one copy removes them all")
-            << true
-            << Values{{Rights, u"r"_qs}, {CopyrightNotice, u"r"_qs}, {Copyright, u"r"_qs}}
+            << true << Values{{Rights, u"r"_qs}, {CopyrightNotice, u"r"_qs}, {Copyright, u"r"_qs}}
             << Values{} << QStringList{Copyright}
-            << Values{{Rights, u"<absent>"_qs}, {CopyrightNotice, u"<absent>"_qs},
+            << Values{{Rights, u"<absent>"_qs},
+                      {CopyrightNotice, u"<absent>"_qs},
                       {Copyright, u"<absent>"_qs}};
         QTest::newRow("a value given beats a copy removed")
             << true << Values{{Copyright, u"old"_qs}} << Values{{Rights, u"new"_qs}}
@@ -173,18 +177,22 @@ private Q_SLOTS:
             << Values{{Rights, u"new"_qs}, {CopyrightNotice, u"new"_qs}, {Copyright, u"new"_qs}};
         QTest::newRow("creators joined for EXIF")
             << true << Values{} << Values{{Creator, u"Ann,Bob\\, Jr."_qs}} << none
-            << Values{{Creator, u"Ann,Bob\\, Jr."_qs}, {ByLine, u"Ann,Bob\\, Jr."_qs},
+            << Values{{Creator, u"Ann,Bob\\, Jr."_qs},
+                      {ByLine, u"Ann,Bob\\, Jr."_qs},
                       {Artist, u"Ann; Bob, Jr."_qs}};
         QTest::newRow("EXIF's artist split for the lists")
             << true << Values{} << Values{{Artist, u"Ann; Bob"_qs}} << none
             << Values{{Creator, u"Ann,Bob"_qs}, {ByLine, u"Ann,Bob"_qs}, {Artist, u"Ann; Bob"_qs}};
         QTest::newRow("a row per tag: the tag alone")
             << false << Values{{Description, u"old"_qs}} << Values{{Caption, u"new"_qs}} << none
-            << Values{{Description, u"old"_qs}, {Caption, u"new"_qs}, {ImageDescription, u"<absent>"_qs}};
+            << Values{{Description, u"old"_qs},
+                      {Caption, u"new"_qs},
+                      {ImageDescription, u"<absent>"_qs}};
         QTest::newRow("a row per tag: removal of the tag alone")
             << false << Values{{Rights, u"r"_qs}, {Copyright, u"r"_qs}} << Values{}
             << QStringList{Copyright}
-            << Values{{Rights, u"r"_qs}, {CopyrightNotice, u"<absent>"_qs},
+            << Values{{Rights, u"r"_qs},
+                      {CopyrightNotice, u"<absent>"_qs},
                       {Copyright, u"<absent>"_qs}};
     }
     void presetsReachEveryCopy()

@@ -70,11 +70,10 @@ private Q_SLOTS:
     void oneRunReadsTheWholeBatch()
     {
         QVERIFY2(m_result.ok(), qPrintable(m_result.errorMessage));
-        QCOMPARE(
-            QString::fromUtf8(readFile(m_dir.filePath(u"runs.log"_qs))).split(u'\n'),
-            QStringList({u"-v0"_qs, u"-g1"_qs, u"-X"_qs, u"-n"_qs, u"-charset"_qs, u"UTF-8"_qs,
-                         u"-api"_qs, u"struct=2"_qs,
-                         m_set.jpeg, m_set.tiff, m_set.png, m_set.text, u"--end--"_qs, QString()}));
+        QCOMPARE(QString::fromUtf8(readFile(m_dir.filePath(u"runs.log"_qs))).split(u'\n'),
+                 QStringList({u"-v0"_qs, u"-g1"_qs, u"-X"_qs, u"-n"_qs, u"-charset"_qs, u"UTF-8"_qs,
+                              u"-api"_qs, u"struct=2"_qs, m_set.jpeg, m_set.tiff, m_set.png,
+                              m_set.text, u"--end--"_qs, QString()}));
         QVERIFY(!record(m_set.missing)->isValid());
         QVERIFY(record(m_set.missing)->exifData().isEmpty());
         for (const QString &path : {m_set.jpeg, m_set.tiff, m_set.png, m_set.text}) {
@@ -188,9 +187,8 @@ private Q_SLOTS:
         const qsizetype runs = logged.removeAll(u"--end--"_qs);
         QVERIFY(runs >= 2 && runs <= 4);
         QCOMPARE(logged.count(u"-X"_qs), runs); // each run has the read options
-        for (const QString &option :
-             {u"-v0"_qs, u"-g1"_qs, u"-X"_qs, u"-n"_qs, u"-charset"_qs, u"UTF-8"_qs, u"-api"_qs,
-              u"struct=2"_qs})
+        for (const QString &option : {u"-v0"_qs, u"-g1"_qs, u"-X"_qs, u"-n"_qs, u"-charset"_qs,
+                                      u"UTF-8"_qs, u"-api"_qs, u"struct=2"_qs})
             logged.removeAll(option);
         QCOMPARE(logged, paths);
     }

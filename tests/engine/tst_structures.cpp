@@ -67,8 +67,7 @@ private Q_SLOTS:
             << u"[{AOCreator=[Leonardo],AOTitle=Mona Lisa,AOTitle-de=Mona Lisa (de),"
                "AOTitle-fr=La Joconde}]"_qs;
         QTest::newRow("one structure, not a list")
-            << u"XMP-iptcCore:CreatorContactInfo"_qs
-            << u"{CiAdrCity=Lille,CiEmailWork=a@b.c}"_qs;
+            << u"XMP-iptcCore:CreatorContactInfo"_qs << u"{CiAdrCity=Lille,CiEmailWork=a@b.c}"_qs;
         QTest::newRow("structures inside a structure")
             << u"XMP-iptcExt:ImageRegion"_qs
             << u"[{Name=Face,RCtype=[{Identifier=[http://cv.iptc.org/x],Name=Human}],"
@@ -81,12 +80,12 @@ private Q_SLOTS:
     {
         QFETCH(QString, key);
         QFETCH(QString, assignment);
-        const QString path = m_dir.filePath(
-            u"read-%1.jpg"_qs.arg(QString::fromLatin1(QTest::currentDataTag())));
+        const QString path =
+            m_dir.filePath(u"read-%1.jpg"_qs.arg(QString::fromLatin1(QTest::currentDataTag())));
         QCOMPARE(Fixtures::makeImage(path, {u'-' + key + u'=' + assignment}), QString());
         const QString exifTools =
-            QString::fromUtf8(Fixtures::runExifTool({u"-struct"_qs, u"-n"_qs, u"-s3"_qs, u'-' + key,
-                                                     u"--"_qs, path})
+            QString::fromUtf8(Fixtures::runExifTool(
+                                  {u"-struct"_qs, u"-n"_qs, u"-s3"_qs, u'-' + key, u"--"_qs, path})
                                   .out)
                 .trimmed();
         QVERIFY(!exifTools.isEmpty());
@@ -142,11 +141,11 @@ private Q_SLOTS:
                 continue;
             QVERIFY2(after.value(key) == before.value(key),
                      qPrintable(key + u": "_qs +
-                                QString::fromUtf8(QJsonDocument(QJsonArray{before.value(key)}).toJson(
-                                    QJsonDocument::Compact)) +
+                                QString::fromUtf8(QJsonDocument(QJsonArray{before.value(key)})
+                                                      .toJson(QJsonDocument::Compact)) +
                                 u" became "_qs +
-                                QString::fromUtf8(QJsonDocument(QJsonArray{after.value(key)}).toJson(
-                                    QJsonDocument::Compact))));
+                                QString::fromUtf8(QJsonDocument(QJsonArray{after.value(key)})
+                                                      .toJson(QJsonDocument::Compact))));
         }
         QCOMPARE(after.size(), before.size() - 1);
         // The record read back after the save holds the structures as they are on disk.

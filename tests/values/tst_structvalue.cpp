@@ -13,14 +13,14 @@ private Q_SLOTS:
     void exifToolsFormRoundTrips_data()
     {
         QTest::addColumn<QString>("serialized");
-        QTest::newRow("list of structures") << u"[{City=Vienna,CountryName=Austria},{City=Graz}]"_qs;
+        QTest::newRow("list of structures")
+            << u"[{City=Vienna,CountryName=Austria},{City=Graz}]"_qs;
         QTest::newRow("nested list") << u"[{City=Vienna,LocationId=[a,b]}]"_qs;
         QTest::newRow("escaped comma and bar") << u"[{City=Paris|, France,Sublocation=a || b}]"_qs;
         // Only the bracket that would close the value needs its bar.
         QTest::newRow("brackets in a member") << u"{CiAdrCity=x [1|} ]y}"_qs;
         QTest::newRow("brackets in a list item") << u"[a|],|{b}]"_qs;
-        QTest::newRow("opening bracket and blank at the start")
-            << u"[{A=|[x,B=| y,C=|{z}]"_qs;
+        QTest::newRow("opening bracket and blank at the start") << u"[{A=|[x,B=| y,C=|{z}]"_qs;
         QTest::newRow("language members") << u"[{AOTitle=Mona,AOTitle-fr=Joconde}]"_qs;
         QTest::newRow("single structure") << u"{CiAdrCity=Lille,CiEmailWork=a@b.c}"_qs;
         QTest::newRow("empty list item") << u"[a,,b]"_qs;
@@ -42,7 +42,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         QTest::newRow("comma") << u"{City=Paris|, France}"_qs << u"City"_qs << u"Paris, France"_qs;
         QTest::newRow("bar") << u"{City=a || b}"_qs << u"City"_qs << u"a | b"_qs;
-        QTest::newRow("leading blank kept when escaped") << u"{City=| x}"_qs << u"City"_qs << u" x"_qs;
+        QTest::newRow("leading blank kept when escaped")
+            << u"{City=| x}"_qs << u"City"_qs << u" x"_qs;
         QTest::newRow("leading blank dropped") << u"{City=  x}"_qs << u"City"_qs << u"x"_qs;
         QTest::newRow("equals sign in a value") << u"{Url=a?b=c}"_qs << u"Url"_qs << u"a?b=c"_qs;
         QTest::newRow("unicode") << u"{City=Łódź}"_qs << u"City"_qs << u"Łódź"_qs;
