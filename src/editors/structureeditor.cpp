@@ -276,9 +276,12 @@ StructItemDialog *StructureEditor::openItem(int index)
                 return false;
             const StructValue before = list.at(index);
             applyTo(list[index]);
-            if (list.at(index).members.isEmpty())
+            // An item left without members is no item.
+            if (list.at(index).members.isEmpty()) {
                 list.removeAt(index);
-            return !(before == (index < list.size() ? list.at(index) : StructValue()));
+                return true;
+            }
+            return !(before == list.at(index));
         });
     });
     dialog->open();

@@ -80,6 +80,10 @@ private Q_SLOTS:
             << QStringList{QString(), u'[' + rome + u']'} << u"add City Oslo"_qs
             << QStringList{u"Multiple values"_qs}
             << QStringList{u"[{City=Oslo}]"_qs, u'[' + rome + u",{City=Oslo}]"};
+        // Its only member emptied, an item goes, even beside an equal one.
+        QTest::newRow("an item emptied")
+            << QStringList{u"[{City=Oslo},{City=Oslo}]"_qs} << u"edit 0 City"_qs
+            << QStringList{u"Oslo"_qs, u"Oslo"_qs} << QStringList{u"[{City=Oslo}]"_qs};
         QTest::newRow("the first item removed")
             << QStringList{u'[' + vienna + u',' + paris + u']'} << u"remove 0"_qs
             << QStringList{u"Vienna, Austria, a; b"_qs, u"Paris, France, Left bank"_qs}
