@@ -146,6 +146,37 @@
     </message>
 </context>
 <context>
+    <name>ResultsModel</name>
+    <message numerus="yes">
+        <source>There are %n error(s) and %1</source>
+        <translation>
+            <numerusform>There is %n error and %1</numerusform>
+            <numerusform>There are %n errors and %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n warning(s)</source>
+        <translation>
+            <numerusform>%n warning</numerusform>
+            <numerusform>%n warnings</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are %n error(s)</source>
+        <translation>
+            <numerusform>There is %n error</numerusform>
+            <numerusform>There are %n errors</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are %n warning(s)</source>
+        <translation>
+            <numerusform>There is %n warning</numerusform>
+            <numerusform>There are %n warnings</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ReviewChangesModel</name>
     <message numerus="yes">
         <source>Longer than IPTC allows (at most %n byte(s)): the save will not write this file until it is shortened.</source>

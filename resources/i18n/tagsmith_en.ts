@@ -16,20 +16,8 @@
         <translation>No errors</translation>
     </message>
     <message>
-        <source>There are %i error(s) and %i warning(s)</source>
-        <translation>There are %i error(s) and %i warning(s)</translation>
-    </message>
-    <message>
-        <source>There are %i error(s)</source>
-        <translation>There are %i error(s)</translation>
-    </message>
-    <message>
-        <source>There are %i warning(s)</source>
-        <translation>There are %i warning(s)</translation>
-    </message>
-    <message>
-        <source>Cannot save the file %@. See details bellow for more detailed information.</source>
-        <translation>Cannot save the file %@. See details bellow for more detailed information.</translation>
+        <source>Cannot save the file %@. See details below for more detailed information.</source>
+        <translation>Cannot save the file %@. See details below for more detailed information.</translation>
     </message>
     <message>
         <source>[minor] </source>

@@ -26,13 +26,13 @@ void ErrorMessages::addErrorMessage(const ErrorMessage &message)
 void ErrorMessages::addException(const TagsmithException &exception)
 {
     qCWarning(lcTagsmith).noquote() << exception.reason();
-    addError(QCoreApplication::translate("Localizable", "Unknown error occured during processing"));
+    addError(QCoreApplication::translate("Localizable", "Unknown error occurred during processing"));
 }
 
 void ErrorMessages::addException(const std::exception &exception)
 {
     qCWarning(lcTagsmith).noquote() << QString::fromUtf8(exception.what());
-    addError(QCoreApplication::translate("Localizable", "Unknown error occured during processing"));
+    addError(QCoreApplication::translate("Localizable", "Unknown error occurred during processing"));
 }
 
 void ErrorMessages::addError(const QString &text)

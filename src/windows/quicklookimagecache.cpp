@@ -128,7 +128,7 @@ QuickLookImageCache::onImageReady(const QObject *context,
                        runLoggingExceptions(
                            [&] { receiver(path, image); },
                            [](const QString &, const QString &reason) {
-                               return QStringLiteral("Exception cought: %1").arg(reason);
+                               return QStringLiteral("Exception caught: %1").arg(reason);
                            });
                    });
 }

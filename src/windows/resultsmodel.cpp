@@ -56,20 +56,15 @@ QString ResultsModel::summaryForFiles(const QList<ErrorMessagesPtr> &files)
         errors += static_cast<qint32>(file->errorsCount());
         warnings += static_cast<qint32>(file->warnsCount());
     }
-    const QString placeholder = QStringLiteral("%i");
-    if (!any)
+    if (!any || (errors < 1 && warnings < 1))
         return localized(QStringLiteral("No errors"));
+    // "There is 1 error and 2 warnings": the verb follows the first count.
     if (errors >= 1 && warnings >= 1)
-        return fillPlaceholders(
-            localized(QStringLiteral("There are %i error(s) and %i warning(s)")), placeholder,
-            {QString::number(errors), QString::number(warnings)});
+        return tr("There are %n error(s) and %1", nullptr, errors)
+            .arg(tr("%n warning(s)", nullptr, warnings));
     if (errors >= 1)
-        return fillPlaceholders(localized(QStringLiteral("There are %i error(s)")), placeholder,
-                                {QString::number(errors)});
-    if (warnings < 1)
-        return localized(QStringLiteral("No errors"));
-    return fillPlaceholders(localized(QStringLiteral("There are %i warning(s)")), placeholder,
-                            {QString::number(warnings)});
+        return tr("There are %n error(s)", nullptr, errors);
+    return tr("There are %n warning(s)", nullptr, warnings);
 }
 
 QString ResultsModel::formatErrorForErrorMessage(const ErrorMessage &message)
@@ -93,7 +88,7 @@ QString ResultsModel::formatErrorForErrorMessages(const ErrorMessages &messages)
     if (messages.errorsCount() > 0) {
         return fillPlaceholders(
             localized(QStringLiteral(
-                "Cannot save the file %@. See details bellow for more detailed information.")),
+                "Cannot save the file %@. See details below for more detailed information.")),
             QStringLiteral("%@"), {QFileInfo(messages.fileName()).fileName()});
     }
     return messages.fileName();

@@ -87,7 +87,7 @@ private Q_SLOTS:
         messages.addException(
             TagsmithException(TagsmithException::LogicError, u"secret reason"_qs));
         QCOMPARE(summary(messages), u"E:Unknown error|W:Unknown warning|E:|"
-                                    u"E:Unknown error occured during processing (3/1/0)"_qs);
+                                    u"E:Unknown error occurred during processing (3/1/0)"_qs);
     }
 };
 

@@ -283,7 +283,7 @@ private Q_SLOTS:
                  QStringList());
         QVERIFY(throwing->threadName.startsWith(WriteQueue::ThreadName));
         QCOMPARE(heard->messages(throwing->fileName()),
-                 QStringList{u"3 Unknown error occured during processing"_qs});
+                 QStringList{u"3 Unknown error occurred during processing"_qs});
     }
 
     // Whatever records name one file, a batch changes it once: twice would shift its dates

@@ -234,8 +234,8 @@ void TestQuickLookImageCache::listenerExceptionsAreLoggedAndOthersAreTold()
         listener->listen(cache);
     gone.reset(); // a listener that went away is skipped, not called
 
-    QTest::ignoreMessage(QtWarningMsg, "Exception cought: listener broke");
-    QTest::ignoreMessage(QtWarningMsg, "Exception cought: boom");
+    QTest::ignoreMessage(QtWarningMsg, "Exception caught: listener broke");
+    QTest::ignoreMessage(QtWarningMsg, "Exception caught: boom");
     cache.loadImage(path(QStringLiteral("halves.jpg")), 100, 100);
     QTRY_COMPARE_WITH_TIMEOUT(next.paths.size(), 1, timeoutMs);
     QCOMPARE(named.paths.size() + standard.paths.size(), 2);

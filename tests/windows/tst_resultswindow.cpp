@@ -46,9 +46,12 @@ private Q_SLOTS:
         const auto b = [](const QStringList &messages) { return results(u"/b.jpg"_qs, messages); };
         QTest::newRow("empty") << Batch{} << u"No errors"_qs;
         QTest::newRow("both") << Batch{a({u"3:x"_qs, u"3:y"_qs}), b({u"2:z"_qs})}
-                              << u"There are 2 error(s) and 1 warning(s)"_qs;
+                              << u"There are 2 errors and 1 warning"_qs;
         QTest::newRow("errors, and a file without results")
-            << Batch{nullptr, a({u"3:x"_qs})} << u"There are 1 error(s)"_qs;
+            << Batch{nullptr, a({u"3:x"_qs})} << u"There is 1 error"_qs;
+        QTest::newRow("one warning") << Batch{a({u"2:x"_qs})} << u"There is 1 warning"_qs;
+        QTest::newRow("warnings") << Batch{a({u"2:x"_qs}), b({u"2:y"_qs, u"2:z"_qs})}
+                                  << u"There are 3 warnings"_qs;
     }
 
     void summary()
@@ -76,11 +79,11 @@ private Q_SLOTS:
             batch.insert(file->fileName(), file);
         window.displayErrors(batch);
 
-        QCOMPARE(window.summaryText(), u"There are 1 error(s) and 2 warning(s)"_qs);
+        QCOMPARE(window.summaryText(), u"There is 1 error and 2 warnings"_qs);
         const QAbstractItemModel &model = *window.errorsOutline()->model();
         QCOMPARE(lines(model),
                  QStringList({u"1 /photos/a/clean.jpg"_qs,
-                              u"3 Cannot save the file Łódź - y.jpg. See details bellow "
+                              u"3 Cannot save the file Łódź - y.jpg. See details below "
                               u"for more detailed information."_qs,
                               u"  2 first - /photos/b/x.jpg"_qs, u"  3 second"_qs,
                               u"2 /photos/b/x.jpg"_qs, u"  2 late"_qs}));
