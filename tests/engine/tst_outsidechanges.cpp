@@ -113,7 +113,7 @@ private Q_SLOTS:
         }
         const QByteArray theirs = readBytes(path);
 
-        const auto listener = save({file});
+        const auto listener = RunListener::save({file});
         QCOMPARE(listener->messages(path),
                  QStringList{u"3 changed.jpg was changed by another program after it was read; "
                              "reload it to see its new values."_qs});
@@ -129,9 +129,9 @@ private Q_SLOTS:
         const QString path = copyOfTemplate(u"twice.jpg"_qs);
         const ExifFileInfoPtr file = load(path);
         file->setExifValue(u"IFD0:ImageDescription"_qs, u"First"_qs);
-        QCOMPARE(save({file})->messages(path), QStringList());
+        QCOMPARE(RunListener::save({file})->messages(path), QStringList());
         file->setExifValue(u"IFD0:ImageDescription"_qs, u"Second"_qs);
-        QCOMPARE(save({file})->messages(path), QStringList());
+        QCOMPARE(RunListener::save({file})->messages(path), QStringList());
         QCOMPARE(tagOf(path, u"IFD0:ImageDescription"_qs), u"Second"_qs);
     }
 
@@ -212,7 +212,7 @@ private Q_SLOTS:
         const QByteArray bytes = readBytes(path);
         const qint64 mtime = modifiedNs(path);
 
-        const QStringList messages = save({file})->messages(path);
+        const QStringList messages = RunListener::save({file})->messages(path);
         struct stat after = {};
         QCOMPARE(::stat(QFile::encodeName(path).constData(), &after), 0);
         if (writesReadOnly) {
@@ -239,17 +239,6 @@ private:
         QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup |
                                         QFile::ReadOther);
         return path;
-    }
-
-    std::unique_ptr<RunListener> save(const QList<ExifFileInfoPtr> &files)
-    {
-        auto listener = std::make_unique<RunListener>();
-        WriteQueue runner;
-        listener->listen(runner);
-        runner.saveFiles(files, ExifOperationOption::ReReadFile);
-        if (!listener->wait())
-            qWarning("the batch did not finish");
-        return listener;
     }
 
     QTemporaryDir m_dir;

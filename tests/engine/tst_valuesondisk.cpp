@@ -32,18 +32,6 @@ QJsonObject tagsOf(const QString &path)
         .toObject();
 }
 
-// Saves through the background runner and gives the messages of each file.
-std::unique_ptr<RunListener> save(const QList<ExifFileInfoPtr> &files)
-{
-    auto listener = std::make_unique<RunListener>();
-    WriteQueue runner;
-    listener->listen(runner);
-    const qsizetype queued = runner.saveFiles(files, ExifOperationOption::ReReadFile);
-    if (queued > 0 && !listener->wait())
-        qWarning("the batch did not finish");
-    return listener;
-}
-
 } // namespace
 
 // What is on disk after a save is what the user typed, and only that.
@@ -80,14 +68,15 @@ private Q_SLOTS:
             QCOMPARE(files.last()->exifValue(u"IPTC:City"_qs), u" "_qs);
             QVERIFY(!isExifFileModified(*files.last()));
         }
-        save(files);
+        RunListener::save(files);
         for (int i = 0; i < 3; ++i) {
             QCOMPARE(Fixtures::readBytes(files.at(i)->fileName()), bytes.at(i));
             QCOMPARE(*FileIdentity::of(files.at(i)->fileName()), identities.at(i));
         }
 
         files.first()->setExifValue(u"IFD0:Artist"_qs, u"Ann"_qs);
-        QCOMPARE(save({files.first()})->messages(files.first()->fileName()), QStringList());
+        QCOMPARE(RunListener::save({files.first()})->messages(files.first()->fileName()),
+                 QStringList());
         const QJsonObject tags = tagsOf(files.first()->fileName());
         QCOMPARE(tags[u"IFD0:ImageDescription"_qs].toString(), QString(31, u' '));
         QCOMPARE(tags[u"IPTC:City"_qs].toString(), u" "_qs);
@@ -117,7 +106,7 @@ private Q_SLOTS:
         file->setExifValue(u"ExifIFD:FocalLength"_qs, language.toString(1234.5));
         file->setExifValue(u"GPS:GPSAltitude"_qs, language.toString(2345.5));
 
-        const QStringList messages = save({file})->messages(path);
+        const QStringList messages = RunListener::save({file})->messages(path);
         QVERIFY2(messages.isEmpty(), qPrintable(messages.join(u'\n')));
         const QJsonObject tags = tagsOf(path);
         QCOMPARE(tags[u"ExifIFD:ISO"_qs].toInt(), 12345);
@@ -148,7 +137,7 @@ private Q_SLOTS:
         QCOMPARE(file->exifValue(key), u"2013:05:01 10:00:00+02:00"_qs);
         file->setExifValue(key, edited);
         QVERIFY(isExifFileModified(*file));
-        const QStringList messages = save({file})->messages(path);
+        const QStringList messages = RunListener::save({file})->messages(path);
         QVERIFY2(messages.isEmpty(), qPrintable(messages.join(u'\n')));
         QCOMPARE(tagsOf(path)[key].toString(), edited);
     }
@@ -185,7 +174,7 @@ private Q_SLOTS:
         const ExifFileInfoPtr file = load(path);
         QVERIFY2(ExifFieldsController::defaultInstance()->field(key), qPrintable(key));
         file->setExifValue(key, value);
-        const QStringList messages = save({file})->messages(path);
+        const QStringList messages = RunListener::save({file})->messages(path);
         QVERIFY2(messages.isEmpty(), qPrintable(messages.join(u'\n')));
         QTEST(tagsOf(path)[key].toString(), "onDisk");
         QVERIFY(!isExifFileModified(*file));
@@ -224,7 +213,7 @@ private Q_SLOTS:
             file->removeExifValue(key);
         else
             file->setExifValue(key, value);
-        const QStringList messages = save({file})->messages(path);
+        const QStringList messages = RunListener::save({file})->messages(path);
         QVERIFY2(messages.isEmpty(), qPrintable(messages.join(u'\n')));
         const QJsonObject tags = tagsOf(path);
         QCOMPARE(tags[key].toString(), value);
@@ -260,7 +249,7 @@ private Q_SLOTS:
         QCOMPARE(Fixtures::makeImage(path, {u"-"_qs + key + u"=old"_qs}), QString());
         const ExifFileInfoPtr file = load(path);
         file->setExifValue(key, typed);
-        const QStringList messages = save({file})->messages(path);
+        const QStringList messages = RunListener::save({file})->messages(path);
         QVERIFY2(messages.isEmpty(), qPrintable(messages.join(u'\n')));
         const QJsonValue value = tagsOf(path).value(key);
         QStringList items;
