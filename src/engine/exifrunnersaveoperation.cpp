@@ -411,12 +411,9 @@ bool ExifRunnerSaveOperation::readsBackAsWritten(const QString &key, const QStri
             if (isNumber && numbersMatch(leadingNumber(got), expected, -1))
                 return true;
         }
-        // ExifTool's read drops the trailing blanks of an EXIF text (not of one made only of
-        // blanks).
-        qsizetype end = value.size();
-        while (end > 0 && value.at(end - 1).isSpace())
-            --end;
-        if (end > 0 && end < value.size() && got == QStringView(value).left(end))
+        // Not for a text made only of blanks, which the read keeps.
+        if (const QStringView kept = withoutTrailingBlanks(value);
+            !kept.isEmpty() && kept.size() < value.size() && got == kept)
             return true;
         break;
     }

@@ -57,6 +57,14 @@ QStringList changedKeys(const EditedValues &values, bool skipGenerated, bool sto
 
 } // namespace
 
+QStringView withoutTrailingBlanks(QStringView text)
+{
+    qsizetype end = text.size();
+    while (end > 0 && text.at(end - 1).isSpace())
+        --end;
+    return text.left(end);
+}
+
 std::optional<double> numberOfText(const QString &text)
 {
     // Values are shown in the user's locale ("12.345,6" in German) and typed either way.

@@ -55,5 +55,8 @@ bool valuesEqualForRepresentation(const QString &newValue, const QString &oldVal
 // Whether a row's value is an edit: two absent values are not.
 bool isValueModified(const QString &current, const QString &original,
                      FieldDataRepresentation representation);
+// The text without the blanks at its end, which ExifTool's read of an EXIF or IPTC text drops
+// (XMP keeps them).
+QStringView withoutTrailingBlanks(QStringView text);
 // A number as shown in the user's locale or written plainly; nullopt for anything else.
 std::optional<double> numberOfText(const QString &text);

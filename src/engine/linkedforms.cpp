@@ -56,17 +56,23 @@ LinkedForms LinkedForms::ofKey(const QString &key)
     return alone;
 }
 
+namespace {
+
+// What a row shows of copies taken in its order: the first with text, else the first present.
+void takeShown(QString &shown, const QString &value)
+{
+    if (shown.isEmpty() && (!value.isEmpty() || shown.isNull()))
+        shown = value;
+}
+
+} // namespace
+
 template <typename Lookup> QString LinkedForms::firstValue(const Lookup &lookup) const
 {
-    QString own;
-    for (qsizetype i = 0; i < m_keys.size(); ++i) {
-        QString value = rowValue(i, lookup(m_keys.at(i)));
-        if (!value.isEmpty())
-            return value;
-        if (own.isNull())
-            own = value;
-    }
-    return own;
+    QString shown;
+    for (qsizetype i = 0; i < m_keys.size() && shown.isEmpty(); ++i)
+        takeShown(shown, rowValue(i, lookup(m_keys.at(i))));
+    return shown;
 }
 
 QString LinkedForms::valueIn(const EditedValues &values) const
@@ -87,8 +93,7 @@ LinkedForms::Reading LinkedForms::read(const EditedValues &values) const
     bool any = false;
     for (qsizetype i = 0; i < m_keys.size(); ++i) {
         const QString value = rowValue(i, values.value(m_keys.at(i)));
-        if (reading.value.isEmpty() && (!value.isEmpty() || reading.value.isNull()))
-            reading.value = value;
+        takeShown(reading.value, value);
         if (value.isNull())
             continue;
         if (!any)
@@ -124,11 +129,7 @@ QString LinkedForms::comparable(const QString &value) const
         items.sort();
         return items.join(u'\n');
     }
-    // EXIF and IPTC readers drop trailing blanks that XMP keeps.
-    qsizetype end = value.size();
-    while (end > 0 && value.at(end - 1).isSpace())
-        --end;
-    return value.left(end);
+    return withoutTrailingBlanks(value).toString();
 }
 
 QList<LinkedForms::Copy> LinkedForms::differingCopies(const EditedValues &values) const
